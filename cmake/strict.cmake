@@ -1,0 +1,34 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What every target of the project is compiled with.
+add_library(quillon_strict INTERFACE)
+target_compile_options(quillon_strict INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Werror)
+target_include_directories(quillon_strict INTERFACE ${PROJECT_SOURCE_DIR})
+if(QUILLON_SANITIZE)
+    target_compile_options(quillon_strict INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(quillon_strict INTERFACE -fsanitize=address,undefined)
+endif()
+
+add_library(quillon_strict_qt INTERFACE)
+target_link_libraries(quillon_strict_qt INTERFACE quillon_strict)
+target_compile_definitions(quillon_strict_qt INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_USE_QSTRINGBUILDER
+    QT_NO_CONTEXTLESS_CONNECT)
+
+# Logic of one folder: plain C++, no Qt.
+function(quillon_logic name)
+    add_library(quillon_${name} STATIC ${ARGN})
+    add_library(quillon::${name} ALIAS quillon_${name})
+    set_target_properties(quillon_${name} PROPERTIES AUTOMOC OFF AUTORCC OFF)
+    target_link_libraries(quillon_${name} PRIVATE quillon_strict)
+    target_include_directories(quillon_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()
+
+# Forms of one folder, or another library that speaks to the desktop.
+function(quillon_forms name)
+    add_library(quillon_${name} STATIC ${ARGN})
+    add_library(quillon::${name} ALIAS quillon_${name})
+    target_link_libraries(quillon_${name} PUBLIC Qt6::Widgets PRIVATE quillon_strict_qt)
+    target_include_directories(quillon_${name} PUBLIC ${PROJECT_SOURCE_DIR})
+endfunction()

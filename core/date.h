@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+
+using Date = std::chrono::year_month_day;
+
+/// What the user's region says about dates. Month names are in Windows-1252.
+struct Region {
+    enum class Order { DayMonthYear, MonthDayYear, YearMonthDay };
+    Order order = Order::DayMonthYear;
+    std::array<std::string, 12> monthNames;       ///< January first, in full.
+    std::array<std::string, 12> shortMonthNames;  ///< January first, abbreviated.
+};
+
+/// The system's date conversion, or nothing where the text is no date.
+///
+/// Reads "19 Nov 94", "19-Nov-1994", "November 19, 1994", ISO "1994-11-19" and numeric dates in the
+/// region's order with "/", "-" or "." between. Month names are English or the region's, in full
+/// or abbreviated, in any case. A year of two digits falls in the hundred years that end twenty
+/// years after `today`. A date without a year, or one that no calendar has, is no date.
+std::optional<Date> ReadDate(std::string_view text, const Region& region, Date today);
+
+/// As `ReadDate`, but throws a `Failure` that names `where` and the text that is no date.
+Date DateFromText(std::string_view text, const Region& region, Date today, std::string_view where);
+
+/// The medium date form "dd-MMM-yyyy" with English month names.
+std::string MediumDate(Date date);
+
+/// The form of the draw files, "dd MMM yy", with English month names.
+std::string DrawDate(Date date);
+
+/// Sunday is 1, Saturday is 7.
+int WeekdayNumber(Date date);
+
+/// Days from `from` to `to`; negative where `to` lies before.
+int DaysBetween(Date from, Date to);
+
+/// The date `days` later.
+Date DaysAfter(Date date, int days);

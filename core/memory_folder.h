@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/program_folder.h"
+
+/// A program folder in memory, which can be told to fail.
+class MemoryFolder final : public ProgramFolder {
+  public:
+    bool Exists(std::string_view name) const override;
+    std::string Read(std::string_view name) const override;
+    void Write(std::string_view name, std::string_view bytes) override;
+    void Append(std::string_view name, std::string_view records) override;
+    std::vector<std::string> Find(std::string_view pattern) const override;
+    void Copy(std::string_view from, std::string_view to) override;
+    void Delete(std::string_view name) override;
+    Date FileDate(std::string_view name) const override;
+    bool FolderExists(std::string_view name) const override;
+    void MakeFolder(std::string_view name) override;
+
+    /// Writing fails once this many more bytes have been written; nothing: it never fails.
+    void FailAfterBytes(std::optional<std::size_t> bytes) { bytesLeft_ = bytes; }
+
+    /// The operation number `count` from now on, counting from 0, fails whatever it is.
+    void FailAtOperation(std::optional<std::size_t> count) { operationsLeft_ = count; }
+
+    /// The file stays listed but can no longer be read or written.
+    void Lock(std::string_view name);
+
+    void SetFileDate(std::string_view name, Date date);
+
+    /// Every file with its bytes, by name, as a picture to compare with a later one.
+    std::map<std::string, std::string> Snapshot() const;
+
+  private:
+    struct File {
+        std::string name;
+        std::string bytes;
+        Date date;
+        bool locked = false;
+    };
+
+    void Count(std::string_view name) const;
+    void Store(std::string_view name, std::string bytes);
+
+    std::map<std::string, File> files_;  // by lower-cased name
+    std::set<std::string> folders_;      // lower-cased
+    std::optional<std::size_t> bytesLeft_;
+    mutable std::optional<std::size_t> operationsLeft_;
+};

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/date.h"
+
+/// The program's folder: the only way to files.
+///
+/// Files are named bare, or with one folder in front ("Backup/quillon.ini"). Names match without
+/// regard to case. Contents are bytes. A write either leaves the whole new file on disk or the old
+/// one untouched. What cannot be done throws a `Failure` that names the file and the reason.
+class ProgramFolder {
+  public:
+    virtual ~ProgramFolder() = default;
+
+    virtual bool Exists(std::string_view name) const = 0;
+
+    /// The whole file. Fails where there is none, or where the name is no regular file of at most
+    /// 64 MiB.
+    virtual std::string Read(std::string_view name) const = 0;
+
+    /// Replaces or creates the file.
+    virtual void Write(std::string_view name, std::string_view bytes) = 0;
+
+    /// Adds whole records to the end of the file, or creates it. Where the file does not end with a
+    /// line end, one is put before the records, so that they start on a line of their own.
+    virtual void Append(std::string_view name, std::string_view records) = 0;
+
+    /// Names of the files that match the pattern of "*" and "?", in the order of their lower-cased
+    /// characters.
+    virtual std::vector<std::string> Find(std::string_view pattern) const = 0;
+
+    /// Copies a file over another or to a new one.
+    virtual void Copy(std::string_view from, std::string_view to) = 0;
+
+    virtual void Delete(std::string_view name) = 0;
+
+    /// The day on which the file was last written.
+    virtual Date FileDate(std::string_view name) const = 0;
+
+    virtual bool FolderExists(std::string_view name) const = 0;
+
+    virtual void MakeFolder(std::string_view name) = 0;
+};
+
+/// Whether the name matches the pattern of "*" and "?", without regard to case.
+bool NameMatches(std::string_view name, std::string_view pattern);
+
+/// What an append writes: the old bytes, a line end where they lack one, the new records.
+std::string Appended(std::string_view oldBytes, std::string_view records);

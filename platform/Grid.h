@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QTableView>
+#include <vector>
+
+class GridModel;
+
+/// The table of texts that the forms share.
+///
+/// Row 0 is the headings; grid row r is row r - 1 of the model, columns are those of the model.
+/// A cell outside the grid is a `Failure`. The grid is light on every desktop, its cells are centred,
+/// and it is as wide as its columns plus a scroll bar and 90 twips.
+class Grid final : public QTableView {
+    Q_OBJECT
+  public:
+    /// A grid of `rowCount` rows, the headings' row included, all cells empty.
+    Grid(int rowCount, int columnCount, QWidget* parent = nullptr);
+
+    int RowCount() const;
+    int ColumnCount() const;
+    void SetRowCount(int rowCount);
+
+    QString Cell(int row, int column) const;
+    void SetCell(int row, int column, const QString& text);
+
+    /// Text colour of a cell; an invalid colour takes it back.
+    void SetCellColour(int row, int column, const QColor& colour);
+    QColor CellColour(int row, int column) const;
+
+    /// Empties every cell below the headings.
+    void ClearCells();
+
+    /// Every column as wide as the text "00000000", the grid as wide as told above.
+    void SizeColumns();
+
+    /// Widths by column in place of equal ones; the grid's own width follows.
+    void SetColumnWidths(const std::vector<int>& widths);
+
+    /// The row that is current while none is; 0 where the grid has no parking place.
+    void SetParkingRow(int row);
+
+    /// The current row: the parking row where no cell is current.
+    int CurrentRow() const;
+
+    /// Makes a cell current without marking anything; the parking row takes the choice away.
+    void SetCurrentCell(int row, int column);
+
+    /// Makes the row current, its last column the current one, and marks the whole row.
+    void MarkRow(int row);
+
+    void ScrollToTop();
+    void ScrollToRow(int row);
+
+  Q_SIGNALS:
+    /// A click on a cell, or a move of the current cell by the keyboard. Rows as in the grid.
+    void cellClicked(int row, int column);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QModelIndex IndexOf(int row, int column) const;
+    void FitWidth();
+
+    GridModel* model_;
+    int parkingRow_ = 0;
+};

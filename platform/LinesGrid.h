@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+
+#include "core/state.h"
+
+class Grid;
+
+/// Dark red, the colour of the extra ball's column: value 160.
+QColor ExtraBallColour();
+
+/// Headings of the grid of lines: "Line", "Num1" to "Num7", "Pball", the last in dark red.
+void SetLinesHeadings(Grid& grid);
+
+/// Empties the grid and sets its headings, as for a new lottery.
+void ClearLinesGrid(Grid& grid);
+
+/// Shows `state.Lines`: one row a line, empty cells for 0, the extra ball in dark red; wipes what a
+/// longer result left and scrolls to the top. The grid needs a row more than there are lines.
+void ShowLines(const State& state, Grid& grid);

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QComboBox>
+#include <QListWidget>
+
+/// A list box whose `clicked` runs once for each change of selection, by mouse, keyboard or code, and
+/// once for a click on the entry already chosen.
+class ListBox final : public QListWidget {
+    Q_OBJECT
+  public:
+    explicit ListBox(QWidget* parent = nullptr);
+
+    /// The chosen entry, from 0; -1 where none is.
+    int Index() const;
+
+    /// Chooses an entry, which runs its click where that is a change; -1 chooses none, without a
+    /// click. An entry that the list does not have is a `Failure`.
+    void SetIndex(int index);
+
+  Q_SIGNALS:
+    void clicked();
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    int lastIndex_ = -1;
+    bool changedByThisPress_ = false;
+};
+
+/// The same as a box that drops down.
+class ComboList final : public QComboBox {
+    Q_OBJECT
+  public:
+    explicit ComboList(QWidget* parent = nullptr);
+
+    int Index() const { return currentIndex(); }
+    void SetIndex(int index);
+
+  Q_SIGNALS:
+    void clicked();
+
+  private:
+    int lastIndex_ = -1;
+};

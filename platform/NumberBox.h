@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+
+/// A box that takes digits and Backspace from the keyboard; other keys that would write are dropped.
+/// Delete works, and pasting drops what is no digit.
+class NumberBox final : public QLineEdit {
+    Q_OBJECT
+  public:
+    explicit NumberBox(QWidget* parent = nullptr);
+
+    /// The number in the box, 0 where there is none.
+    int Value() const;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "core/date.h"
+#include "core/program_folder.h"
+#include "core/random.h"
+#include "core/state.h"
+
+class Grid;
+class MessageBoxes;
+class QWidget;
+
+/// The world outside the program, built once in `main()`; tests bring their own.
+struct Services {
+    std::function<double()> seconds;                     ///< Monotonic clock, in seconds.
+    std::function<Date()> today;                         ///< The calendar day.
+    Random& random;                                      ///< Source of random numbers.
+    Region region;                                       ///< Dates as the user's region writes them.
+    MessageBoxes& messages;                              ///< Modal questions.
+    std::function<void(const QString&)> openPage;        ///< Opens a web address or a file of the
+                                                         ///< program's folder, without waiting.
+    std::function<void(QWidget*, Grid&)> saveLines;      ///< Saves the lines of a grid.
+    std::function<void(QWidget*, Grid&)> printLines;     ///< Prints them; none: not available yet.
+};
+
+/// What every form is given.
+struct Program {
+    State& state;
+    ProgramFolder& folder;
+    Services& services;
+};

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <span>
+
+#include "platform/Form.h"
+
+/// One way into a form.
+struct CatalogueEntry {
+    const char* menuEntry;  ///< Name of the menu entry that opens it; empty: opened by another form.
+    const char* form;       ///< The form's name.
+    /// Makes the form, not yet loaded; none where the form does not exist yet.
+    std::unique_ptr<Form> (*make)(Program&, QWidget* parent) = nullptr;
+    /// Sets the option with which this entry opens the form, after it has been loaded.
+    void (*prepare)(Form&) = nullptr;
+    /// Whether the form creates, deletes or downloads databases.
+    bool changesDatabases = false;
+};
+
+/// Every form with the menu entry that opens it. The main window, the tests and the screenshot tool
+/// walk it.
+std::span<const CatalogueEntry> FormCatalogue();
