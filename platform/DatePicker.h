@@ -15,4 +15,16 @@ class DatePicker final : public QDateEdit {
 
     Date Value() const;
     void SetValue(Date date);
+
+    void stepBy(int steps) override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    QDate InWindow(const QDate& date) const;
+
+    int lastYear_;
+    bool twoDigits_;
+    bool typing_ = false;
 };

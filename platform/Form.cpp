@@ -1,2 +1,73 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/Form.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+
+#include "platform/Skin.h"
+
+Form::Form(Program& program, const QString& name, const QString& caption, QWidget* parent)
+    : QDialog(parent), program_(program), helpPage_(QStringLiteral("help.html")) {
+    setObjectName(name);
+    setWindowTitle(caption);
+}
+
+void Form::reject() { CloseAsTheUserDoes(); }
+
+void Form::CloseAsTheUserDoes() {
+    if (unloading_ || closeButton_ == nullptr) {
+        QDialog::reject();
+    } else {
+        closeButton_->click();
+    }
+}
+
+// Qt would make a default button of the first one in the dialog, and of any that has the focus.
+void Form::setVisible(bool visible) {
+    if (visible) {
+        const auto buttons = findChildren<QPushButton*>();
+        for (QPushButton* button : buttons) button->setAutoDefault(false);
+    }
+    QDialog::setVisible(visible);
+}
+
+void Form::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        services().openPage(helpPage_);
+        return;
+    }
+    QDialog::keyPressEvent(event);
+}
+
+void Form::closeEvent(QCloseEvent* event) {
+    if (unloading_ || !isVisible()) {
+        event->accept();
+        return;
+    }
+    CloseAsTheUserDoes();
+    event->setAccepted(!isVisible());
+}
+
+void Form::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    if (picture_.isNull()) return;
+    QPainter painter(this);
+    PaintSkin(painter, rect(), picture_, palette());
+}
+
+void Form::Unload() {
+    unloading_ = true;
+    done(Rejected);
+    unloading_ = false;
+}
+
+void Form::Skinning(const QString& pictureFile, const SkinLabels& labels) {
+    const bool pictures = SkinChoiceOf(state()).pictures;
+    const QPixmap picture = SkinPicture(state(), folder(), pictureFile);
+    if (!pictures || !picture.isNull()) picture_ = picture;
+    ApplySkinColours(state(), *this, labels);
+    update();
+}

@@ -19,8 +19,9 @@ struct SkinLabels {
 
 /// A form opened modally from the main window.
 ///
-/// Esc and the title bar's cross click the form's close button, F1 opens its help page. A form does
-/// its loading in `Load()`, which its opener calls once before `exec()`.
+/// Esc and the title bar's cross click the form's close button, F1 opens its help page, Enter
+/// clicks the button that was made the default one and no other. A form does its loading in
+/// `Load()`, which its opener calls once before `exec()`.
 class Form : public QDialog {
     Q_OBJECT
   public:
@@ -31,6 +32,7 @@ class Form : public QDialog {
     virtual void Load() {}
 
     void reject() override;
+    void setVisible(bool visible) override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -56,6 +58,8 @@ class Form : public QDialog {
     void Skinning(const QString& pictureFile, const SkinLabels& labels);
 
   private:
+    void CloseAsTheUserDoes();
+
     Program& program_;
     QString helpPage_;
     QAbstractButton* closeButton_ = nullptr;

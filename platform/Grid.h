@@ -11,8 +11,8 @@ class GridModel;
 /// The table of texts that the forms share.
 ///
 /// Row 0 is the headings; grid row r is row r - 1 of the model, columns are those of the model.
-/// A cell outside the grid is a `Failure`. The grid is light on every desktop, its cells are centred,
-/// and it is as wide as its columns plus a scroll bar and 90 twips.
+/// A cell outside the grid is a `Failure`. The grid is light on every desktop, its cells are
+/// centred, and it is as wide as its columns plus a scroll bar and 90 twips.
 class Grid final : public QTableView {
     Q_OBJECT
   public:
@@ -52,6 +52,8 @@ class Grid final : public QTableView {
     void MarkRow(int row);
 
     void ScrollToTop();
+
+    /// Scrolls as little as brings the row into view.
     void ScrollToRow(int row);
 
   Q_SIGNALS:
@@ -60,10 +62,13 @@ class Grid final : public QTableView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
   private:
     QModelIndex IndexOf(int row, int column) const;
+    void SetUpView();
     void FitWidth();
+    void CopySelection() const;
 
     GridModel* model_;
     int parkingRow_ = 0;

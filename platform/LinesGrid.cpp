@@ -1,2 +1,49 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/LinesGrid.h"
+
+#include <QCoreApplication>
+
+#include "platform/Grid.h"
+#include "platform/Skin.h"
+
+namespace {
+
+constexpr int extraBallColumn = 8;
+
+QString NumberOrNothing(int number) { return number > 0 ? QString::number(number) : QString(); }
+
+}  // namespace
+
+QColor ExtraBallColour() { return ToQColor(160); }
+
+void SetLinesHeadings(Grid& grid) {
+    grid.SetCell(0, 0, QCoreApplication::translate("LinesGrid", "Line"));
+    for (int column = 1; column < extraBallColumn; ++column) {
+        grid.SetCell(0, column,
+                     QCoreApplication::translate("LinesGrid", "Num") + QString::number(column));
+    }
+    grid.SetCell(0, extraBallColumn, QCoreApplication::translate("LinesGrid", "Pball"));
+    grid.SetCellColour(0, extraBallColumn, ExtraBallColour());
+}
+
+void ClearLinesGrid(Grid& grid) {
+    grid.ClearCells();
+    SetLinesHeadings(grid);
+}
+
+void ShowLines(const State& state, Grid& grid) {
+    int row = 1;
+    for (; state.Lines(row, 1) >= 1; ++row) {
+        grid.SetCell(row, 0, QString::number(row));
+        for (int column = 1; column <= extraBallColumn; ++column) {
+            grid.SetCell(row, column, NumberOrNothing(state.Lines(row, column)));
+        }
+        grid.SetCellColour(row, extraBallColumn, ExtraBallColour());
+    }
+    for (; !grid.Cell(row, 0).isEmpty(); ++row) {
+        for (int column = extraBallColumn; column >= 0; --column) {
+            grid.SetCell(row, column, QString());
+        }
+    }
+    grid.ScrollToTop();
+}

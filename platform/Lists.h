@@ -3,9 +3,10 @@
 
 #include <QComboBox>
 #include <QListWidget>
+#include <QPersistentModelIndex>
 
-/// A list box whose `clicked` runs once for each change of selection, by mouse, keyboard or code, and
-/// once for a click on the entry already chosen.
+/// A list box whose `clicked` runs once for each change of selection, by mouse, keyboard or code,
+/// and once for a click on the entry already chosen.
 class ListBox final : public QListWidget {
     Q_OBJECT
   public:
@@ -24,13 +25,21 @@ class ListBox final : public QListWidget {
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void rowsAboutToBeRemoved(const QModelIndex& parent, int first, int last) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* event) const override;
 
   private:
-    int lastIndex_ = -1;
+    void FollowSelection();
+
+    QPersistentModelIndex chosen_;
+    QPersistentModelIndex pressed_;
     bool changedByThisPress_ = false;
 };
 
-/// The same as a box that drops down.
+/// The same as a box that drops down. Entries added to an empty box leave nothing chosen.
 class ComboList final : public QComboBox {
     Q_OBJECT
   public:
@@ -39,9 +48,14 @@ class ComboList final : public QComboBox {
     int Index() const { return currentIndex(); }
     void SetIndex(int index);
 
+    void showPopup() override;
+
   Q_SIGNALS:
     void clicked();
 
   private:
-    int lastIndex_ = -1;
+    void FollowIndex(int index);
+
+    QPersistentModelIndex chosen_;
+    int indexAtPopup_ = -1;
 };

@@ -3,14 +3,14 @@
 
 #include <QLineEdit>
 
-/// A box that takes digits and Backspace from the keyboard; other keys that would write are dropped.
-/// Delete works, and pasting drops what is no digit.
+/// A box that takes digits and Backspace from the keyboard; other keys that would write are
+/// dropped. Delete works, and pasting drops what is no digit.
 class NumberBox final : public QLineEdit {
     Q_OBJECT
   public:
     explicit NumberBox(QWidget* parent = nullptr);
 
-    /// The number in the box, 0 where there is none.
+    /// The number in the box, 0 where there is none; what is too large is the largest `int`.
     int Value() const;
 
   protected:
