@@ -25,11 +25,15 @@ std::string PlainDigits(long long value);
 std::string GroupedDigits(long long value);
 
 /// A number with a decimal point and exactly `decimals` places in every region: "0.000". Halves
-/// round away from zero.
+/// round away from zero, as the first fifteen digits of the number show them: 1.005 gives "1.01".
 std::string FixedText(double value, int decimals);
 
 /// The text without blanks (32) at both ends.
 std::string Trim(std::string_view text);
+
+/// The text in double quotes as a report shows what stands in a file: at most 40 characters,
+/// control characters as "?".
+std::string Quoted(std::string_view text);
 
 /// Upper case of Windows-1252 letters, accented ones included, whatever the locale.
 std::string UpperCase(std::string_view text);
