@@ -20,7 +20,8 @@ class Random {
     /// Uniform in [0, 1), from the 53 high bits of one step of the engine.
     double Next() { return static_cast<double>(engine_() >> 11U) * 0x1.0p-53; }
 
-    /// The whole part of `count` times a uniform number, plus 1: from 1 to `count`; 1 where `count` is 0.
+    /// The whole part of `count` times a uniform number, plus 1: from 1 to `count`; 1 where `count`
+    /// is 0.
     int OneTo(int count) { return static_cast<int>(count * Next()) + 1; }
 
   private:
