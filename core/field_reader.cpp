@@ -1,2 +1,93 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/field_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/text.h"
+
+namespace {
+
+bool IsLineEnd(char character) { return character == '\r' || character == '\n'; }
+
+}  // namespace
+
+FieldReader::FieldReader(std::string_view content, std::string fileName, Quotes quotes)
+    : content_(content), fileName_(std::move(fileName)), quotes_(quotes) {}
+
+bool FieldReader::AtEnd() const { return position_ == content_.size() && !fieldPending_; }
+
+std::string_view FieldReader::ReadField(std::string_view expected) {
+    RequireMore(expected);
+    line_ = nextLine_;
+    const std::size_t start = std::min(content_.find_first_not_of(' ', position_), content_.size());
+    const std::size_t quote = ClosingQuote(start);
+    const bool quoted = quote != std::string_view::npos;
+    position_ = FieldEnd(quoted ? quote : start);
+    std::size_t first = quoted ? start + 1 : start;
+    std::size_t last = quoted ? quote : position_;
+    while (!quoted && last > first && content_[last - 1] == ' ') --last;
+    const bool comma = position_ < content_.size() && content_[position_] == ',';
+    if (comma) {
+        ++position_;
+    } else {
+        PassLineEnd();
+    }
+    fieldPending_ = comma && position_ == content_.size();
+    return content_.substr(first, last - first);
+}
+
+std::string_view FieldReader::ReadLine(std::string_view expected) {
+    RequireMore(expected);
+    line_ = nextLine_;
+    fieldPending_ = false;
+    const std::size_t start = position_;
+    while (position_ < content_.size() && !IsLineEnd(content_[position_])) ++position_;
+    const std::string_view line = content_.substr(start, position_ - start);
+    PassLineEnd();
+    return line;
+}
+
+std::string_view FieldReader::Rest() {
+    line_ = nextLine_;
+    fieldPending_ = false;
+    return content_.substr(std::exchange(position_, content_.size()));
+}
+
+Failure FieldReader::Unexpected(std::string_view expected, std::string_view found) const {
+    return FailureInFile(
+        fileName_, line_,
+        "expected " + std::string(expected) + ", but " + Quoted(found) + " stands there.");
+}
+
+void FieldReader::RequireMore(std::string_view expected) const {
+    if (!AtEnd()) return;
+    throw FailureInFile(fileName_, nextLine_,
+                        "expected " + std::string(expected) + ", but the file ends there.");
+}
+
+std::size_t FieldReader::FieldEnd(std::size_t start) const {
+    std::size_t end = start;
+    while (end < content_.size() && content_[end] != ',' && !IsLineEnd(content_[end])) ++end;
+    return end;
+}
+
+// Where the field at `start` stands in quotes, the place of the closing one: the first behind which
+// the field ends.
+std::size_t FieldReader::ClosingQuote(std::size_t start) const {
+    constexpr std::size_t none = std::string_view::npos;
+    if (quotes_ == Quotes::Kept || start == content_.size() || content_[start] != '"') return none;
+    for (std::size_t i = start + 1; i < content_.size() && !IsLineEnd(content_[i]); ++i) {
+        if (content_[i] != '"') continue;
+        const std::size_t next = std::min(content_.find_first_not_of(' ', i + 1), content_.size());
+        if (FieldEnd(next) == next) return i;
+    }
+    return none;
+}
+
+void FieldReader::PassLineEnd() {
+    if (position_ == content_.size()) return;
+    const bool pair = content_.substr(position_, 2) == "\r\n";
+    position_ += pair ? 2 : 1;
+    ++nextLine_;
+}

@@ -5,16 +5,24 @@
 #include <string>
 #include <string_view>
 
+#include "core/failure.h"
+
 /// Reads the texts that a file holds, field by field or line by line.
 ///
 /// A field ends at a comma or at a line end, which are no different: a record with a missing field
-/// takes its next one from the following line. Blanks around a field do not count. Double quotes
-/// around a field are removed, and a comma between them belongs to the field. Line ends are CR LF,
-/// LF or CR. A comma at the very end of the file leaves one more, empty, field.
+/// takes its next one from the following line. Blanks around a field do not count. Line ends are
+/// CR LF, LF or CR. A comma at the very end of the file leaves one more, empty, field.
 class FieldReader {
   public:
+    /// What double quotes around a field mean.
+    enum class Quotes {
+        Kept,     ///< Nothing: they belong to the field, as in all files that quote nothing.
+        Removed,  ///< They are removed, and commas and blanks between them belong to the field. A
+                  ///< quote that the same line does not close is kept.
+    };
+
     /// `content` is the whole file and must outlive the reader; `fileName` is for reports.
-    FieldReader(std::string_view content, std::string fileName);
+    FieldReader(std::string_view content, std::string fileName, Quotes quotes = Quotes::Kept);
 
     /// Whether nothing is left, not even an empty field or line.
     bool AtEnd() const;
@@ -32,11 +40,20 @@ class FieldReader {
     /// The line, from 1, in which the last field or line began; 1 before the first.
     int Line() const { return line_; }
 
+    /// The failure that says what was expected in the last field or line, and what stands there.
+    Failure Unexpected(std::string_view expected, std::string_view found) const;
+
     const std::string& FileName() const { return fileName_; }
 
   private:
+    void RequireMore(std::string_view expected) const;
+    std::size_t FieldEnd(std::size_t start) const;
+    std::size_t ClosingQuote(std::size_t start) const;
+    void PassLineEnd();
+
     std::string_view content_;
     std::string fileName_;
+    Quotes quotes_;
     std::size_t position_ = 0;
     bool fieldPending_ = false;  // a comma was the last thing read
     int line_ = 1;

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/field_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tests/core/failures.h"
+
+namespace {
+
+using Quotes = FieldReader::Quotes;
+
+std::vector<std::string> Fields(std::string_view content, Quotes quotes = Quotes::Kept) {
+    FieldReader reader(content, "test.txt", quotes);
+    std::vector<std::string> fields;
+    while (!reader.AtEnd()) fields.emplace_back(reader.ReadField("a field"));
+    return fields;
+}
+
+using Texts = std::vector<std::string>;
+
+}  // namespace
+
+TEST(FieldReader, EndsAFieldAtACommaOrALineEnd) {
+    EXPECT_EQ(Fields("a,b\r\nc,d\r\n"), (Texts{"a", "b", "c", "d"}));
+}
+
+TEST(FieldReader, TakesCarriageReturnLineFeedAndBothAsLineEnds) {
+    EXPECT_EQ(Fields("a\nb\rc\r\nd"), (Texts{"a", "b", "c", "d"}));
+    EXPECT_EQ(Fields("a\n\rb"), (Texts{"a", "", "b"}));
+}
+
+TEST(FieldReader, TakesNoAccountOfBlanksAroundAField) {
+    EXPECT_EQ(Fields("  a b  ,   c\r\n  d  "), (Texts{"a b", "c", "d"}));
+    EXPECT_EQ(Fields("   ,  \r\nx"), (Texts{"", "", "x"}));
+}
+
+TEST(FieldReader, ReadsEmptyFields) { EXPECT_EQ(Fields("a,,b\r\n"), (Texts{"a", "", "b"})); }
+
+TEST(FieldReader, ReadsAnEmptyLineAsAnEmptyField) {
+    EXPECT_EQ(Fields("a\r\n\r\n"), (Texts{"a", ""}));
+}
+
+TEST(FieldReader, FindsOneMoreEmptyFieldBehindACommaAtTheVeryEnd) {
+    EXPECT_EQ(Fields("a,"), (Texts{"a", ""}));
+    EXPECT_EQ(Fields(","), (Texts{"", ""}));
+    EXPECT_EQ(Fields("a,\r\n"), (Texts{"a", ""}));
+}
+
+TEST(FieldReader, IsAtTheEndOnlyWhenNothingAtAllIsLeft) {
+    EXPECT_TRUE(FieldReader("", "test.txt").AtEnd());
+    EXPECT_FALSE(FieldReader(" ", "test.txt").AtEnd());
+    EXPECT_FALSE(FieldReader("\r\n", "test.txt").AtEnd());
+}
+
+TEST(FieldReader, KeepsQuotesWhereTheFileQuotesNothing) {
+    EXPECT_EQ(Fields("\"a,b\""), (Texts{"\"a", "b\""}));
+}
+
+TEST(FieldReader, RemovesQuotesAroundAField) {
+    EXPECT_EQ(Fields("\"a\",\"\", \"b\" \r\nc", Quotes::Removed), (Texts{"a", "", "b", "c"}));
+}
+
+TEST(FieldReader, KeepsCommasAndBlanksBetweenQuotes) {
+    EXPECT_EQ(Fields("\" 1, High Street \",x", Quotes::Removed), (Texts{" 1, High Street ", "x"}));
+}
+
+TEST(FieldReader, KeepsAQuoteThatItsLineDoesNotClose) {
+    EXPECT_EQ(Fields("\"a\r\nb\"", Quotes::Removed), (Texts{"\"a", "b\""}));
+    EXPECT_EQ(Fields("\"", Quotes::Removed), (Texts{"\""}));
+}
+
+TEST(FieldReader, KeepsQuotesWithinAField) {
+    EXPECT_EQ(Fields("\"Joe \"Boss\" Smith\",5\"", Quotes::Removed),
+              (Texts{"Joe \"Boss\" Smith", "5\""}));
+}
+
+TEST(FieldReader, ReadsALineWithItsCommasAndBlanks) {
+    FieldReader reader(" Lotto, the old one \r\nhttp://x.example\nend", "test.txt");
+    EXPECT_EQ(reader.ReadLine("a line"), " Lotto, the old one ");
+    EXPECT_EQ(reader.ReadLine("a line"), "http://x.example");
+    EXPECT_EQ(reader.ReadLine("a line"), "end");
+    EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, ReadsTheRestOfALineBehindAField) {
+    FieldReader reader("a,b,c\r\nd", "test.txt");
+    reader.ReadField("a field");
+    EXPECT_EQ(reader.ReadLine("a line"), "b,c");
+    EXPECT_EQ(reader.ReadField("a field"), "d");
+}
+
+TEST(FieldReader, ReadsAnEmptyLineBehindACommaAtTheVeryEnd) {
+    FieldReader reader("a,", "test.txt");
+    reader.ReadField("a field");
+    EXPECT_EQ(reader.ReadLine("a line"), "");
+    EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, GivesAllThatIsLeftAsItStands) {
+    FieldReader reader("a\r\n b, c\r\n\r\n", "test.txt");
+    reader.ReadField("a field");
+    EXPECT_EQ(reader.Rest(), " b, c\r\n\r\n");
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_EQ(reader.Rest(), "");
+}
+
+TEST(FieldReader, CountsTheLinesInWhichFieldsBegin) {
+    FieldReader reader("a,b\r\nc\n\rd", "test.txt");
+    EXPECT_EQ(reader.Line(), 1);
+    const std::vector<int> lines = {1, 1, 2, 3, 4};
+    for (const int line : lines) {
+        reader.ReadField("a field");
+        EXPECT_EQ(reader.Line(), line);
+    }
+}
+
+TEST(FieldReader, SaysWhichFieldTheEndOfTheFileCutOff) {
+    FieldReader reader("a,b\r\n", "dbase1.txt");
+    reader.ReadField("x");
+    reader.ReadField("x");
+    const std::string expected =
+        "dbase1.txt, line 2: expected the number in column 3 of a draw, but the file ends there.";
+    EXPECT_EQ(FailureOf([&] { reader.ReadField("the number in column 3 of a draw"); }), expected);
+    EXPECT_EQ(FailureOf([&] { reader.ReadLine("the number in column 3 of a draw"); }), expected);
+}
+
+TEST(FieldReader, SaysWhatStandsInPlaceOfWhatWasExpected) {
+    FieldReader reader("a\r\nb", "dbase1.txt");
+    reader.ReadField("x");
+    reader.ReadField("x");
+    EXPECT_STREQ(reader.Unexpected("a number", "b").what(),
+                 "dbase1.txt, line 2: expected a number, but \"b\" stands there.");
+}
