@@ -1,2 +1,123 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/memory_folder.h"
+
+#include <utility>
+
+#include "core/failure.h"
+#include "core/text.h"
+
+namespace {
+
+constexpr Date undated = std::chrono::January / 1 / 2000;
+
+Failure Refused(std::string_view name, std::string_view what) {
+    return Failure(std::string(name) + ": " + std::string(what));
+}
+
+std::string FolderOf(std::string_view name) {
+    const std::size_t slash = name.find('/');
+    return slash == std::string_view::npos ? std::string() : LowerCase(name.substr(0, slash));
+}
+
+}  // namespace
+
+bool MemoryFolder::Exists(std::string_view name) const { return files_.count(LowerCase(name)) > 0; }
+
+std::string MemoryFolder::Read(std::string_view name) const {
+    Count(name);
+    return Stored(name).bytes;
+}
+
+void MemoryFolder::Write(std::string_view name, std::string_view bytes) {
+    Count(name);
+    Store(name, std::string(bytes));
+}
+
+void MemoryFolder::Append(std::string_view name, std::string_view records) {
+    Count(name);
+    Store(name, Appended(Exists(name) ? Stored(name).bytes : std::string(), records));
+}
+
+std::vector<std::string> MemoryFolder::Find(std::string_view pattern) const {
+    Count(pattern);
+    std::vector<std::string> names;
+    for (const auto& [key, file] : files_) {
+        if (FolderOf(key) == FolderOf(pattern) && NameMatches(key, pattern))
+            names.push_back(file.name);
+    }
+    return names;
+}
+
+void MemoryFolder::Copy(std::string_view from, std::string_view to) {
+    Count(from);
+    const File source = Stored(from);
+    Store(to, source.bytes);
+    SetFileDate(to, source.date);
+}
+
+void MemoryFolder::Delete(std::string_view name) {
+    Count(name);
+    Stored(name);
+    files_.erase(LowerCase(name));
+}
+
+Date MemoryFolder::FileDate(std::string_view name) const {
+    Count(name);
+    const auto found = files_.find(LowerCase(name));
+    if (found == files_.end()) throw Refused(name, "there is no such file.");
+    return found->second.date;
+}
+
+bool MemoryFolder::FolderExists(std::string_view name) const {
+    return folders_.count(LowerCase(name)) > 0;
+}
+
+void MemoryFolder::MakeFolder(std::string_view name) {
+    Count(name);
+    if (!folders_.insert(LowerCase(name)).second)
+        throw Refused(name, "there is such a folder already.");
+}
+
+void MemoryFolder::Lock(std::string_view name) {
+    Stored(name);
+    files_[LowerCase(name)].locked = true;
+}
+
+void MemoryFolder::SetFileDate(std::string_view name, Date date) {
+    Stored(name);
+    files_[LowerCase(name)].date = date;
+}
+
+std::map<std::string, std::string> MemoryFolder::Snapshot() const {
+    std::map<std::string, std::string> picture;
+    for (const auto& [key, file] : files_) picture[file.name] = file.bytes;
+    return picture;
+}
+
+void MemoryFolder::Count(std::string_view name) const {
+    if (!operationsLeft_) return;
+    if (*operationsLeft_ == 0) throw Refused(name, "the folder was told to fail here.");
+    --*operationsLeft_;
+}
+
+const MemoryFolder::File& MemoryFolder::Stored(std::string_view name) const {
+    const auto found = files_.find(LowerCase(name));
+    if (found == files_.end()) throw Refused(name, "there is no such file.");
+    if (found->second.locked) throw Refused(name, "the file is locked.");
+    return found->second;
+}
+
+void MemoryFolder::Store(std::string_view name, std::string bytes) {
+    const std::string folder = FolderOf(name);
+    if (!folder.empty() && !FolderExists(folder)) throw Refused(name, "there is no such folder.");
+    if (FolderExists(name)) throw Refused(name, "there is a folder of that name.");
+    if (Exists(name)) Stored(name);
+    if (bytesLeft_ && bytes.size() > *bytesLeft_) {
+        bytesLeft_ = 0;
+        throw Refused(name, "the disk is full.");
+    }
+    if (bytesLeft_) *bytesLeft_ -= bytes.size();
+    File& file =
+        files_.try_emplace(LowerCase(name), File{std::string(name), {}, undated}).first->second;
+    file.bytes = std::move(bytes);
+}

@@ -25,15 +25,18 @@ class MemoryFolder final : public ProgramFolder {
     bool FolderExists(std::string_view name) const override;
     void MakeFolder(std::string_view name) override;
 
-    /// Writing fails once this many more bytes have been written; nothing: it never fails.
+    /// Writing fails once this many more bytes have been written; nothing: it never fails. An
+    /// append writes the old bytes too.
     void FailAfterBytes(std::optional<std::size_t> bytes) { bytesLeft_ = bytes; }
 
-    /// The operation number `count` from now on, counting from 0, fails whatever it is.
+    /// The operation number `count` from now on, counting from 0, fails whatever it is. The
+    /// questions `Exists` and `FolderExists` do not count, as they cannot fail.
     void FailAtOperation(std::optional<std::size_t> count) { operationsLeft_ = count; }
 
     /// The file stays listed but can no longer be read or written.
     void Lock(std::string_view name);
 
+    /// Files that nobody dated are of 1 January 2000.
     void SetFileDate(std::string_view name, Date date);
 
     /// Every file with its bytes, by name, as a picture to compare with a later one.
@@ -48,6 +51,7 @@ class MemoryFolder final : public ProgramFolder {
     };
 
     void Count(std::string_view name) const;
+    const File& Stored(std::string_view name) const;
     void Store(std::string_view name, std::string bytes);
 
     std::map<std::string, File> files_;  // by lower-cased name

@@ -16,6 +16,7 @@ class ProgramFolder {
   public:
     virtual ~ProgramFolder() = default;
 
+    /// Whether there is a file of that name; a folder is none.
     virtual bool Exists(std::string_view name) const = 0;
 
     /// The whole file. Fails where there is none, or where the name is no regular file of at most
@@ -30,10 +31,11 @@ class ProgramFolder {
     virtual void Append(std::string_view name, std::string_view records) = 0;
 
     /// Names of the files that match the pattern of "*" and "?", in the order of their lower-cased
-    /// characters.
+    /// characters. A pattern with a folder in front ("Backup/*.txt") gives names with that folder
+    /// in front.
     virtual std::vector<std::string> Find(std::string_view pattern) const = 0;
 
-    /// Copies a file over another or to a new one.
+    /// Copies a file over another or to a new one; the copy keeps the file's date.
     virtual void Copy(std::string_view from, std::string_view to) = 0;
 
     virtual void Delete(std::string_view name) = 0;
