@@ -6,8 +6,8 @@
 
 inline constexpr const char* settingsFile = "quillon.ini";
 
-/// Reads `quillon.ini` into `state.Settings`, line n into entry n; a missing file is first made with
-/// the defaults. Entries beyond the last line keep what they hold. A line 101 is a `Failure`.
+/// Reads `quillon.ini` into `state.Settings`, line n into entry n; a missing file is first made
+/// with the defaults. Entries beyond the last line keep what they hold. A line 101 is a `Failure`.
 void LoadSettings(State& state, ProgramFolder& folder);
 
 /// Fills `state.Settings` with the defaults and writes them.
