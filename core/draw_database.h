@@ -14,13 +14,13 @@
 /// The 77th database is a `Failure`, and so is one without a first line.
 std::vector<std::string> ListDatabases(State& state, const ProgramFolder& folder);
 
-/// Makes the lottery of `state.DbaseFiles(index)` current: reads its header into the shared variables
-/// and its draws into `state.Draws`, and empties the rows below them.
+/// Makes the lottery of `state.DbaseFiles(index)` current: reads its header into the shared
+/// variables and its draws into `state.Draws`, and empties the rows below them.
 ///
 /// Numbers are stored as read, text that is no number as 0. More than 3,000 draws, a record that
 /// the end of the file cuts short and a number beyond 16 bits are each a `Failure`.
 void LoadDatabase(State& state, const ProgramFolder& folder, std::int16_t index);
 
-/// As `LoadDatabase`, but reads the header only and leaves `state.Draws` with the rows of the lottery
-/// that was loaded last.
+/// As `LoadDatabase`, but reads the header only and leaves `state.Draws` with the rows of the
+/// lottery that was loaded last.
 void LoadDatabaseHeader(State& state, const ProgramFolder& folder, std::int16_t index);
