@@ -9,7 +9,8 @@
 ///
 /// A file is written beside the old one, flushed to the disk, and renamed over it; then the folder
 /// is flushed, so a crash or a full disk leaves the old file or the new one. Left-over temporary
-/// files are cleared when the folder is opened.
+/// files are cleared when the folder is opened. Where several files differ in case only, a name
+/// means the one that is spelled so. Files whose names Windows-1252 cannot tell are passed over.
 class DiskFolder final : public ProgramFolder {
   public:
     /// `path` is the absolute path of an existing folder.
@@ -29,12 +30,13 @@ class DiskFolder final : public ProgramFolder {
     void MakeFolder(std::string_view name) override;
 
   private:
-    QString PathOf(std::string_view name) const;
+    /// Where the file is, or would be made.
+    std::string PathOf(std::string_view name) const;
 
     QString path_;
 };
 
 /// The program's folder: the one that holds the executable, or, where the program is installed for
-/// all users (`../share/quillon` stands beside the executable's folder), the user's own data folder,
-/// which is made and filled with what it lacks of `share/quillon`.
+/// all users (`../share/quillon` stands beside the executable's folder), the user's own data
+/// folder, which is made and filled with what it lacks of `share/quillon`.
 QString ProgramFolderPath(const QString& executableFolder, const QString& userDataFolder);

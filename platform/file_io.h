@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <ctime>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What these functions throw: the system's reason in English, such as "No space left on device".
+struct FileError {
+    std::string reason;
+};
+
+/// The bytes of a regular file of at most 64 MiB.
+std::string ReadWholeFile(const std::string& path);
+
+/// Replaces or creates a file such that, whatever happens, the whole new file or the untouched old
+/// one is on disk; on return the new one is.
+///
+/// A symbolic link is followed. An existing file keeps its permissions, and must be one that the
+/// user may write. `modified`, where given, becomes the time of the last change.
+void WriteFileSafely(const std::string& path, std::string_view bytes,
+                     std::optional<timespec> modified = {});
+
+/// The names of all that lies in a folder, in no particular order.
+std::vector<std::string> NamesIn(const std::string& folder);
+
+/// When the file was last written.
+timespec ModifiedTime(const std::string& path);
+
+void DeleteFile(const std::string& path);
+
+void MakeDirectory(const std::string& path);
+
+/// Whether a file of that name is one of `WriteFileSafely` that was never finished.
+bool IsUnfinishedFile(std::string_view fileName);
+
+/// Removes an unfinished file, unless another run of the program is just writing it.
+void RemoveUnfinishedFile(const std::string& path);
