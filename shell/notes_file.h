@@ -21,7 +21,8 @@ struct Notes {
     bool operator==(const Notes&) const = default;
 };
 
-/// Reads `Notes.txt`, which must exist. Fewer than eight items are a `Failure`; a comma cuts a caption.
+/// Reads `Notes.txt`, which must exist. Fewer than eight items are a `Failure`; a comma cuts a
+/// caption.
 Notes ReadNotes(const ProgramFolder& folder);
 
 /// Writes `Notes.txt`: eight lines " 0 ,caption" or " 1 ,caption", then the note as it stands.
