@@ -5,6 +5,6 @@
 
 Random::Random(std::function<std::uint64_t()> clockSeed) : clockSeed_(std::move(clockSeed)) {}
 
-void Random::SeedFromClock() { engine_.seed(clockSeed_()); }
+void Random::SeedFromClock() { engine_.Seed(clockSeed_()); }
 
-void Random::Reset(std::uint64_t seed) { engine_.seed(seed); }
+void Random::Reset(std::uint64_t seed) { engine_.Seed(seed); }

@@ -3,9 +3,11 @@
 
 #include <cstdint>
 #include <functional>
-#include <random>
 
-/// The source of random numbers. A seed gives the same numbers on every platform.
+#include "core/mersenne_twister.h"
+
+/// The source of random numbers, those of `std::mt19937_64`. A seed gives the same numbers on every
+/// platform.
 class Random {
   public:
     /// `clockSeed` is what `SeedFromClock` asks for a seed.
@@ -26,5 +28,5 @@ class Random {
 
   private:
     std::function<std::uint64_t()> clockSeed_;
-    std::mt19937_64 engine_;
+    MersenneTwister engine_;
 };
