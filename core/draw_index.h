@@ -16,23 +16,40 @@ class DrawIndex {
     /// Makes the index fit `state.Draws`, `Picks` and `MaxNum`; does nothing where it already does.
     void Update(const State& state);
 
-    /// Whether the index can answer for this history: it ends with an empty row within the table.
+    /// Whether the index can answer for this lottery: its history ends with an empty row within the
+    /// table, a line has 1 to 7 numbers, and the field is no larger than 120.
     bool Usable() const { return usable_; }
+
+    /// Number of draws before the end mark.
+    int DrawCount() const { return drawCount_; }
+
+    /// Whether the index can answer for a line: its first `Picks` numbers are distinct and from 1
+    /// to `MaxNum`.
+    bool Covers(const std::int16_t* numbers) const;
 
     /// Whether some draw has at least `matches` of the line's numbers in columns 1 to `Picks`.
     ///
-    /// `numbers` are `picks` distinct numbers from 1 to `MaxNum`, which the caller has checked;
-    /// the answer is that of comparing every pair, also for draws that hold repeats or zeros.
-    /// `matches` is at least 1.
-    bool AnyDrawMatches(const std::int16_t* numbers, int picks, int matches) const;
+    /// The index is usable and covers the line, which the caller has checked. The answer is that of
+    /// comparing every pair, also for draws that hold repeats, zeros or numbers outside the field.
+    bool AnyDrawMatches(const std::int16_t* numbers, long long matches) const;
 
   private:
-    static constexpr int words = 47;  // 3,008 draws
+    static constexpr int largestField = 120;
+    static constexpr int words = 48;  // 3,072 draws, an even number of words for pairwise loops
+    struct alignas(16) BitRow {
+        std::array<std::uint64_t, words> bits{};
+    };
+    using Draw = std::array<std::int16_t, 7>;
+
+    void AddDraw(const std::int16_t* numbers, int draw);
+    bool AnyRepeatingDrawMatches(const std::int16_t* numbers, long long matches) const;
 
     std::uint64_t version_ = 0;
-    int picks_ = -1;
-    int maxNum_ = -1;
+    int picks_ = 0;
+    int maxNum_ = 0;
+    int drawCount_ = 0;
+    bool built_ = false;
     bool usable_ = false;
-    std::vector<std::array<std::uint64_t, words>> rows_;         // by number, from 0
-    std::vector<std::array<std::int16_t, 8>> irregularDraws_;  // hold a number twice
+    std::vector<BitRow> rows_;          // by number, from 0
+    std::vector<Draw> repeatingDraws_;  // hold a number of the field twice
 };

@@ -1,2 +1,207 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/filters.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "core/text.h"
+
+namespace {
+
+constexpr std::int16_t passed = -1;
+constexpr std::int16_t notPassed = 0;
+constexpr int lastLine = static_cast<int>(decltype(State::Lines)::RowCount()) - 1;
+
+int Strength(const State& state, int slot) { return LeadingWhole(state.Settings(slot)); }
+
+// Whether `count` of the line's numbers are of one kind where at least t of either kind are asked.
+bool OutOfBalance(const State& state, int count, long long t) {
+    return count < t || count > state.Picks - t;
+}
+
+bool FailsOddEven(const State& state, int row, int t) {
+    int odd = 0;
+    for (int column = 1; column <= state.Picks; ++column) {
+        if (state.Lines(row, column) % 2 != 0) ++odd;
+    }
+    return OutOfBalance(state, odd, t);
+}
+
+bool FailsHighLow(const State& state, int row, int t) {
+    int low = 0;
+    for (int column = 1; column <= state.Picks; ++column) {
+        if (2 * state.Lines(row, column) < state.MaxNum) ++low;
+    }
+    return OutOfBalance(state, low, t);
+}
+
+bool FailsLongRun(const State& state, int row, int t) {
+    int longest = 0;
+    int steps = 0;
+    for (int column = 1; column < state.Picks; ++column) {
+        const bool step = state.Lines(row, column) + 1 == state.Lines(row, column + 1);
+        steps = step ? steps + 1 : 0;
+        longest = std::max(longest, steps);
+    }
+    return longest >= t;
+}
+
+using LineFails = bool (*)(const State& state, int row, int t);
+
+template <LineFails Fails>
+std::int16_t Test(const State& state, bool boxSet, int slot) {
+    if (!boxSet) return passed;
+    const int t = Strength(state, slot);
+    std::int16_t result = passed;
+    int row = 1;
+    do {
+        if (Fails(state, row, t)) result = notPassed;
+        ++row;
+    } while (state.Lines(row, 1) != 0 && result != notPassed);
+    return result;
+}
+
+template <LineFails Fails>
+void Prune(State& state, int slot) {
+    const State& view = state;
+    const int t = Strength(state, slot);
+    int row = 1;
+    do {
+        if (Fails(view, row, t)) {
+            RemoveLine(state, row);
+        } else {
+            ++row;
+        }
+    } while (view.Lines(row, 1) != 0);
+}
+
+// Lines before the end mark, or nothing to count on where the table has none.
+constexpr int noEndMark = -1;
+
+int LinesBeforeEndMark(const State& state) {
+    for (int row = 1; row <= lastLine; ++row) {
+        if (state.Lines(row, 1) == 0) return row - 1;
+    }
+    return noEndMark;
+}
+
+void CopyLine(State& state, int from, int to) {
+    const std::int16_t* source = state.Lines.Row(from) + 1;
+    std::copy_n(source, 9, state.Lines.Row(to) + 1);
+}
+
+// Removes the lines that are not to be kept in one pass. Each removal by itself would move the end
+// mark up and leave a copy of it behind, so the rows that become free all hold the end mark.
+template <typename Keep>
+void KeepLines(State& state, int lineCount, const Keep& keep) {
+    int kept = 0;
+    for (int row = 1; row <= lineCount; ++row) {
+        if (!keep(row, kept + 1)) continue;
+        ++kept;
+        if (kept != row) CopyLine(state, row, kept);
+    }
+    for (int row = kept + 1; row <= lineCount; ++row) CopyLine(state, lineCount + 1, row);
+}
+
+bool RepeatsDraw(const State& state, int row, int t) {
+    const std::int16_t* numbers = state.Lines.Row(row) + 1;
+    const long long limit = static_cast<long long>(state.Picks) - t;
+    if (!state.drawIndex.Covers(numbers)) return plain::RepeatsDraw(state, row, limit);
+    return state.drawIndex.AnyDrawMatches(numbers, limit + 1);
+}
+
+// Columns 1 to 7 of a line; the two words overlap in column 4.
+struct LineKey {
+    explicit LineKey(const std::int16_t* row) {
+        std::memcpy(&left, row + 1, sizeof left);
+        std::memcpy(&right, row + 4, sizeof right);
+    }
+    bool operator==(const LineKey& other) const = default;
+
+    std::size_t Slot() const {
+        return (left * 0x9E3779B97F4A7C15U ^ right * 0xC2B2AE3D27D4EB4FU) >> 55U;
+    }
+
+    std::uint64_t left = 0;
+    std::uint64_t right = 0;
+};
+
+// The lines met so far, found by their numbers. A slot holds the row of a line, 0 where it is free.
+class LineSet {
+  public:
+    // Whether no line of the same numbers was met before; if so it is remembered as `row`.
+    bool Insert(const State& state, const LineKey& key, int row) {
+        std::size_t slot = key.Slot();
+        while (rows_[slot] != 0) {
+            if (key == LineKey(state.Lines.Row(rows_[slot]))) return false;
+            slot = (slot + 1) % rows_.size();
+        }
+        rows_[slot] = static_cast<std::uint8_t>(row);
+        return true;
+    }
+
+  private:
+    std::array<std::uint8_t, 512> rows_{};
+};
+
+}  // namespace
+
+std::int16_t OddEvenOK(const State& state, bool boxSet) {
+    return Test<FailsOddEven>(state, boxSet, 11);
+}
+
+std::int16_t HighLowOK(const State& state, bool boxSet) {
+    return Test<FailsHighLow>(state, boxSet, 12);
+}
+
+std::int16_t HistoryOK(State& state, bool boxSet) {
+    if (!boxSet) return passed;
+    const int lineCount = LinesBeforeEndMark(state);
+    state.drawIndex.Update(state);
+    if (lineCount == noEndMark || !state.drawIndex.Usable()) return plain::HistoryOK(state, boxSet);
+    const int t = Strength(state, 13);
+    for (int row = 1; row <= lineCount; ++row) {
+        if (RepeatsDraw(state, row, t)) return notPassed;
+    }
+    return passed;
+}
+
+void PruneOddEven(State& state) { Prune<FailsOddEven>(state, 11); }
+
+void PruneHighLow(State& state) { Prune<FailsHighLow>(state, 12); }
+
+void PruneLongRun(State& state) { Prune<FailsLongRun>(state, 14); }
+
+void PruneHistory(State& state) {
+    const int lineCount = LinesBeforeEndMark(state);
+    state.drawIndex.Update(state);
+    const DrawIndex& index = state.drawIndex;
+    if (lineCount == noEndMark || !index.Usable() || index.DrawCount() == 0) {
+        plain::PruneHistory(state);
+        return;
+    }
+    const int t = Strength(state, 13);
+    KeepLines(state, lineCount, [&](int row, int) { return !RepeatsDraw(state, row, t); });
+}
+
+void PruneDuplicates(State& state) {
+    const State& view = state;
+    const int lineCount = LinesBeforeEndMark(view);
+    if (lineCount == noEndMark) {
+        plain::PruneDuplicates(state);
+        return;
+    }
+    LineSet met;
+    KeepLines(state, lineCount, [&](int row, int place) {
+        return met.Insert(view, LineKey(view.Lines.Row(row)), place);
+    });
+}
+
+void RemoveLine(State& state, int row) {
+    int moved = row;
+    do {
+        CopyLine(state, moved + 1, moved);
+        ++moved;
+    } while (state.Lines(moved, 1) != 0);
+}
