@@ -22,10 +22,10 @@ struct GeneratorStyle {
 
 /// What the generator calls while it works.
 struct GeneratorSteps {
-    std::function<void()> playLotto;                         ///< Fills `state.Lines` once.
-    std::function<void(const std::string&)> paintStatus;     ///< Shows a status text at once.
-    std::function<void()> showLines;                         ///< Fills the grid.
-    std::function<double()> seconds;                         ///< Monotonic clock, in seconds.
+    std::function<void()> playLotto;                      ///< Fills `state.Lines` once.
+    std::function<void(const std::string&)> paintStatus;  ///< Shows a status text at once.
+    std::function<void()> showLines;                      ///< Fills the grid.
+    std::function<double()> seconds;                      ///< Monotonic clock, in seconds.
 };
 
 /// The status line of a generator: "Tries: 1,234   Time: 0.123 sec".
@@ -38,7 +38,7 @@ inline constexpr double generatorLimit = 10.0;
 /// all conditions or more than 10 seconds are over; then prunes equal lines where the style says
 /// so, shows the lines, and returns the status text, which says where the lines do not comply.
 ///
-/// The status is painted at the first try, then some 60 times a second, and at the end. `Busy` is the
-/// caller's. A failure in a step leaves through here.
+/// The status is painted at the first try, then some 60 times a second, and at the end. `Busy` is
+/// the caller's. A failure in a step leaves through here.
 std::string GenerateLines(State& state, Random& random, const Conditions& conditions,
                           const GeneratorStyle& style, const GeneratorSteps& steps);
