@@ -10,6 +10,9 @@ packages=(
     breeze-icon-theme fonts-dejavu-core xdg-utils
 )
 
+# Builds of several presets share what they can, where ccache is there.
+if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+
 Fail() {
     printf '%s: %s\n' "${0##*/}" "$*" >&2
     exit 1

@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Checks rules of the code that no compiler knows; prints each breach and fails where there is one.
+set -uo pipefail
+shopt -s lastpipe
+cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
+
+breaches=0
+
+# Prints a rule and the lines that break it, if any came in.
+Report() {
+    local lines
+    lines=$(cat)
+    if [[ -z $lines ]]; then return; fi
+    printf '%s:\n%s\n' "$1" "$lines"
+    breaches=$((breaches + 1))
+}
+
+Files() { git ls-files --cached --others --exclude-standard -- "$@"; }
+
+mapfile -t sources < <(Files '*.cpp' '*.h')
+mapfile -t product < <(printf '%s\n' "${sources[@]}" | grep -vE '^(platform|tests|bench|fuzz|tools)/')
+mapfile -t logic < <(printf '%s\n' "${product[@]}" | grep -E '(^|/)[a-z0-9_]+\.(cpp|h)$' |
+    grep -vE '^shell/(main\.cpp|form_catalogue\.)')
+mapfile -t marked < <(Files '*.cpp' '*.h' '*.cmake' '*CMakeLists.txt' '*.sh' run test .ci/run)
+
+# The outside world comes in through platform/ and the services built at start.
+calls='QMessageBox::|QDate::currentDate|QDateTime::current|QTime::currentTime|QRandomGenerator'
+calls+='|QDesktopServices|QFileDialog::|std::random_device|system_clock::now|time\(nullptr\)'
+grep -nE "$calls" "${product[@]}" /dev/null | Report 'Only platform/ may speak to the outside world'
+
+grep -nE '#include <Q' "${logic[@]}" /dev/null | Report 'Logic includes no Qt header'
+
+grep -LF 'SPDX-License-Identifier: GPL-3.0-or-later' "${marked[@]}" |
+    Report 'A source file names its licence'
+
+grep -nE '\b(TODO|FIXME|XXX)\b' "${sources[@]}" /dev/null | Report 'What is not done is no comment'
+
+printf '%s\n' "${product[@]}" | grep '\.cpp$' | xargs wc -l |
+    awk '$2 != "total" && $1 > 300' | Report 'A file has at most 300 lines'
+
+[[ $breaches -eq 0 ]]
