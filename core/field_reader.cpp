@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/field_reader.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/text.h"
@@ -9,6 +8,11 @@
 namespace {
 
 bool IsLineEnd(char character) { return character == '\r' || character == '\n'; }
+
+std::size_t BehindBlanks(std::string_view text, std::size_t start) {
+    while (start < text.size() && text[start] == ' ') ++start;
+    return start;
+}
 
 }  // namespace
 
@@ -20,7 +24,7 @@ bool FieldReader::AtEnd() const { return position_ == content_.size() && !fieldP
 std::string_view FieldReader::ReadField(std::string_view expected) {
     RequireMore(expected);
     line_ = nextLine_;
-    const std::size_t start = std::min(content_.find_first_not_of(' ', position_), content_.size());
+    const std::size_t start = BehindBlanks(content_, position_);
     const std::size_t quote = ClosingQuote(start);
     const bool quoted = quote != std::string_view::npos;
     position_ = FieldEnd(quoted ? quote : start);
@@ -79,7 +83,7 @@ std::size_t FieldReader::ClosingQuote(std::size_t start) const {
     if (quotes_ == Quotes::Kept || start == content_.size() || content_[start] != '"') return none;
     for (std::size_t i = start + 1; i < content_.size() && !IsLineEnd(content_[i]); ++i) {
         if (content_[i] != '"') continue;
-        const std::size_t next = std::min(content_.find_first_not_of(' ', i + 1), content_.size());
+        const std::size_t next = BehindBlanks(content_, i + 1);
         if (FieldEnd(next) == next) return i;
     }
     return none;
@@ -87,7 +91,7 @@ std::size_t FieldReader::ClosingQuote(std::size_t start) const {
 
 void FieldReader::PassLineEnd() {
     if (position_ == content_.size()) return;
-    const bool pair = content_.substr(position_, 2) == "\r\n";
-    position_ += pair ? 2 : 1;
+    const bool returned = content_[position_++] == '\r';
+    if (returned && position_ < content_.size() && content_[position_] == '\n') ++position_;
     ++nextLine_;
 }
