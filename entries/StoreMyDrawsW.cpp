@@ -1,2 +1,156 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/StoreMyDrawsW.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/draw_database.h"
+#include "entries/saved_entries.h"
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "platform/GridRows.h"
+#include "platform/Hourglass.h"
+#include "platform/LinesGrid.h"
+#include "platform/Lists.h"
+#include "platform/LotteryList.h"
+#include "platform/MessageBoxes.h"
+#include "platform/NumberBox.h"
+#include "platform/ShowTip.h"
+#include "platform/Text.h"
+
+namespace {
+
+// The last grid row is the parking place of the current row: there, no row is chosen.
+constexpr int parkingRow = 99;
+constexpr int lastColumn = 11;
+
+// Rows move without their database file: a moved row takes the file name of its new place.
+constexpr int lastMovedColumn = 10;
+
+}  // namespace
+
+void StoreMyDrawsW::Load() {
+    Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {label5_},
+                                                   .body = {label1_},
+                                                   .small = {label7_, label8_, labelPName_},
+                                                   .status = {}});
+    dtPicker1_->SetValue(services().today());
+    ListDatabases(program(), *list1_);
+    if (list1_->count() == 0) {
+        services().messages.Show(this, {.title = tr("Error!"),
+                                        .text = tr("No lotteries to display!    "),
+                                        .sign = Sign::Exclamation});
+        return;
+    }
+    ChooseFirstLottery(*list1_);
+}
+
+void StoreMyDrawsW::List1_Click() {
+    const Hourglass hourglass;
+    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    for (int index = 1; index <= 7; ++index) Text1(index)->setVisible(index <= state().Picks);
+    const bool hasExtraBall = state().MaxPball > 0;
+    Text1(8)->setVisible(hasExtraBall);
+    label2_->setVisible(hasExtraBall);
+    grid_->SetCurrentCell(parkingRow, 0);
+}
+
+bool StoreMyDrawsW::NumbersAreValid() const {
+    const auto valid = [this](int index) {
+        const int value = Text1(index)->Value();
+        return value >= 1 && value <= state().MaxNum;
+    };
+    for (int index = 1; index <= state().Picks; ++index) {
+        if (!valid(index)) return false;
+    }
+    // The extra ball is held against the highest main number too.
+    return state().MaxPball <= 0 || valid(8);
+}
+
+int StoreMyDrawsW::FirstEmptyRow() const {
+    int row = 1;
+    while (!grid_->Cell(row, 0).isEmpty()) ++row;
+    return row;
+}
+
+void StoreMyDrawsW::Command2_Click() {
+    if (!NumbersAreValid()) {
+        ShowTip(services(), this, 6);
+        return;
+    }
+    const int row = FirstEmptyRow();
+    grid_->ScrollToRow(row);
+    WriteEntry(row);
+    grid_->MarkRow(row);
+    for (NumberBox* box : text1_) box->clear();
+    Text1(1)->setFocus();
+}
+
+void StoreMyDrawsW::WriteEntry(int row) {
+    grid_->SetCell(row, 0, ToQString(DrawDate(dtPicker1_->Value())));
+    for (int column = 1; column <= state().Picks; ++column) {
+        grid_->SetCell(row, column, Text1(column)->text());
+    }
+    if (state().MaxPball > 0) {
+        grid_->SetCell(row, 8, Text1(8)->text());
+        grid_->SetCellColour(row, 8, ExtraBallColour());
+    }
+    grid_->SetCell(row, 9, ToQString(state().LotteryName));
+    grid_->SetCell(row, 10, textPName_->text());
+    grid_->SetCell(row, 11, ToQString(state().DbaseFile));
+}
+
+void StoreMyDrawsW::Command3_Click() {
+    std::string records;
+    for (int row = 1; !grid_->Cell(row, 0).isEmpty(); ++row) {
+        SavedEntry entry;
+        for (int column = 0; column <= lastColumn; ++column) {
+            entry[static_cast<std::size_t>(column)] = FromQString(grid_->Cell(row, column));
+        }
+        records += SavedEntryRecord(entry);
+    }
+    folder().Append(savedEntriesFile, records);
+    services().messages.Show(this, {.title = tr("Lottery Quillon World"),
+                                    .text = tr("Your entries have been saved.  "),
+                                    .sign = Sign::Information});
+    Unload();
+}
+
+void StoreMyDrawsW::Command4_Click() {
+    const int row = grid_->CurrentRow();
+    if (row == parkingRow) return;
+    DeleteGridRow(*grid_, row, lastMovedColumn);
+    grid_->MarkRow(row);
+}
+
+void StoreMyDrawsW::Command5_Click() {
+    const int row = grid_->CurrentRow();
+    if (row == 1 || grid_->Cell(row, 0).isEmpty()) return;
+    SwapGridRows(*grid_, row, row - 1, lastMovedColumn);
+    grid_->MarkRow(row - 1);
+}
+
+void StoreMyDrawsW::Command6_Click() {
+    const int row = grid_->CurrentRow();
+    if (row >= parkingRow - 1 || grid_->Cell(row + 1, 1).isEmpty()) return;
+    SwapGridRows(*grid_, row, row + 1, lastMovedColumn);
+    grid_->MarkRow(row + 1);
+}
+
+void StoreMyDrawsW::MSFlexGrid1_Click() { grid_->MarkRow(grid_->CurrentRow()); }
+
+void StoreMyDrawsW::Command1_Click() {
+    if (!grid_->Cell(1, 0).isEmpty()) {
+        const QString crlf = ToQString(state().Crlf);
+        const Answer answer = services().messages.Show(
+            this, {.title = tr("Warning!"),
+                   .text = tr("If you have made changes you should    ") % crlf %
+                           tr("click Save to save them. If you        ") % crlf %
+                           tr("continue, any changes will be lost.    "),
+                   .sign = Sign::Exclamation,
+                   .buttons = Buttons::OkCancel});
+        if (answer == Answer::Cancel) return;
+    }
+    Unload();
+}

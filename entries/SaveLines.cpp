@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/SaveLines.h"
+
+#include "entries/SaveEntries.h"
+#include "entries/saved_entries.h"
+#include "platform/Grid.h"
+#include "platform/Text.h"
+
+namespace {
+
+int CountLines(const Grid& grid) {
+    int count = 0;
+    while (!grid.Cell(count + 1, 1).isEmpty()) ++count;
+    return count;
+}
+
+SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::string& player) {
+    SavedEntry entry;
+    entry[0] = state.Settings(18);
+    for (int column = 1; column <= 8; ++column) {
+        entry[static_cast<std::size_t>(column)] = FromQString(grid.Cell(row, column));
+    }
+    entry[9] = state.LotteryName;
+    entry[10] = player;
+    entry[11] = state.DbaseFile;
+    return entry;
+}
+
+}  // namespace
+
+void SaveLines(Program& program, QWidget* form, const Grid& grid) {
+    if (grid.Cell(1, 1).isEmpty()) return;
+    SaveEntries dialog(program, form);
+    dialog.Load();
+    dialog.SetLineCount(CountLines(grid));
+    dialog.exec();
+    const int wanted = dialog.LineCount();
+    if (wanted == 0) return;
+
+    std::string records;
+    int row = 1;
+    do {
+        records += SavedEntryRecord(EntryOf(program.state, grid, row, dialog.PlayerName()));
+        ++row;
+    } while (row <= wanted && !grid.Cell(row, 1).isEmpty());
+    program.folder.Append(savedEntriesFile, records);
+}

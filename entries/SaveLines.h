@@ -1,0 +1,11 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/Services.h"
+
+/// Appends the lines that the grid shows to `MyLottery.txt`, after asking in `SaveEntries` how many
+/// of them, for which draw date and for whom.
+///
+/// What is seen is what is stored: the source is the grid, from row 1, always the first lines. An
+/// empty grid does nothing.
+void SaveLines(Program& program, QWidget* form, const Grid& grid);

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/SaveLines.h"
+
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <algorithm>
+
+#include "entries/SaveEntries.h"
+#include "platform/Grid.h"
+#include "platform/LinesGrid.h"
+#include "platform/Region.h"
+#include "tests/support/form_test.h"
+
+namespace {
+
+class SavingLines : public testing::Test {
+  protected:
+    SavingLines() : grid_(32, 9) {
+        test_.state.LotteryName = "UK Lotto";
+        test_.state.DbaseFile = "dbase100.txt";
+    }
+
+    void ShowSomeLines(int count) {
+        for (int row = 1; row <= count; ++row) {
+            for (int column = 1; column <= 6; ++column) {
+                test_.state.Lines(row, column) = static_cast<std::int16_t>(row + column);
+            }
+        }
+        test_.state.Lines(count + 1, 1) = 0;
+        ShowLines(test_.state, grid_);
+    }
+
+    void Save(const std::function<void(QDialog&)>& drive) {
+        InDialog([this] { SaveLines(test_.program, nullptr, grid_); }, drive);
+    }
+
+    std::string Saved() { return test_.folder.Read("MyLottery.txt"); }
+
+    TestProgram test_;
+    Grid grid_;
+};
+
+TEST_F(SavingLines, DoesNothingWithAnEmptyGrid) {
+    SaveLines(test_.program, nullptr, grid_);
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+    EXPECT_EQ(test_.messages.Shown(), 0);
+}
+
+TEST_F(SavingLines, BearsItsWords) {
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        const std::vector<std::pair<const char*, const char*>> labels = {
+            {"Label1", "Lines:"},
+            {"Label3", "Select the number of lottery entries to save."},
+            {"LabelPName", "Name:"},
+            {"Label2",
+             "You can associate these lottery entries with a player or syndicate by entering a "
+             "name."},
+            {"Label5", "Date:"},
+            {"Label6",
+             "It is essential that you set the lottery draw date. It is used when checking "
+             "entries."}};
+        for (const auto& [name, text] : labels) {
+            EXPECT_EQ(Find<QLabel>(dialog, name)->text(), QString::fromLatin1(text)) << name;
+        }
+        EXPECT_EQ(Find<QPushButton>(dialog, "Command7")->toolTip(),
+                  QStringLiteral(" Save lottery entries "));
+        EXPECT_EQ(Find<QPushButton>(dialog, "Command1")->toolTip(), QStringLiteral(" Cancel "));
+        EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->displayFormat(),
+                  QStringLiteral("ddd d MMM yyyy"));
+    });
+}
+
+TEST_F(SavingLines, AppendsEveryShownLineAsARecord) {
+    test_.folder.Write("MyLottery.txt", "old\r\n");
+    ShowSomeLines(2);
+    Save([](QDialog& dialog) {
+        EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("2"));
+        Type(dialog, "Text2", QStringLiteral("Ann"));
+        Click(dialog, "Command7");
+    });
+    EXPECT_EQ(Saved(),
+              "old\r\n"
+              "01-Jun-2005,2,3,4,5,6,7,,,UK Lotto,Ann,dbase100.txt\r\n"
+              "01-Jun-2005,3,4,5,6,7,8,,,UK Lotto,Ann,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, SavesTheFirstLinesWhereFewerAreAskedFor) {
+    ShowSomeLines(5);
+    Save([](QDialog& dialog) {
+        Type(dialog, "Text1", QStringLiteral("2"));
+        Click(dialog, "Command7");
+    });
+    EXPECT_EQ(Saved(),
+              "01-Jun-2005,2,3,4,5,6,7,,,UK Lotto,,dbase100.txt\r\n"
+              "01-Jun-2005,3,4,5,6,7,8,,,UK Lotto,,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, SavesAllWhereMoreAreAskedFor) {
+    ShowSomeLines(3);
+    Save([](QDialog& dialog) {
+        Type(dialog, "Text1", QStringLiteral("999"));
+        Click(dialog, "Command7");
+    });
+    const std::string saved = Saved();
+    EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 3);
+}
+
+TEST_F(SavingLines, SavesWhatTheGridShowsNotTheLinesBehindIt) {
+    ShowSomeLines(1);
+    test_.state.Lines(1, 1) = 49;
+    grid_.SetCell(1, 8, QStringLiteral("9"));
+    Save([](QDialog& dialog) { Click(dialog, "Command7"); });
+    EXPECT_EQ(Saved(), "01-Jun-2005,2,3,4,5,6,7,,9,UK Lotto,,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, KeepsTheNameTrimmedAndTheDateInTheSettings) {
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        Type(dialog, "Text2", QStringLiteral(" Ann "));
+        Find<QDateEdit>(dialog, "DTPicker1")->setDate(QDate(2005, 6, 18));
+        Click(dialog, "Command7");
+    });
+    EXPECT_EQ(test_.state.Settings(17), "Ann");
+    EXPECT_EQ(test_.state.Settings(18), "18-Jun-2005");
+    EXPECT_EQ(Saved(), "18-Jun-2005,2,3,4,5,6,7,,,UK Lotto, Ann ,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, OffersTheLastNameAndTheNextDrawDate) {
+    test_.state.Settings(17) = "Ann";
+    test_.today = Date(std::chrono::year(2005), std::chrono::June, std::chrono::day(2));
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        EXPECT_EQ(Find<QLineEdit>(dialog, "Text2")->text(), QStringLiteral("Ann"));
+        EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->date(), QDate(2005, 6, 4));
+    });
+}
+
+TEST_F(SavingLines, CancelWritesNothingAndKeepsTheSettings) {
+    test_.state.Settings(17) = "Ann";
+    test_.state.Settings(18) = "01-Jan-2005";
+    ShowSomeLines(3);
+    Save([](QDialog& dialog) {
+        Type(dialog, "Text2", QStringLiteral("Bob"));
+        Click(dialog, "Command1");
+        EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("0"));
+    });
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+    EXPECT_EQ(test_.state.Settings(17), "Ann");
+    EXPECT_EQ(test_.state.Settings(18), "01-Jan-2005");
+}
+
+TEST_F(SavingLines, EscIsCancel) {
+    ShowSomeLines(3);
+    Save([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+}
+
+TEST_F(SavingLines, EnterSaves) {
+    ShowSomeLines(1);
+    Save(
+        [](QDialog& dialog) { QTest::keyClick(Find<QLineEdit>(dialog, "Text1"), Qt::Key_Return); });
+    EXPECT_TRUE(test_.folder.Exists("MyLottery.txt"));
+}
+
+TEST_F(SavingLines, AnEmptyLinesBoxSavesNothing) {
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        Find<QLineEdit>(dialog, "Text1")->clear();
+        Click(dialog, "Command7");
+    });
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+}
+
+TEST_F(SavingLines, ACommaInTheNameIsWrittenAsItStands) {
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        Type(dialog, "Text2", QStringLiteral("Smith, Ann"));
+        Click(dialog, "Command7");
+    });
+    EXPECT_EQ(Saved(), "01-Jun-2005,2,3,4,5,6,7,,,UK Lotto,Smith, Ann,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, AFullDiskEndsTheRunAndLeavesTheFileAsItWas) {
+    test_.folder.Write("MyLottery.txt", "old\r\n");
+    const auto before = test_.folder.Snapshot();
+    test_.folder.FailAfterBytes(3);
+    ShowSomeLines(2);
+    EXPECT_THROW(Save([](QDialog& dialog) { Click(dialog, "Command7"); }), std::runtime_error);
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+}  // namespace

@@ -1,0 +1,349 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/StoreMyDrawsW.h"
+
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+const Message problemWithTheInput{
+    .title = QStringLiteral("Error"),
+    .text = QStringLiteral(
+        " There was a problem with the input.  \r\n Please check it and try again.  \r\n"),
+    .sign = Sign::Information};
+
+const Message entriesSaved{.title = QStringLiteral("Lottery Quillon World"),
+                           .text = QStringLiteral("Your entries have been saved.  "),
+                           .sign = Sign::Information};
+
+const Message unsavedChanges{.title = QStringLiteral("Warning!"),
+                             .text = QStringLiteral("If you have made changes you should    \r\n"
+                                                    "click Save to save them. If you        \r\n"
+                                                    "continue, any changes will be lost.    "),
+                             .sign = Sign::Exclamation,
+                             .buttons = Buttons::OkCancel};
+
+class StoringEntries : public testing::Test {
+  protected:
+    StoringEntries() {
+        AddUkLotto(test_.folder);
+        AddThunderball(test_.folder);
+        AddDailyPlay(test_.folder);
+    }
+
+    void Open() {
+        form_ = std::make_unique<StoreMyDrawsW>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+    }
+
+    Grid& Entries() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+
+    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+
+    QLineEdit& Box(int index) {
+        return *Find<QLineEdit>(*form_, ("Text1(" + std::to_string(index) + ")").c_str());
+    }
+
+    void Add(const std::vector<int>& numbers, int extraBall = 0) {
+        int index = 1;
+        for (const int number : numbers) Box(index++).setText(QString::number(number));
+        if (extraBall > 0) Box(8).setText(QString::number(extraBall));
+        Click(*form_, "Command2");
+    }
+
+    /// Row of the grid as one text, fields joined by a comma.
+    std::string Row(int row) {
+        QStringList fields;
+        for (int column = 0; column < 12; ++column) fields << Entries().Cell(row, column);
+        return fields.join(QLatin1Char(',')).toStdString();
+    }
+
+    void ClickRow(int row) {
+        Entries().ScrollToRow(row);
+        const QModelIndex index = Entries().model()->index(row - 1, 3);
+        QTest::mouseClick(Entries().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          Entries().visualRect(index).center());
+    }
+
+    TestProgram test_;
+    std::unique_ptr<StoreMyDrawsW> form_;
+};
+
+TEST_F(StoringEntries, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Store Draws Entries"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label5", "Store lottery draw entries"}, {"Label8", "Select the lottery:"},
+        {"Label1", "Enter your numbers:"},        {"Label2", " Pball"},
+        {"LabelPName", "Player/syndicate:"},      {"Label7", "Draw date:"}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    const std::vector<std::pair<const char*, const char*>> toolTips = {
+        {"TextPName", " Enter the player's name or syndicate name "},
+        {"Command2", " Add this entry to the grid "},
+        {"Command4", " Delete current row "},
+        {"Command5", " Move current row up "},
+        {"Command6", " Move current row down "},
+        {"Command3", " Save all lottery entries in the grid "},
+        {"Command1", " Close the window "}};
+    for (const auto& [name, text] : toolTips) {
+        EXPECT_EQ(Find<QWidget>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
+    }
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->text(), QStringLiteral("Add"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->displayFormat(), QStringLiteral("dd MMM yy"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->date(), QDate(2005, 6, 1));
+    const QStringList headings = {
+        QStringLiteral("Date"),    QStringLiteral("Num1"), QStringLiteral("Num2"),
+        QStringLiteral("Num3"),    QStringLiteral("Num4"), QStringLiteral("Num5"),
+        QStringLiteral("Num6"),    QStringLiteral("Num7"), QStringLiteral("Pball"),
+        QStringLiteral("Lottery"), QStringLiteral("Name")};
+    for (int column = 0; column < headings.size(); ++column) {
+        EXPECT_EQ(Entries().Cell(0, column), headings[column]);
+    }
+}
+
+TEST_F(StoringEntries, WithoutALotterySaysSoAndStaysOpen) {
+    for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
+    test_.messages.Expect({.title = QStringLiteral("Error!"),
+                           .text = QStringLiteral("No lotteries to display!    "),
+                           .sign = Sign::Exclamation});
+    Open();
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(Find<ListBox>(*form_, "List1")->count(), 0);
+}
+
+TEST_F(StoringEntries, ShowsTheBoxesThatTheLotteryFills) {
+    Open();
+    const auto visible = [this] {
+        std::vector<int> boxes;
+        for (int index = 1; index <= 8; ++index) {
+            if (!Box(index).isHidden()) boxes.push_back(index);
+        }
+        return boxes;
+    };
+    EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_TRUE(Find<QLabel>(*form_, "Label2")->isHidden());
+    ChooseLottery(1);
+    EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 8}));
+    EXPECT_FALSE(Find<QLabel>(*form_, "Label2")->isHidden());
+    ChooseLottery(2);
+    EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 6, 7}));
+}
+
+TEST_F(StoringEntries, ChoosingALotteryReadsItsHeaderOnly) {
+    test_.state.Draws(1, 1) = 33;
+    Open();
+    ChooseLottery(1);
+    EXPECT_EQ(test_.state.LotteryName, "UK Thunderball");
+    EXPECT_EQ(test_.state.MaxPball, 14);
+    EXPECT_EQ(test_.state.Draws(1, 1), 33);
+}
+
+TEST_F(StoringEntries, BoxesDropEveryKeyButDigitsAndBackspace) {
+    Open();
+    QTest::keyClicks(&Box(1), QStringLiteral("1a-4.x,"));
+    EXPECT_EQ(Box(1).text(), QStringLiteral("14"));
+    QTest::keyClick(&Box(1), Qt::Key_Backspace);
+    EXPECT_EQ(Box(1).text(), QStringLiteral("1"));
+}
+
+TEST_F(StoringEntries, AddWritesTheEntryMarksItAndEmptiesTheBoxes) {
+    Open();
+    Type(*form_, "TextPName", QStringLiteral("Ann"));
+    Add({3, 17, 22, 34, 41, 48});
+    EXPECT_EQ(Row(1), "01 Jun 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_TRUE(Entries().selectionModel()->isRowSelected(0));
+    for (int index = 1; index <= 8; ++index) EXPECT_EQ(Box(index).text(), QString());
+    EXPECT_EQ(Find<QLineEdit>(*form_, "TextPName")->text(), QStringLiteral("Ann"));
+}
+
+TEST_F(StoringEntries, EntriesOfDifferentLotteriesStandInOneGrid) {
+    Open();
+    Add({3, 17, 22, 34, 41, 48});
+    ChooseLottery(1);
+    Add({1, 2, 3, 4, 5}, 14);
+    EXPECT_EQ(Row(2), "01 Jun 05,1,2,3,4,5,,,14,UK Thunderball,,dbase101.txt");
+    EXPECT_EQ(Entries().CellColour(2, 8), QColor(160, 0, 0));
+}
+
+TEST_F(StoringEntries, TheExtraBallIsHeldAgainstTheHighestMainNumber) {
+    Open();
+    ChooseLottery(1);
+    Add({1, 2, 3, 4, 5}, 20);
+    EXPECT_EQ(Entries().Cell(1, 8), QStringLiteral("20"));
+    test_.messages.Expect(problemWithTheInput);
+    Add({1, 2, 3, 4, 5}, 35);
+    EXPECT_EQ(Entries().Cell(2, 0), QString());
+}
+
+TEST_F(StoringEntries, ANumberOutsideTheFieldIsRefusedAndNothingIsLost) {
+    Open();
+    for (const char* bad : {"0", "50", ""}) {
+        for (int index = 1; index <= 6; ++index) Box(index).setText(QString::number(index));
+        Box(6).setText(QString::fromLatin1(bad));
+        test_.messages.Expect(problemWithTheInput);
+        Click(*form_, "Command2");
+        EXPECT_EQ(Entries().Cell(1, 0), QString()) << bad;
+        EXPECT_EQ(Box(1).text(), QStringLiteral("1"));
+    }
+}
+
+TEST_F(StoringEntries, RepeatsWithinAnEntryAreTaken) {
+    Open();
+    Add({7, 7, 7, 7, 7, 7});
+    EXPECT_EQ(Row(1), "01 Jun 05,7,7,7,7,7,7,,,UK Lotto,,dbase100.txt");
+}
+
+TEST_F(StoringEntries, SaveAppendsTheGridAndClosesWithoutAQuestion) {
+    test_.folder.Write("MyLottery.txt", "old\r\n");
+    Open();
+    Add({3, 17, 22, 34, 41, 48});
+    ChooseLottery(1);
+    Add({1, 2, 3, 4, 5}, 14);
+    test_.messages.Expect(entriesSaved);
+    Click(*form_, "Command3");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(test_.folder.Read("MyLottery.txt"),
+              "old\r\n"
+              "01 Jun 05,3,17,22,34,41,48,,,UK Lotto,,dbase100.txt\r\n"
+              "01 Jun 05,1,2,3,4,5,,,14,UK Thunderball,,dbase101.txt\r\n");
+}
+
+TEST_F(StoringEntries, NothingReachesTheFileBeforeSave) {
+    Open();
+    Add({3, 17, 22, 34, 41, 48});
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+}
+
+TEST_F(StoringEntries, ClosingAsksWhileTheGridHasRows) {
+    Open();
+    Add({3, 17, 22, 34, 41, 48});
+    test_.messages.Expect(unsavedChanges, Answer::Cancel);
+    Click(*form_, "Command1");
+    EXPECT_TRUE(form_->isVisible());
+    test_.messages.Expect(unsavedChanges, Answer::Cancel);
+    QTest::keyClick(form_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(form_->isVisible());
+    test_.messages.Expect(unsavedChanges, Answer::Cancel);
+    form_->close();
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("3"));
+    test_.messages.Expect(unsavedChanges, Answer::Ok);
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+}
+
+TEST_F(StoringEntries, ClosingAnEmptyGridAsksNothing) {
+    Open();
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(StoringEntries, AClickMarksTheWholeRow) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    ClickRow(1);
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(Entries().currentIndex().column(), 11);
+    EXPECT_TRUE(Entries().selectionModel()->isRowSelected(0));
+}
+
+TEST_F(StoringEntries, DeletingMovesTheRowsUpWithoutTheirDatabaseFile) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    ChooseLottery(1);
+    Add({7, 8, 9, 10, 11}, 3);
+    ClickRow(1);
+    Click(*form_, "Command4");
+    EXPECT_EQ(Row(1), "01 Jun 05,7,8,9,10,11,,,3,UK Thunderball,,dbase100.txt");
+    EXPECT_EQ(Row(2), ",,,,,,,,,,,dbase101.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+}
+
+TEST_F(StoringEntries, DeletingTheLastRowEmptiesItAndItRemainsCurrent) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Click(*form_, "Command4");
+    EXPECT_EQ(Row(1), ",,,,,,,,,,,dbase100.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+}
+
+TEST_F(StoringEntries, MovingSwapsRowsWithoutTheirDatabaseFile) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    ChooseLottery(1);
+    Add({7, 8, 9, 10, 11}, 3);
+    Click(*form_, "Command5");
+    EXPECT_EQ(Row(1), "01 Jun 05,7,8,9,10,11,,,3,UK Thunderball,,dbase100.txt");
+    EXPECT_EQ(Row(2), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase101.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    Click(*form_, "Command6");
+    EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 2);
+}
+
+TEST_F(StoringEntries, TheFirstRowDoesNotMoveUpNorTheLastDown) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Click(*form_, "Command5");
+    Click(*form_, "Command6");
+    EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+}
+
+TEST_F(StoringEntries, RowCommandsDoNothingWhileNoRowIsChosen) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    ChooseLottery(1);
+    EXPECT_EQ(Entries().CurrentRow(), 99);
+    EXPECT_FALSE(Entries().currentIndex().isValid());
+    for (const char* command : {"Command4", "Command5", "Command6"}) Click(*form_, command);
+    EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
+}
+
+TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
+    Open();
+    for (int entry = 1; entry <= 99; ++entry) Add({1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(Entries().Cell(99, 1), QStringLiteral("1"));
+    EXPECT_FALSE(TakeFailure());
+    Add({1, 2, 3, 4, 5, 6});
+    EXPECT_TRUE(TakeFailure());
+}
+
+TEST_F(StoringEntries, ALockedDatabaseEndsTheRunAndNothingIsWritten) {
+    const auto before = test_.folder.Snapshot();
+    Open();
+    test_.folder.Lock("dbase101.txt");
+    auto* list = Find<ListBox>(*form_, "List1");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(1)).center());
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("dbase101.txt"), std::string::npos);
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+TEST_F(StoringEntries, AFullDiskEndsTheRunAndLeavesTheFileAsItWas) {
+    test_.folder.Write("MyLottery.txt", "old\r\n");
+    const auto before = test_.folder.Snapshot();
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    test_.folder.FailAfterBytes(20);
+    Click(*form_, "Command3");
+    EXPECT_TRUE(TakeFailure());
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+}  // namespace
