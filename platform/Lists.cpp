@@ -3,6 +3,7 @@
 
 #include <QMouseEvent>
 #include <string>
+#include <utility>
 
 #include "core/failure.h"
 
@@ -99,8 +100,11 @@ ComboList::ComboList(QWidget* parent) : QComboBox(parent) {
     });
     connect(model(), &QAbstractItemModel::rowsAboutToBeRemoved, this,
             [this](const QModelIndex&, int first, int last) {
-                if (Index() >= first && Index() <= last) SetIndex(-1);
+                removingChosen_ = Index() >= first && Index() <= last;
             });
+    connect(model(), &QAbstractItemModel::rowsRemoved, this, [this] {
+        if (std::exchange(removingChosen_, false)) SetIndex(-1);
+    });
 }
 
 void ComboList::SetIndex(int index) {
@@ -115,7 +119,8 @@ void ComboList::showPopup() {
 
 void ComboList::FollowIndex(int index) {
     const QModelIndex now = model()->index(index, modelColumn());
-    if (now == chosen_) return;
+    // Qt moves on to the neighbour of an entry that is removed.
+    if (now == chosen_ || removingChosen_) return;
     chosen_ = now;
     indexAtPopup_ = -1;
     if (now.isValid()) Q_EMIT clicked();

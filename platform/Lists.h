@@ -58,4 +58,5 @@ class ComboList final : public QComboBox {
 
     QPersistentModelIndex chosen_;
     int indexAtPopup_ = -1;
+    bool removingChosen_ = false;
 };
