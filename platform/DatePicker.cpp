@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/DatePicker.h"
 
+#include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <utility>
 
 #include "platform/Region.h"
 
@@ -21,19 +23,46 @@ DatePicker::DatePicker(const QString& format, Date today, QWidget* parent)
 
 Date DatePicker::Value() const { return FromQDate(date()); }
 
-void DatePicker::SetValue(Date date) { setDate(ToQDate(date)); }
+void DatePicker::SetValue(Date date) {
+    typedDay_ = 0;
+    setDate(ToQDate(date));
+}
 
 void DatePicker::stepBy(int steps) {
     const QScopedValueRollback<bool> stepping(typing_, false);
     const QDate before = date();
+    typedDay_ = 0;
     QDateEdit::stepBy(steps);
     const bool leavesWindow = InWindow(before) == before && InWindow(date()) != date();
     if (twoDigits_ && leavesWindow) setDate(before);
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event) {
+    const QString key = event->text();
+    // The last digit or letter of a part already moves on to the next; the blank that people type
+    // after it would move on once more.
+    if (std::exchange(movedOn_, false) && !key.isEmpty() && !key[0].isLetterOrNumber() &&
+        displayFormat().contains(key)) {
+        return;
+    }
+    const Section before = currentSection();
     const QScopedValueRollback<bool> typing(typing_, true);
     QDateEdit::keyPressEvent(event);
+    const bool typed = !key.isEmpty() && key[0].isLetterOrNumber();
+    movedOn_ = typed && currentSection() != before;
+    if (typed) KeepTypedDay(before);
+}
+
+// Of "29 Feb 04" Qt makes the 28th as long as the year before was no leap year.
+void DatePicker::KeepTypedDay(Section typedInto) {
+    if (typedInto == DaySection) {
+        typedDay_ = date().day();
+        return;
+    }
+    const QDate wanted(date().year(), date().month(), typedDay_);
+    if (typedDay_ <= date().day() || !wanted.isValid()) return;
+    setDate(wanted);
+    setSelectedSection(currentSection());
 }
 
 QDate DatePicker::InWindow(const QDate& date) const {

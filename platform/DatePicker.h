@@ -23,8 +23,11 @@ class DatePicker final : public QDateEdit {
 
   private:
     QDate InWindow(const QDate& date) const;
+    void KeepTypedDay(Section typedInto);
 
     int lastYear_;
     bool twoDigits_;
     bool typing_ = false;
+    bool movedOn_ = false;
+    int typedDay_ = 0;
 };
