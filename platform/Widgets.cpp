@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <algorithm>
 #include <optional>
 
@@ -96,8 +97,21 @@ class GlyphEngine final : public QIconEngine {
     std::optional<QColor> colour_;
 };
 
-QIcon GlyphIcon(const QString& name, std::optional<QColor> colour) {
+/// Breeze stands in where the desktop has no theme; Qt's own platforms, such as VNC, do not even
+/// know where themes lie.
+void FindThemes() {
     if (QIcon::fallbackThemeName().isEmpty()) QIcon::setFallbackThemeName(QStringLiteral("breeze"));
+    const QStringList known = QIcon::themeSearchPaths();
+    QStringList paths = known;
+    paths += QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, QStringLiteral("icons"),
+                                       QStandardPaths::LocateDirectory);
+    paths.removeDuplicates();
+    if (paths != known) QIcon::setThemeSearchPaths(paths);
+    if (QIcon::themeName().isEmpty()) QIcon::setThemeName(QStringLiteral("breeze"));
+}
+
+QIcon GlyphIcon(const QString& name, std::optional<QColor> colour) {
+    FindThemes();
     const QIcon icon = QIcon::fromTheme(name);
     return icon.isNull() ? icon : QIcon(new GlyphEngine(icon, colour));
 }
