@@ -37,6 +37,7 @@ struct Chart::Figures {
     int rows;
     int columns;
     QString title;
+    QString givenName;  // the accessible name that the chart gave itself
     std::vector<QString> rowLabels;
     std::vector<QString> columnLabels;
     std::vector<double> values;
@@ -215,10 +216,18 @@ void Chart::Refresh() {
     figures_->DrawAxes();
     for (int column = 1; column <= columnCount(); ++column) figures_->DrawSeries(column);
     figures_->plot->replot(QCustomPlot::rpQueuedReplot);
-    setAccessibleName(title().trimmed().isEmpty() ? tr("Chart") : title().trimmed());
+    NameItself();
     QStringList texts;
     for (int place = 1; place <= figures_->Places(); ++place) texts += FiguresOfPlace(place);
     setAccessibleDescription(texts.join(QStringLiteral("; ")));
+}
+
+/// By its title, unless the form has found a name of its own for it.
+void Chart::NameItself() {
+    if (accessibleName() != figures_->givenName) return;
+    const QString words = title().trimmed();
+    figures_->givenName = words.isEmpty() ? tr("Chart") : words;
+    setAccessibleName(figures_->givenName);
 }
 
 QString Chart::FiguresOfPlace(int place) const {

@@ -46,6 +46,7 @@ class Chart final : public QWidget {
   private:
     QString FiguresOfPlace(int place) const;
     QString FiguresAsTable() const;
+    void NameItself();
     void ShowFocus(bool focused);
 
     struct Figures;  // keeps the plotting library out of every form
