@@ -256,6 +256,7 @@ void Grid::ScrollToTop() { scrollToTop(); }
 
 void Grid::ScrollToRow(int row) {
     const QModelIndex index = IndexOf(row, 0);
+    executeDelayedItemsLayout();  // the rows may be new
     if (index.isValid()) scrollTo(index, EnsureVisible);
 }
 
