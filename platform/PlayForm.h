@@ -2,34 +2,17 @@
 #pragma once
 
 #include "core/generator.h"
-#include "platform/Form.h"
+#include "platform/PlayFrame.h"
 
-class Grid;
-class ListBox;
 class QCheckBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
 class QScrollBar;
-class QVBoxLayout;
 
-/// The words and looks in which one play form differs from another.
-struct PlayFormText {
-    QString name;     ///< The form's name.
-    QString caption;  ///< Its title.
-    QString heading;  ///< `Label7`.
-    QString body;     ///< `Label2`.
-};
-
-/// The frame of a play form: lottery list, number of lines, condition boxes, filter buttons, grid,
-/// status line, and the buttons to generate, print, save, help and close.
+/// The frame of a form that tries until its lines comply: it adds the number of lines, the
+/// condition boxes and the status line.
 ///
-/// A form on this frame tells `PlayLotto` and `Style` and adds its own controls to `inputs()`.
-class PlayForm : public Form {
+/// A form on this frame tells `PlayLotto` and `Style`, and adds its own controls to `Inputs()`.
+class PlayForm : public PlayFrame {
     Q_OBJECT
-  public:
-    void Load() override;
-
   protected:
     PlayForm(Program& program, const PlayFormText& text, QWidget* parent);
 
@@ -38,12 +21,27 @@ class PlayForm : public Form {
 
     virtual GeneratorStyle Style() const = 0;
 
-    /// What follows a choice of lottery, once it is loaded: a first set of lines.
-    virtual void LotteryChosen();
+    void Generate() override;
 
-    void List1_Click();
-    void HScroll1_Change();
-    void Command2_Click();
+    /// The place between the number of lines and the condition boxes.
+    QVBoxLayout& Inputs() { return *inputs_; }
+
+    /// The row of the condition boxes' heading, for a button that explains them.
+    QHBoxLayout& ConditionsHeading() { return *conditionsHeading_; }
 
     int LinesWanted() const;
+
+  private:
+    QLayout* BuildLineCount();
+    void BuildConditions();
+    void HScroll1_Change();
+
+    QScrollBar* hScroll1_;
+    QLabel* label4_;
+    QLabel* label5_;
+    QCheckBox* check1_;
+    QCheckBox* check2_;
+    QCheckBox* check3_;
+    QVBoxLayout* inputs_;
+    QHBoxLayout* conditionsHeading_;
 };

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/PlayFrame.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <vector>
+
+#include "core/draw_database.h"
+#include "core/filters.h"
+#include "platform/Grid.h"
+#include "platform/Hourglass.h"
+#include "platform/InputDropper.h"
+#include "platform/LinesGrid.h"
+#include "platform/Lists.h"
+#include "platform/LotteryList.h"
+#include "platform/Widgets.h"
+
+namespace {
+
+// Below this many seconds nobody has had the time to click anywhere.
+constexpr double patience = 0.25;
+
+/// The widgets of a layout that take the focus, in the order in which they stand in it.
+void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* item = layout.itemAt(i);
+        QWidget* widget = item->widget();
+        const QLayout* inner = widget == nullptr ? item->layout() : widget->layout();
+        if (inner != nullptr) CollectWidgets(*inner, widgets);
+        const bool focus = widget != nullptr && widget->focusPolicy() != Qt::NoFocus;
+        if (focus) widgets.push_back(widget);
+    }
+}
+
+}  // namespace
+
+PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+                     int mostLines, QWidget* parent)
+    : Form(program, text.name, text.caption, parent),
+      label2_(MakeBody(QStringLiteral("Label2"), text.body)),
+      label7_(MakeTitle(QStringLiteral("Label7"), text.heading)),
+      grid_(Named(new Grid(mostLines + 2, 9), QStringLiteral("MSFlexGrid1"))),
+      column_(new QVBoxLayout),
+      foot_(new QVBoxLayout) {
+    grid_->SizeColumns();
+    grid_->setAccessibleName(tr("Lottery entries"));
+    auto* middle = new QHBoxLayout;
+    middle->addLayout(BuildInputs(names), 1);
+    middle->addSpacing(12);
+    middle->addWidget(grid_);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 12, 16, 16);
+    layout->setSpacing(8);
+    layout->addWidget(label7_);
+    layout->addWidget(label2_);
+    layout->addSpacing(4);
+    layout->addLayout(middle, 1);
+    layout->addLayout(foot_);
+    layout->addLayout(BuildActions(names.help));
+    Connect();
+    SetCloseButton(command1_);
+    SetHelpPage(QStringLiteral("helpplay.html"));
+}
+
+QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
+    label1_ = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
+    list1_ = Named(new ListBox, QStringLiteral("List1"));
+    list1_->setAccessibleName(label1_->text());
+    auto* column = new QVBoxLayout;
+    column->addWidget(label1_);
+    column->addWidget(list1_, 1);
+    column->addSpacing(8);
+    column->addLayout(column_);
+    column->addSpacing(8);
+    column->addLayout(BuildFilters(names));
+    return column;
+}
+
+QLayout* PlayFrame::BuildFilters(const PlayButtonNames& names) {
+    QPushButton* oddEven = MakeButton(names.oddEven, tr("Odd/even"));
+    QPushButton* highLow = MakeButton(names.highLow, tr("High/low"));
+    QPushButton* longRuns = MakeButton(names.longRuns, tr("Long runs"));
+    QPushButton* previousDraws = MakeButton(names.previousDraws, tr("Previous draws"));
+    ConnectFilter(oddEven, &PruneOddEven);
+    ConnectFilter(highLow, &PruneHighLow);
+    ConnectFilter(longRuns, &PruneLongRun);
+    ConnectFilter(previousDraws, &PruneHistory);
+    auto* grid = new QGridLayout;
+    grid->addWidget(MakeLabel(names.filtersLabel, tr("Filters")), 0, 0, 1, 2);
+    grid->addWidget(oddEven, 1, 0);
+    grid->addWidget(highLow, 1, 1);
+    grid->addWidget(longRuns, 2, 0);
+    grid->addWidget(previousDraws, 2, 1);
+    return grid;
+}
+
+QLayout* PlayFrame::BuildActions(const QString& helpName) {
+    command2_ = MakeIconButton(QStringLiteral("Command2"), QStringLiteral("view-refresh"),
+                               tr("Generate another selection of lottery entries"));
+    command6_ = MakeIconButton(QStringLiteral("Command6"), QStringLiteral("document-print"),
+                               tr("Print out the lottery entries"));
+    command7_ = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
+                               tr("Save these lottery entries to disk"));
+    help_ = MakeButton(helpName, tr(" Help "));
+    command1_ =
+        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
+    command2_->setDefault(true);
+    command6_->setEnabled(static_cast<bool>(services().printLines));
+    auto* row = new QHBoxLayout;
+    row->addWidget(command2_);
+    row->addWidget(command6_);
+    row->addWidget(command7_);
+    row->addStretch(1);
+    row->addWidget(help_);
+    row->addWidget(command1_);
+    return row;
+}
+
+void PlayFrame::Connect() {
+    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
+    connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
+    connect(command6_, &QPushButton::clicked, this, [this] {
+        if (state().Busy == 0) services().printLines(this, *grid_);
+    });
+    connect(command7_, &QPushButton::clicked, this, [this] {
+        if (state().Busy == 0) services().saveLines(this, *grid_);
+    });
+    connect(help_, &QPushButton::clicked, this,
+            [this] { services().openPage(QStringLiteral("helpplay.html")); });
+    connect(command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
+}
+
+void PlayFrame::ConnectFilter(QPushButton* button, void (*prune)(State&)) {
+    connect(button, &QPushButton::clicked, this, [this, prune] {
+        if (state().Busy != 0) return;
+        prune(state());
+        ShowResult();
+    });
+}
+
+void PlayFrame::TabInReadingOrder() {
+    std::vector<QWidget*> widgets;
+    CollectWidgets(*layout(), widgets);
+    for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+}
+
+void PlayFrame::Load() {
+    TabInReadingOrder();
+    state().Busy = 0;
+    SkinLabels labels{.title = {label7_}, .body = {label2_}, .small = {label1_}, .status = {}};
+    if (statusLabel_ != nullptr) labels.status.push_back(statusLabel_);
+    Skinning(QStringLiteral("SkinPlay.jpg"), labels);
+    ListDatabases(program(), *list1_);
+    ChooseFirstLottery(*list1_);
+}
+
+void PlayFrame::ShowResult() { ShowLines(state(), *grid_); }
+
+void PlayFrame::List1_Click() {
+    if (state().Busy != 0) return;
+    {
+        const Hourglass hourglass;
+        state().Busy = -1;
+        ClearLinesGrid(*grid_);
+        LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    }
+    state().Busy = 0;
+    LotteryChosen();
+}
+
+void PlayFrame::Command2_Click() {
+    if (state().Busy != 0) return;
+    {
+        const Hourglass hourglass;
+        state().Busy = -1;
+        const double start = services().seconds();
+        Generate();
+        if (services().seconds() - start > patience) InputDropper::Run(*command1_);
+    }
+    state().Busy = 0;
+    if (closeWanted_) Unload();
+}
+
+void PlayFrame::Command1_Click() {
+    // A click that waited while a generator ran closes the form as soon as it is through.
+    if (state().Busy != 0) {
+        closeWanted_ = true;
+        return;
+    }
+    Unload();
+}
