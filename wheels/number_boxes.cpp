@@ -12,7 +12,7 @@
 namespace wheels {
 namespace {
 
-std::int16_t PoolNumber(const NumberBox& box) {
+std::int16_t PoolNumber(const Box& box) {
     const int number = LeadingWhole(box.text);
     using Limits = std::numeric_limits<std::int16_t>;
     if (number < Limits::min() || number > Limits::max()) {
@@ -21,14 +21,14 @@ std::int16_t PoolNumber(const NumberBox& box) {
     return static_cast<std::int16_t>(number);
 }
 
-bool InRange(const NumberBox& box, int maxNum) {
+bool InRange(const Box& box, int maxNum) {
     const double number = LeadingNumber(box.text);
     return number >= 1 && number <= maxNum;
 }
 
-int Count(const NumberBoxes& boxes) { return static_cast<int>(boxes.size()); }
+int Count(const Boxes& boxes) { return static_cast<int>(boxes.size()); }
 
-NumberBox& Box(NumberBoxes& boxes, int index) { return boxes[static_cast<std::size_t>(index)]; }
+Box& At(Boxes& boxes, int index) { return boxes[static_cast<std::size_t>(index)]; }
 
 // Shuffles Pool(first) to Pool(first + MaxNum - 1), which start as 1 to MaxNum.
 void ShuffleField(State& state, Random& random, int first) {
@@ -40,15 +40,15 @@ void ShuffleField(State& state, Random& random, int first) {
     }
 }
 
-void Select(State& state, Random& random, NumberBoxes& boxes, int first) {
+void Select(State& state, Random& random, Boxes& boxes, int first) {
     ShuffleField(state, random, first);
     for (int i = 0; i < Count(boxes); ++i) {
-        if (Box(boxes, i).inUse) Box(boxes, i).text = PlainDigits(state.Pool(i + first));
+        if (At(boxes, i).inUse) At(boxes, i).text = PlainDigits(state.Pool(i + first));
     }
 }
 
 // Reads the boxes into Pool, mixes them there, and tells the last index that held a number.
-int MixPool(State& state, Random& random, const NumberBoxes& boxes) {
+int MixPool(State& state, Random& random, const Boxes& boxes) {
     ReadAll(state, boxes);
     int last = 0;
     for (int i = 0; i < Count(boxes); ++i) {
@@ -63,78 +63,72 @@ int MixPool(State& state, Random& random, const NumberBoxes& boxes) {
 
 }  // namespace
 
-bool BoxTakesKey(int code) { return code == 8 || (code >= '0' && code <= '9'); }
-
-void ChooseSize(NumberBoxes& boxes, int count, UnusedTexts unused) {
+void ChooseSize(Boxes& boxes, int count, UnusedTexts unused) {
     for (int i = 0; i < Count(boxes); ++i) {
-        NumberBox& box = Box(boxes, i);
+        Box& box = At(boxes, i);
         box.inUse = i < count;
         if (!box.inUse && unused == UnusedTexts::Emptied) box.text.clear();
     }
 }
 
-void EmptyInvalid(NumberBoxes& boxes, int maxNum) {
-    for (NumberBox& box : boxes) {
+void EmptyInvalid(Boxes& boxes, int maxNum) {
+    for (Box& box : boxes) {
         if (!InRange(box, maxNum)) box.text.clear();
     }
 }
 
-void ReadAll(State& state, const NumberBoxes& boxes) {
+void ReadAll(State& state, const Boxes& boxes) {
     int index = 0;
-    for (const NumberBox& box : boxes) state.Pool(index++) = PoolNumber(box);
+    for (const Box& box : boxes) state.Pool(index++) = PoolNumber(box);
 }
 
-bool ReadAndEmptyUnused(State& state, NumberBoxes& boxes) {
+bool ReadAndEmptyUnused(State& state, Boxes& boxes) {
     const bool good = ReadInRange(state, boxes);
-    for (NumberBox& box : boxes) {
+    for (Box& box : boxes) {
         if (!box.inUse) box.text.clear();
     }
     return good;
 }
 
-bool ReadInRange(State& state, const NumberBoxes& boxes) {
+bool ReadInRange(State& state, const Boxes& boxes) {
     ReadAll(state, boxes);
     bool good = true;
-    for (const NumberBox& box : boxes) good = good && (!box.inUse || InRange(box, state.MaxNum));
+    for (const Box& box : boxes) good = good && (!box.inUse || InRange(box, state.MaxNum));
     return good;
 }
 
-bool ReadFirst(State& state, const NumberBoxes& boxes, int count) {
+bool ReadFirst(State& state, const Boxes& boxes, int count) {
     bool good = true;
     for (int i = 0; i < count; ++i) {
-        const NumberBox& box = boxes.at(static_cast<std::size_t>(i));
+        const Box& box = boxes.at(static_cast<std::size_t>(i));
         state.Pool(i) = PoolNumber(box);
         good = good && LeadingNumber(box.text) >= 1;
     }
     return good;
 }
 
-bool EachInUseHasNumber(const NumberBoxes& boxes) {
-    for (const NumberBox& box : boxes) {
+bool EachInUseHasNumber(const Boxes& boxes) {
+    for (const Box& box : boxes) {
         if (box.inUse && LeadingNumber(box.text) == 0) return false;
     }
     return true;
 }
 
-void SelectFromOne(State& state, Random& random, NumberBoxes& boxes) {
-    Select(state, random, boxes, 1);
-}
+void SelectFromOne(State& state, Random& random, Boxes& boxes) { Select(state, random, boxes, 1); }
 
-void SelectFromZero(State& state, Random& random, NumberBoxes& boxes) {
-    Select(state, random, boxes, 0);
-}
+void SelectFromZero(State& state, Random& random, Boxes& boxes) { Select(state, random, boxes, 0); }
 
-void MixOrder(State& state, Random& random, NumberBoxes& boxes) {
+void MixOrder(State& state, Random& random, Boxes& boxes) {
     MixPool(state, random, boxes);
     for (int i = 0; i < Count(boxes); ++i) {
         const int number = state.Pool(i);
-        Box(boxes, i).text = number > 0 ? PlainDigits(number) : std::string();
+        At(boxes, i).text = number > 0 ? PlainDigits(number) : std::string();
     }
 }
 
-void MixOrderUpToLast(State& state, Random& random, NumberBoxes& boxes) {
+void MixOrderUpToLast(State& state, Random& random, Boxes& boxes) {
     const int last = MixPool(state, random, boxes);
-    for (int i = 0; i <= last; ++i) Box(boxes, i).text = PlainDigits(state.Pool(i));
+    for (int i = 0; i <= last; ++i) At(boxes, i).text = PlainDigits(state.Pool(i));
 }
 
 }  // namespace wheels

@@ -14,7 +14,7 @@ using wheels::ZeroBasedPosition;
 namespace {
 
 // Empties the lines, seeds, and reads the boxes.
-bool Begin(State& state, Random& random, wheels::NumberBoxes& boxes) {
+bool Begin(State& state, Random& random, wheels::Boxes& boxes) {
     ClearLines(state);
     random.SeedFromClock();
     return wheels::ReadAndEmptyUnused(state, boxes);
@@ -73,7 +73,7 @@ Outcome Do_Wheel6(State& state, Random& random, std::string_view pattern) {
     return Expand(state, random, pattern, 3, 7);
 }
 
-Outcome Generate(State& state, Random& random, int option, wheels::NumberBoxes& boxes) {
+Outcome Generate(State& state, Random& random, int option, wheels::Boxes& boxes) {
     if (!Begin(state, random, boxes)) return Outcome::CheckInput;
     const std::string_view pattern = WheelAt(ListFor(state.Picks), option).pattern;
     return state.Picks < 6 ? Do_Wheel4(state, random, pattern) : Do_Wheel6(state, random, pattern);
@@ -126,7 +126,7 @@ Outcome Do_Wheel(State& state, Random& random, std::string_view pattern) {
     return Outcome::Done;
 }
 
-Outcome Generate(State& state, Random& random, int option, wheels::NumberBoxes& boxes) {
+Outcome Generate(State& state, Random& random, int option, wheels::Boxes& boxes) {
     if (!Begin(state, random, boxes)) return Outcome::CheckInput;
     return Do_Wheel(state, random, WheelAt(WheelList::Triplets, option).pattern);
 }

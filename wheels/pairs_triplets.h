@@ -37,7 +37,7 @@ wheels::Outcome Do_Wheel6(State& state, Random& random, std::string_view pattern
 /// Clears `Lines`, seeds `random` from the clock, reads the boxes into `Pool`, empties those out of
 /// use, and makes the wheel of `Option1(option)` for the current lottery. Unless it is done `Lines`
 /// is empty. `Busy` is the caller's.
-wheels::Outcome Generate(State& state, Random& random, int option, wheels::NumberBoxes& boxes);
+wheels::Outcome Generate(State& state, Random& random, int option, wheels::Boxes& boxes);
 
 }  // namespace pairs
 
@@ -66,6 +66,6 @@ std::optional<std::string> Advice(int picks);
 wheels::Outcome Do_Wheel(State& state, Random& random, std::string_view pattern);
 
 /// As `pairs::Generate`.
-wheels::Outcome Generate(State& state, Random& random, int option, wheels::NumberBoxes& boxes);
+wheels::Outcome Generate(State& state, Random& random, int option, wheels::Boxes& boxes);
 
 }  // namespace triplets

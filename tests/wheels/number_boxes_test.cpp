@@ -14,26 +14,18 @@
 
 namespace {
 
-using wheels::NumberBoxes;
+using wheels::Boxes;
 using Texts = std::vector<std::string>;
 
-TEST(NumberBoxKeys, AreDigitsAndBackspaceAlone) {
-    for (int code = 0; code < 256; ++code) {
-        const bool expected = code == 8 || (code >= 48 && code <= 57);
-        EXPECT_EQ(wheels::BoxTakesKey(code), expected) << code;
-    }
-    EXPECT_FALSE(wheels::BoxTakesKey(13)) << "Enter is swallowed";
-}
-
-TEST(NumberBoxSize, PutsTheFirstBoxesToUseAndEmptiesTheRest) {
-    NumberBoxes boxes = BoxesCounting(6, 6);
+TEST(ChoiceOfSize, PutsTheFirstBoxesToUseAndEmptiesTheRest) {
+    Boxes boxes = BoxesCounting(6, 6);
     wheels::ChooseSize(boxes, 4, wheels::UnusedTexts::Emptied);
     EXPECT_EQ(TextsOf(boxes), (Texts{"1", "2", "3", "4", "", ""}));
     for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(boxes[i].inUse, i < 4);
 }
 
-TEST(NumberBoxSize, LeavesTheTextsOfTripletsUntilTheyAreGenerated) {
-    NumberBoxes boxes = BoxesCounting(6, 6);
+TEST(ChoiceOfSize, LeavesTheTextsOfTripletsUntilTheyAreGenerated) {
+    Boxes boxes = BoxesCounting(6, 6);
     wheels::ChooseSize(boxes, 3, wheels::UnusedTexts::Kept);
     EXPECT_EQ(TextsOf(boxes), (Texts{"1", "2", "3", "4", "5", "6"}));
     EXPECT_FALSE(boxes[3].inUse);
@@ -41,26 +33,26 @@ TEST(NumberBoxSize, LeavesTheTextsOfTripletsUntilTheyAreGenerated) {
     EXPECT_TRUE(boxes[5].inUse);
 }
 
-TEST(NumberBoxSize, OfAllBoxesLeavesNoneGrey) {
-    NumberBoxes boxes(20);
+TEST(ChoiceOfSize, OfAllBoxesLeavesNoneGrey) {
+    Boxes boxes(20);
     wheels::ChooseSize(boxes, 20, wheels::UnusedTexts::Emptied);
-    for (const wheels::NumberBox& box : boxes) EXPECT_TRUE(box.inUse);
+    for (const wheels::Box& box : boxes) EXPECT_TRUE(box.inUse);
 }
 
 TEST(ChangeOfLottery, EmptiesBoxesWhoseNumbersNoLongerExist) {
-    NumberBoxes boxes = BoxesOf(8, {"34", "35", "1", "0", "", "049", "-3"});
+    Boxes boxes = BoxesOf(8, {"34", "35", "1", "0", "", "049", "-3"});
     wheels::EmptyInvalid(boxes, 34);
     EXPECT_EQ(TextsOf(boxes), (Texts{"34", "", "1", "", "", "", "", ""}));
 }
 
 TEST(ChangeOfLottery, LeavesValidTextAsTyped) {
-    NumberBoxes boxes = BoxesOf(3, {"05", "9x", "x9"});
+    Boxes boxes = BoxesOf(3, {"05", "9x", "x9"});
     wheels::EmptyInvalid(boxes, 49);
     EXPECT_EQ(TextsOf(boxes), (Texts{"05", "9x", ""}));
 }
 
 TEST(ChangeOfLottery, LooksAtBoxesOutOfUseToo) {
-    NumberBoxes boxes = BoxesCounting(4, 4);
+    Boxes boxes = BoxesCounting(4, 4);
     wheels::ChooseSize(boxes, 2, wheels::UnusedTexts::Kept);
     wheels::EmptyInvalid(boxes, 3);
     EXPECT_EQ(TextsOf(boxes), (Texts{"1", "2", "3", ""}));
@@ -68,7 +60,7 @@ TEST(ChangeOfLottery, LooksAtBoxesOutOfUseToo) {
 
 TEST(ReadingOfPairsAndTriplets, PutsTheNumbersIntoThePoolFromZero) {
     const auto state = LotteryOf({});
-    NumberBoxes boxes = BoxesOf(4, {"7", "08", "49"});
+    Boxes boxes = BoxesOf(4, {"7", "08", "49"});
     EXPECT_TRUE(wheels::ReadAndEmptyUnused(*state, boxes));
     EXPECT_EQ(state->Pool(0), 7);
     EXPECT_EQ(state->Pool(1), 8);
@@ -78,14 +70,14 @@ TEST(ReadingOfPairsAndTriplets, PutsTheNumbersIntoThePoolFromZero) {
 
 TEST(ReadingOfPairsAndTriplets, AcceptsEqualNumbers) {
     const auto state = LotteryOf({});
-    NumberBoxes boxes = BoxesOf(2, {"7", "7"});
+    Boxes boxes = BoxesOf(2, {"7", "7"});
     EXPECT_TRUE(wheels::ReadAndEmptyUnused(*state, boxes));
 }
 
 TEST(ReadingOfPairsAndTriplets, RefusesWhatABoxInUseCannotHold) {
     for (const char* text : {"", "0", "50", "999", "x", "-1"}) {
         const auto state = LotteryOf({});
-        NumberBoxes boxes = BoxesOf(2, {"7", text});
+        Boxes boxes = BoxesOf(2, {"7", text});
         EXPECT_FALSE(wheels::ReadAndEmptyUnused(*state, boxes)) << text;
         EXPECT_EQ(boxes[1].text, text) << "what was refused stays to be corrected";
     }
@@ -93,7 +85,7 @@ TEST(ReadingOfPairsAndTriplets, RefusesWhatABoxInUseCannotHold) {
 
 TEST(ReadingOfPairsAndTriplets, EmptiesGreyBoxesAndIsNeverRefusedForThem) {
     const auto state = LotteryOf({});
-    NumberBoxes boxes = BoxesOf(4, {"1", "2", "300", "4"});
+    Boxes boxes = BoxesOf(4, {"1", "2", "300", "4"});
     wheels::ChooseSize(boxes, 2, wheels::UnusedTexts::Kept);
     EXPECT_TRUE(wheels::ReadAndEmptyUnused(*state, boxes));
     EXPECT_EQ(TextsOf(boxes), (Texts{"1", "2", "", ""}));
@@ -102,7 +94,7 @@ TEST(ReadingOfPairsAndTriplets, EmptiesGreyBoxesAndIsNeverRefusedForThem) {
 
 TEST(ReadingOfPairsAndTriplets, EmptiesGreyBoxesEvenWhenRefused) {
     const auto state = LotteryOf({});
-    NumberBoxes boxes = BoxesOf(3, {"", "2", "3"});
+    Boxes boxes = BoxesOf(3, {"", "2", "3"});
     wheels::ChooseSize(boxes, 2, wheels::UnusedTexts::Kept);
     EXPECT_FALSE(wheels::ReadAndEmptyUnused(*state, boxes));
     EXPECT_EQ(TextsOf(boxes), (Texts{"", "2", ""}));
@@ -154,7 +146,7 @@ TEST(Reading, OfANumberBeyondThePoolFails) {
     }
 }
 
-using Selection = void (*)(State&, Random&, NumberBoxes&);
+using Selection = void (*)(State&, Random&, Boxes&);
 constexpr Selection selections[] = {wheels::SelectFromOne, wheels::SelectFromZero};
 
 TEST(RandomSelection, FillsBoxesInUseWithDifferentNumbersOfTheField) {
@@ -162,7 +154,7 @@ TEST(RandomSelection, FillsBoxesInUseWithDifferentNumbersOfTheField) {
         for (std::uint64_t seed = 0; seed < 200; ++seed) {
             const auto state = LotteryOf({.maxNum = 20});
             Random random = RandomOf(seed);
-            NumberBoxes boxes(24);
+            Boxes boxes(24);
             wheels::ChooseSize(boxes, 18, wheels::UnusedTexts::Emptied);
             select(*state, random, boxes);
             std::set<int> numbers;
@@ -178,7 +170,7 @@ TEST(RandomSelection, LeavesBoxesOutOfUseAsTheyAre) {
     for (const Selection select : selections) {
         const auto state = LotteryOf({});
         Random random = RandomOf(3);
-        NumberBoxes boxes = BoxesOf(3, {"1", "2", "300"});
+        Boxes boxes = BoxesOf(3, {"1", "2", "300"});
         wheels::ChooseSize(boxes, 2, wheels::UnusedTexts::Kept);
         select(*state, random, boxes);
         EXPECT_EQ(boxes[2].text, "300");
@@ -190,7 +182,7 @@ TEST(RandomSelection, OfPairsWritesBeyondTheFieldWhatThePoolHeldBefore) {
     Random random = RandomOf(3);
     state->Pool(5) = 41;
     state->Pool(7) = 43;
-    NumberBoxes boxes(7);
+    Boxes boxes(7);
     wheels::SelectFromOne(*state, random, boxes);
     EXPECT_EQ(boxes[4].text, "41");
     EXPECT_EQ(boxes[5].text, "0");
@@ -201,7 +193,7 @@ TEST(RandomSelection, OfOtherWheelsWritesBeyondTheFieldWhatThePoolHeldBefore) {
     const auto state = LotteryOf({.maxNum = 4});
     Random random = RandomOf(3);
     state->Pool(4) = 40;
-    NumberBoxes boxes(6);
+    Boxes boxes(6);
     wheels::SelectFromZero(*state, random, boxes);
     EXPECT_EQ(boxes[4].text, "40");
     EXPECT_EQ(boxes[5].text, "0");
@@ -210,7 +202,7 @@ TEST(RandomSelection, OfOtherWheelsWritesBeyondTheFieldWhatThePoolHeldBefore) {
 TEST(RandomSelection, ShufflesEachPlaceWithOneOfTheWholeField) {
     const auto state = LotteryOf({.maxNum = 30});
     Random random = RandomOf(9);
-    NumberBoxes boxes(18);
+    Boxes boxes(18);
     wheels::SelectFromOne(*state, random, boxes);
     Random same = RandomOf(9);
     std::vector<int> pool(31);
@@ -223,8 +215,8 @@ TEST(RandomSelection, ShufflesEachPlaceWithOneOfTheWholeField) {
 
 TEST(RandomSelection, OfTheOtherFormShufflesTheSameWayOnePlaceLower) {
     const auto state = LotteryOf({.maxNum = 30});
-    NumberBoxes fromOne(18);
-    NumberBoxes fromZero(18);
+    Boxes fromOne(18);
+    Boxes fromZero(18);
     Random one = RandomOf(9);
     Random other = RandomOf(9);
     wheels::SelectFromOne(*state, one, fromOne);
@@ -236,7 +228,7 @@ TEST(RandomSelection, OfTheOtherFormShufflesTheSameWayOnePlaceLower) {
 TEST(RandomSelection, OfAFieldBeyondThePoolFails) {
     const auto state = LotteryOf({.maxNum = 121});
     Random random = RandomOf(9);
-    NumberBoxes boxes(18);
+    Boxes boxes(18);
     EXPECT_THROW(wheels::SelectFromOne(*state, random, boxes), Failure);
     EXPECT_NO_THROW(wheels::SelectFromZero(*state, random, boxes));
 }
@@ -245,7 +237,7 @@ TEST(RandomOrder, KeepsTheNumbersAndWritesThemPlain) {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesOf(6, {"05", "17", "9x"});
+        Boxes boxes = BoxesOf(6, {"05", "17", "9x"});
         wheels::MixOrder(*state, random, boxes);
         Texts texts = TextsOf(boxes);
         std::sort(texts.begin(), texts.end());
@@ -258,7 +250,7 @@ TEST(RandomOrder, ClosesInEmptyBoxesBetweenNumbersWithTheOthers) {
     for (std::uint64_t seed = 0; seed < 200; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesOf(4, {"1", "", "3"});
+        Boxes boxes = BoxesOf(4, {"1", "", "3"});
         wheels::MixOrder(*state, random, boxes);
         seen.insert(TextsOf(boxes));
     }
@@ -271,7 +263,7 @@ TEST(RandomOrder, TakesNumbersOfGreyBoxesAlong) {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesCounting(4, 4);
+        Boxes boxes = BoxesCounting(4, 4);
         wheels::ChooseSize(boxes, 2, wheels::UnusedTexts::Kept);
         wheels::MixOrder(*state, random, boxes);
         first.insert(boxes[0].text);
@@ -284,7 +276,7 @@ TEST(RandomOrder, IsUnevenAsTheLastPlaceIsNeverDrawn) {
     for (std::uint64_t seed = 0; seed < 50; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesOf(2, {"1", "2"});
+        Boxes boxes = BoxesOf(2, {"1", "2"});
         wheels::MixOrder(*state, random, boxes);
         EXPECT_EQ(TextsOf(boxes), (Texts{"2", "1"}));
     }
@@ -294,7 +286,7 @@ TEST(RandomOrder, MixesPlaceByPlaceBelowTheLast) {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesCounting(20, 12);
+        Boxes boxes = BoxesCounting(20, 12);
         wheels::MixOrder(*state, random, boxes);
         Random same = RandomOf(seed);
         Texts expected = TextsOf(BoxesCounting(20, 12));
@@ -308,7 +300,7 @@ TEST(RandomOrder, MixesPlaceByPlaceBelowTheLast) {
 TEST(RandomOrder, OfEmptyBoxesLeavesThemEmpty) {
     const auto state = LotteryOf({});
     Random random = RandomOf(1);
-    NumberBoxes boxes(3);
+    Boxes boxes(3);
     boxes[1].text = "x";
     wheels::MixOrder(*state, random, boxes);
     EXPECT_EQ(TextsOf(boxes), (Texts{"", "", ""}));
@@ -319,7 +311,7 @@ TEST(RandomOrder, OfBudgetWheelsWritesAZeroBetweenNumbersAndStopsAtTheLast) {
     for (std::uint64_t seed = 0; seed < 200; ++seed) {
         const auto state = LotteryOf({});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesOf(5, {"1", "", "3", "", "abc"});
+        Boxes boxes = BoxesOf(5, {"1", "", "3", "", "abc"});
         wheels::MixOrderUpToLast(*state, random, boxes);
         EXPECT_EQ(boxes[3].text, "");
         EXPECT_EQ(boxes[4].text, "abc") << "boxes behind the last number are not written";
@@ -331,7 +323,7 @@ TEST(RandomOrder, OfBudgetWheelsWritesAZeroBetweenNumbersAndStopsAtTheLast) {
 TEST(RandomOrder, OfBudgetWheelsWithoutNumbersWritesAZeroIntoTheFirstBox) {
     const auto state = LotteryOf({});
     Random random = RandomOf(1);
-    NumberBoxes boxes(3);
+    Boxes boxes(3);
     wheels::MixOrderUpToLast(*state, random, boxes);
     EXPECT_EQ(TextsOf(boxes), (Texts{"0", "", ""}));
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-using wheels::NumberBoxes;
+using wheels::Boxes;
 using wheels::Outcome;
 using Line = std::vector<int>;
 using Lines = std::vector<Line>;
@@ -51,7 +51,7 @@ TEST(WheelingPairs, AsksForTheNumbersOfTheSize) {
 TEST(WheelingPairs, OfFourPairsMakesSixLinesForFourPicks) {
     const auto state = LotteryOf({.picks = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LinesOf(*state, 4), fourPairs);
     EXPECT_EQ(state->Lines(1, 5), 0);
@@ -62,7 +62,7 @@ TEST(WheelingPairs, OfFourPairsAddsARandomFifthNumberForFivePicks) {
     for (std::uint64_t seed = 0; seed < 200; ++seed) {
         const auto state = LotteryOf({.picks = 5, .maxNum = 9});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+        Boxes boxes = BoxesCounting(pairs::boxCount, 8);
         ASSERT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
         const Lines lines = LinesOf(*state, 5);
         ASSERT_EQ(lines.size(), 6U);
@@ -79,7 +79,7 @@ TEST(WheelingPairs, OfFourPairsAddsARandomFifthNumberForFivePicks) {
 TEST(WheelingPairs, OfFourPairsMakesThreeLinesForSixPicks) {
     const auto state = LotteryOf({.picks = 6});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LinesOf(*state, 7),
               (Lines{{1, 2, 3, 4, 7, 8, 0}, {1, 2, 5, 6, 7, 8, 0}, {3, 4, 5, 6, 7, 8, 0}}));
@@ -89,7 +89,7 @@ TEST(WheelingPairs, AddsASeventhNumberOutsideTheLineForSevenPicks) {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
         const auto state = LotteryOf({.picks = 7, .maxNum = 8, .maxPball = 3});
         Random random = RandomOf(seed);
-        NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+        Boxes boxes = BoxesCounting(pairs::boxCount, 8);
         ASSERT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
         for (const Line& line : LinesOf(*state, 8)) {
             EXPECT_EQ(std::set<int>(line.begin(), line.begin() + 7).size(), 7U);
@@ -103,7 +103,7 @@ TEST(WheelingPairs, DrawsTheExtraBallForEveryLineByItself) {
     std::set<int> balls;
     const auto state = LotteryOf({.picks = 5, .maxPball = 14});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 18);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 18);
     ASSERT_EQ(pairs::Generate(*state, random, 5, boxes), Outcome::Done);
     for (const Line& line : LinesOf(*state, 8)) balls.insert(line[7]);
     EXPECT_GT(balls.size(), 5U);
@@ -114,7 +114,7 @@ TEST(WheelingPairs, DrawsTheExtraBallForEveryLineByItself) {
 TEST(WheelingPairs, OfThreePicksWritesFourColumnsAndSortsThree) {
     const auto state = LotteryOf({.picks = 3});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesOf(pairs::boxCount, {"8", "7", "6", "5", "4", "3", "2", "1"});
+    Boxes boxes = BoxesOf(pairs::boxCount, {"8", "7", "6", "5", "4", "3", "2", "1"});
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LinesOf(*state, 5)[0], (Line{6, 7, 8, 5, 0}));
 }
@@ -122,7 +122,7 @@ TEST(WheelingPairs, OfThreePicksWritesFourColumnsAndSortsThree) {
 TEST(WheelingPairs, OfEightPicksPlaysSixNumbersAndShowsNothing) {
     const auto state = LotteryOf({.picks = 8});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LineCount(*state), 0) << "the empty columns are sorted to the front";
 }
@@ -130,7 +130,7 @@ TEST(WheelingPairs, OfEightPicksPlaysSixNumbersAndShowsNothing) {
 TEST(WheelingPairs, PlaysANumberTypedTwiceTwice) {
     const auto state = LotteryOf({.picks = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesOf(pairs::boxCount, {"5", "2", "5", "4", "5", "6", "7", "8"});
+    Boxes boxes = BoxesOf(pairs::boxCount, {"5", "2", "5", "4", "5", "6", "7", "8"});
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LinesOf(*state, 4)[0], (Line{2, 4, 5, 5}));
 }
@@ -139,7 +139,7 @@ TEST(WheelingPairs, RefusedLeavesNoLinesOfAnEarlierResult) {
     for (const char* text : {"", "0", "50"}) {
         const auto state = LotteryOf({.picks = 4});
         Random random = RandomOf(1);
-        NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+        Boxes boxes = BoxesCounting(pairs::boxCount, 8);
         ASSERT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
         boxes[3].text = text;
         EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::CheckInput);
@@ -150,7 +150,7 @@ TEST(WheelingPairs, RefusedLeavesNoLinesOfAnEarlierResult) {
 TEST(WheelingPairs, IsNeverRefusedForAGreyBox) {
     const auto state = LotteryOf({.picks = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     boxes[8].text = "777";
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(boxes[8].text, "");
@@ -159,7 +159,7 @@ TEST(WheelingPairs, IsNeverRefusedForAGreyBox) {
 TEST(WheelingPairs, OfFourNumbersInAFieldOfFourFindsNoFifthAndEndsAtOnce) {
     const auto state = LotteryOf({.picks = 5, .maxNum = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesOf(pairs::boxCount, {"1", "2", "3", "4", "1", "2", "3", "4"});
+    Boxes boxes = BoxesOf(pairs::boxCount, {"1", "2", "3", "4", "1", "2", "3", "4"});
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::NoOtherNumber);
     EXPECT_EQ(AllCells(*state), std::vector<int>(181 * 15));
 }
@@ -167,14 +167,14 @@ TEST(WheelingPairs, OfFourNumbersInAFieldOfFourFindsNoFifthAndEndsAtOnce) {
 TEST(WheelingPairs, OfAFieldOfFourWithRepeatsInEveryLineFindsItsFifth) {
     const auto state = LotteryOf({.picks = 5, .maxNum = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesOf(pairs::boxCount, {"1", "2", "1", "2", "1", "2", "1", "2"});
+    Boxes boxes = BoxesOf(pairs::boxCount, {"1", "2", "1", "2", "1", "2", "1", "2"});
     EXPECT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
     EXPECT_EQ(LineCount(*state), 6);
 }
 
 TEST(WheelingPairs, SeedsFromTheClock) {
     const auto state = LotteryOf({.picks = 5});
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     Random random([] { return 7U; });
     random.Reset(1);
     ASSERT_EQ(pairs::Generate(*state, random, 0, boxes), Outcome::Done);
@@ -186,7 +186,7 @@ TEST(WheelingPairs, SeedsFromTheClock) {
 TEST(WheelingPairs, OfASizeThatDoesNotExistFails) {
     const auto state = LotteryOf({.picks = 4});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(pairs::boxCount, 8);
+    Boxes boxes = BoxesCounting(pairs::boxCount, 8);
     EXPECT_THROW(pairs::Generate(*state, random, 6, boxes), Failure);
 }
 
@@ -222,7 +222,7 @@ TEST(WheelingTriplets, AdvisesOnThePicksOfTheLottery) {
 Lines NineNumbers(int picks, int columns) {
     const auto state = LotteryOf({.picks = picks});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(triplets::boxCount, 9);
+    Boxes boxes = BoxesCounting(triplets::boxCount, 9);
     EXPECT_EQ(triplets::Generate(*state, random, 0, boxes), Outcome::Done);
     return LinesOf(*state, columns);
 }
@@ -252,7 +252,7 @@ TEST(WheelingTriplets, OfAllSizesMakeTheirLines) {
     for (int option = 0; option < 6; ++option) {
         const auto state = LotteryOf({.picks = 6});
         Random random = RandomOf(1);
-        NumberBoxes boxes = BoxesCounting(triplets::boxCount, triplets::NumberCount(option));
+        Boxes boxes = BoxesCounting(triplets::boxCount, triplets::NumberCount(option));
         ASSERT_EQ(triplets::Generate(*state, random, option, boxes), Outcome::Done);
         EXPECT_EQ(LineCount(*state), lines[static_cast<std::size_t>(option)]);
     }
@@ -261,7 +261,7 @@ TEST(WheelingTriplets, OfAllSizesMakeTheirLines) {
 TEST(WheelingTriplets, EmptyTheBoxesThatASmallerSizeLeftFilled) {
     const auto state = LotteryOf({.picks = 6});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(triplets::boxCount, 12);
+    Boxes boxes = BoxesCounting(triplets::boxCount, 12);
     wheels::ChooseSize(boxes, 9, wheels::UnusedTexts::Kept);
     EXPECT_EQ(boxes[9].text, "10");
     EXPECT_EQ(triplets::Generate(*state, random, 0, boxes), Outcome::Done);
@@ -272,7 +272,7 @@ TEST(WheelingTriplets, EmptyTheBoxesThatASmallerSizeLeftFilled) {
 TEST(WheelingTriplets, RefusedLeaveNoLines) {
     const auto state = LotteryOf({.picks = 6});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesCounting(triplets::boxCount, 9);
+    Boxes boxes = BoxesCounting(triplets::boxCount, 9);
     ASSERT_EQ(triplets::Generate(*state, random, 0, boxes), Outcome::Done);
     boxes[8].text = "50";
     EXPECT_EQ(triplets::Generate(*state, random, 0, boxes), Outcome::CheckInput);
@@ -282,7 +282,7 @@ TEST(WheelingTriplets, RefusedLeaveNoLines) {
 TEST(WheelingTriplets, OfAFieldOfSixFindNoSeventhAndEndAtOnce) {
     const auto state = LotteryOf({.picks = 7, .maxNum = 6});
     Random random = RandomOf(1);
-    NumberBoxes boxes = BoxesOf(triplets::boxCount, {"1", "2", "3", "4", "5", "6", "1", "2", "3"});
+    Boxes boxes = BoxesOf(triplets::boxCount, {"1", "2", "3", "4", "5", "6", "1", "2", "3"});
     EXPECT_EQ(triplets::Generate(*state, random, 0, boxes), Outcome::NoOtherNumber);
     EXPECT_EQ(AllCells(*state), std::vector<int>(181 * 15));
 }

@@ -51,8 +51,8 @@ inline std::vector<int> AllCells(const State& state) {
 }
 
 /// `total` boxes of which the first hold these texts; all of those are in use, the rest is not.
-inline wheels::NumberBoxes BoxesOf(int total, const std::vector<std::string>& texts) {
-    wheels::NumberBoxes boxes(static_cast<std::size_t>(total));
+inline wheels::Boxes BoxesOf(int total, const std::vector<std::string>& texts) {
+    wheels::Boxes boxes(static_cast<std::size_t>(total));
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i].inUse = i < texts.size();
         if (boxes[i].inUse) boxes[i].text = texts[i];
@@ -61,14 +61,14 @@ inline wheels::NumberBoxes BoxesOf(int total, const std::vector<std::string>& te
 }
 
 /// `total` boxes, the first `count` of which are in use and hold 1 to `count`.
-inline wheels::NumberBoxes BoxesCounting(int total, int count) {
+inline wheels::Boxes BoxesCounting(int total, int count) {
     std::vector<std::string> texts;
     for (int number = 1; number <= count; ++number) texts.push_back(std::to_string(number));
     return BoxesOf(total, texts);
 }
 
-inline std::vector<std::string> TextsOf(const wheels::NumberBoxes& boxes) {
+inline std::vector<std::string> TextsOf(const wheels::Boxes& boxes) {
     std::vector<std::string> texts;
-    for (const wheels::NumberBox& box : boxes) texts.push_back(box.text);
+    for (const wheels::Box& box : boxes) texts.push_back(box.text);
     return texts;
 }
