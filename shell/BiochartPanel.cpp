@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/BiochartPanel.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "core/settings.h"
+#include "platform/Chart.h"
+#include "platform/DatePicker.h"
+#include "platform/Widgets.h"
+#include "shell/biochart.h"
+
+namespace {
+
+constexpr int birthDateEntry = 15;
+constexpr int seriesCount = 4;
+constexpr double highest = 10;
+
+}  // namespace
+
+BiochartPanel::BiochartPanel(Program& program, QWidget* parent)
+    : Panel(QStringLiteral("Label7"), tr("   Biochart:"), parent),
+      program_(program),
+      dtPicker1_(
+          Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), program.services.today(), this),
+                QStringLiteral("DTPicker1"))),
+      update_(MakeButton(Member(QStringLiteral("Command1"), 8), tr("Update"), this)),
+      more_(MakeButton(Member(QStringLiteral("Command1"), 17), tr("More"), this)),
+      today_(Named(new QRadioButton(tr("Today"), this), Member(QStringLiteral("Option1"), 0))),
+      tomorrow_(
+          Named(new QRadioButton(tr("Tomorrow"), this), Member(QStringLiteral("Option1"), 1))),
+      chart_(Named(new Chart(1, seriesCount, this), QStringLiteral("MSChart1"))) {
+    today_->setChecked(true);
+    more_->setEnabled(false);
+    const std::array<QString, seriesCount> series = {tr("Intellectual"), tr("Emotional"),
+                                                     tr("Intuition"), tr("Luck")};
+    for (int column = 1; column <= seriesCount; ++column) {
+        chart_->SetColumnLabel(column, series.at(static_cast<std::size_t>(column - 1)));
+    }
+    chart_->SetRange(-highest, highest);
+    chart_->setAccessibleName(tr("Biochart"));
+    Build();
+    Connect();
+}
+
+void BiochartPanel::Build() {
+    auto* label4 = MakeLabel(QStringLiteral("Label4"), tr("Birth date:"), this);
+    label4->setBuddy(dtPicker1_);
+    dtPicker1_->setAccessibleName(tr("Birth date"));
+    QGridLayout* sheet = Sheet();
+    sheet->addWidget(label4, 0, 0);
+    sheet->addWidget(dtPicker1_, 0, 1, 1, 2);
+    sheet->addWidget(update_, 1, 1);
+    sheet->addWidget(more_, 1, 2);
+    sheet->addWidget(today_, 2, 1);
+    sheet->addWidget(tomorrow_, 2, 2);
+    sheet->addWidget(chart_, 3, 0, 1, 3);
+    sheet->setColumnStretch(1, 1);
+    sheet->setColumnStretch(2, 1);
+    sheet->setRowStretch(3, 1);
+    chart_->setMinimumSize(320, 110);
+}
+
+void BiochartPanel::Connect() {
+    connect(update_, &QPushButton::clicked, this, &BiochartPanel::DoBiorhythm);
+    connect(more_, &QPushButton::clicked, this, &BiochartPanel::moreWanted);
+    for (QRadioButton* option : {today_, tomorrow_}) {
+        connect(option, &QRadioButton::clicked, this, &BiochartPanel::DoBiorhythm);
+    }
+}
+
+void BiochartPanel::ShowBirthDate() {
+    const Services& services = program_.services;
+    dtPicker1_->SetValue(DateFromText(program_.state.Settings(birthDateEntry), services.region,
+                                      services.today(), "quillon.ini, line 15"));
+}
+
+void BiochartPanel::DoBiorhythm() {
+    const Date birthDate = dtPicker1_->Value();
+    int days = DaysBetween(birthDate, program_.services.today());
+    if (tomorrow_->isChecked()) ++days;
+    const std::array<double, seriesCount> values = Biochart(days);
+    for (int column = 1; column <= seriesCount; ++column) {
+        chart_->SetValue(1, column, values.at(static_cast<std::size_t>(column - 1)));
+    }
+    chart_->Refresh();
+    program_.state.Settings(birthDateEntry) = MediumDate(birthDate);
+}
+
+void BiochartPanel::SetMoreAvailable(bool available) { more_->setEnabled(available); }

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QHash>
+#include <QMenuBar>
+#include <functional>
+
+#include "core/state.h"
+
+class QAction;
+
+/// The menu of the main window: every entry under its name, disabled until somebody answers it.
+class MainMenu final : public QMenuBar {
+    Q_OBJECT
+  public:
+    explicit MainMenu(QWidget* parent = nullptr);
+
+    /// The entry of that name; a name that the menu does not have is a `Failure`.
+    QAction* Entry(const QString& name) const;
+
+    /// Enables the entry and runs `handler` on each choice of it.
+    void Answer(const QString& name, const std::function<void()>& handler);
+
+    /// Captions and visibility of `LinksLink(0)` to `LinksLink(9)` as the settings tell.
+    void ShowLinks(const State& state);
+
+  private:
+    QAction* Add(QMenu* menu, const QString& name, const QString& caption);
+    void AddLinks(QMenu* menu);
+
+    QHash<QString, QAction*> entries_;
+};

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Toolbar.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/Widgets.h"
+
+namespace {
+
+constexpr int pictureSize = 26;  // 390 twips
+constexpr int pictureMargin = 2;
+constexpr int groupGap = 12;
+
+struct PictureText {
+    const char* toolTip;
+    bool startsGroup = false;
+};
+
+constexpr std::array<PictureText, Toolbar::pictureCount> pictureTexts = {{
+    {QT_TRANSLATE_NOOP("Toolbar", " Show notes, checklist, etc. ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Download latest lottery results "), true},
+    {QT_TRANSLATE_NOOP("Toolbar", " View lottery draws databases ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Check lottery entries to see if you have won ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Type in your lottery entries ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Chart the most common numbers "), true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Statistical analysis of lottery numbers ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Chart odd:even number ratios ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Full selection pick "), true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Hot numbers pick ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Lucky dip pick ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Create your own wheel ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Browse the Internet "), true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Lottery information ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Help ")},
+    {QT_TRANSLATE_NOOP("Toolbar", " Quit "), true},
+}};
+
+}  // namespace
+
+ToolbarPicture::ToolbarPicture(int index, const QString& toolTip, QWidget* parent)
+    : QToolButton(parent) {
+    setObjectName(Member(QStringLiteral("Image1"), index));
+    setIcon(
+        QIcon(QStringLiteral(":/icons/icons/toolbar%1.svg").arg(index, 2, 10, QLatin1Char('0'))));
+    setFixedSize(pictureSize, pictureSize);
+    setAutoRaise(true);
+    setMouseTracking(true);
+    setToolTip(toolTip);
+    setAccessibleName(toolTip.trimmed());
+}
+
+void ToolbarPicture::SetBordered(bool bordered) {
+    if (bordered_ == bordered) return;
+    bordered_ = bordered;
+    update();
+}
+
+void ToolbarPicture::SetDimmed(bool dimmed) {
+    if (dimmed_ == dimmed) return;
+    dimmed_ = dimmed;
+    update();
+}
+
+void ToolbarPicture::enterEvent(QEnterEvent* event) {
+    QToolButton::enterEvent(event);
+    Q_EMIT mouseOver();
+}
+
+void ToolbarPicture::focusInEvent(QFocusEvent* event) {
+    // Only who walks by keyboard wants to see where the focus is.
+    focusVisible_ =
+        event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    QToolButton::focusInEvent(event);
+}
+
+void ToolbarPicture::focusOutEvent(QFocusEvent* event) {
+    focusVisible_ = false;
+    QToolButton::focusOutEvent(event);
+}
+
+void ToolbarPicture::mouseMoveEvent(QMouseEvent* event) {
+    QToolButton::mouseMoveEvent(event);
+    // The move ends here: passed on, the background would take the border away again.
+    event->accept();
+    Q_EMIT mouseOver();
+}
+
+void ToolbarPicture::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor highlight = palette().color(QPalette::Highlight);
+    const QRectF edge = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    if (bordered_ || focusVisible_ || isDown()) {
+        QColor fill = highlight;
+        fill.setAlpha(isDown() ? 90 : 36);
+        painter.setPen(QPen(highlight, focusVisible_ && !bordered_ ? 2 : 1));
+        painter.setBrush(bordered_ || isDown() ? QBrush(fill) : QBrush(Qt::NoBrush));
+        painter.drawRoundedRect(edge, 4, 4);
+    }
+    painter.setOpacity(dimmed_ ? 0.4 : 1.0);
+    icon().paint(&painter, rect().marginsRemoved(
+                               {pictureMargin, pictureMargin, pictureMargin, pictureMargin}));
+}
+
+Toolbar::Toolbar(QWidget* parent) : QLabel(parent) {
+    setObjectName(QStringLiteral("Label1"));
+    setMouseTracking(true);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 6, 8, 7);
+    layout->setSpacing(4);
+    for (int i = 0; i < pictureCount; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        if (pictureTexts.at(place).startsGroup) layout->addSpacing(groupGap);
+        auto* picture = new ToolbarPicture(
+            i, QCoreApplication::translate("Toolbar", pictureTexts.at(place).toolTip), this);
+        pictures_.at(place) = picture;
+        layout->addWidget(picture);
+        connect(picture, &ToolbarPicture::mouseOver, this, [this, i] { MoveBorderTo(i); });
+        connect(picture, &QToolButton::clicked, this, [this, i] { Q_EMIT clicked(i); });
+    }
+    layout->addStretch();
+    // A label asks for the room of its text alone, so the pictures' room is set here.
+    setFixedHeight(layout->sizeHint().height());
+    setMinimumWidth(layout->sizeHint().width());
+}
+
+void Toolbar::ClearBorders() {
+    for (ToolbarPicture* picture : pictures_) picture->SetBordered(false);
+}
+
+void Toolbar::MoveBorderTo(int index) {
+    for (int i = 0; i < pictureCount; ++i) Picture(i)->SetBordered(i == index);
+}
+
+void Toolbar::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    ClearBorders();
+}
+
+void Toolbar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor background = palette().color(QPalette::Window);
+    background.setAlpha(235);
+    painter.fillRect(rect(), background);
+    QColor line = palette().color(QPalette::WindowText);
+    line.setAlpha(50);
+    painter.fillRect(rect().adjusted(0, height() - 1, 0, 0), line);
+}

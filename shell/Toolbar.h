@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QToolButton>
+#include <array>
+
+/// A picture of the toolbar: a button without a frame, with a border inside its edge while the
+/// mouse was last seen over it.
+class ToolbarPicture final : public QToolButton {
+    Q_OBJECT
+    Q_PROPERTY(bool bordered READ Bordered)
+    Q_PROPERTY(bool dimmed READ Dimmed)
+  public:
+    ToolbarPicture(int index, const QString& toolTip, QWidget* parent);
+
+    bool Bordered() const { return bordered_; }
+    void SetBordered(bool bordered);
+
+    /// A dimmed picture stands for something that cannot be opened yet.
+    bool Dimmed() const { return dimmed_; }
+    void SetDimmed(bool dimmed);
+
+  Q_SIGNALS:
+    void mouseOver();
+
+  protected:
+    void enterEvent(QEnterEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    bool bordered_ = false;
+    bool dimmed_ = false;
+    bool focusVisible_ = false;
+};
+
+/// The row of sixteen pictures on their background `Label1`.
+class Toolbar final : public QLabel {
+    Q_OBJECT
+  public:
+    static constexpr int pictureCount = 16;
+
+    explicit Toolbar(QWidget* parent = nullptr);
+
+    ToolbarPicture* Picture(int index) const {
+        return pictures_.at(static_cast<std::size_t>(index));
+    }
+
+    /// Takes the border from every picture.
+    void ClearBorders();
+
+  Q_SIGNALS:
+    void clicked(int index);
+
+  protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void MoveBorderTo(int index);
+
+    std::array<ToolbarPicture*, pictureCount> pictures_{};
+};
