@@ -1,2 +1,70 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Application.h"
+
+#include <QIcon>
+#include <cstdio>
+#include <cstdlib>
+#include <new>
+
+#include "core/failure.h"
+#include "platform/FailureReport.h"
+#include "platform/Text.h"
+
+// A static library's resources are linked in only where somebody asks for them.
+static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
+
+namespace {
+
+QString ReportOf(const std::exception& error) {
+    if (const auto* failure = dynamic_cast<const Failure*>(&error)) {
+        return ToQString(failure->what());
+    }
+    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+        return Application::tr("The memory of the computer is used up.");
+    }
+    return Application::tr("Something happened that the program does not foresee: %1")
+        .arg(QString::fromLocal8Bit(error.what()));
+}
+
+}  // namespace
+
+Application::Application(int& argumentCount, char** arguments)
+    : QApplication(argumentCount, arguments) {
+    RegisterIcons();
+    setApplicationName(QStringLiteral("quillon"));
+    setDesktopFileName(QStringLiteral("quillon"));
+    setStyle(QStringLiteral("Fusion"));
+    QIcon::setFallbackThemeName(QStringLiteral("breeze"));
+    setWindowIcon(QIcon(QStringLiteral(":/icons/icons/quillon.svg")));
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& error) {
+        ReportAndEnd(ReportOf(error));
+    }
+    return true;
+}
+
+int Application::Run(const std::function<int()>& program) {
+    try {
+        return program();
+    } catch (const std::exception& error) {
+        ReportAndEnd(ReportOf(error));
+    }
+    return EXIT_FAILURE;
+}
+
+void Application::ReportAndEnd(const QString& text) {
+    // What else fails while the report is on screen belongs to a run that is over.
+    if (reporting_) return;
+    reporting_ = true;
+    ShowFailureReport(text);
+    End(EXIT_FAILURE);
+}
+
+void Application::End(int exitCode) {
+    std::fflush(nullptr);
+    std::_Exit(exitCode);
+}

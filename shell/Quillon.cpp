@@ -1,2 +1,269 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Quillon.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <array>
+
+#include "core/draw_database.h"
+#include "core/settings.h"
+#include "core/syndicate.h"
+#include "entries/saved_entries.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Skin.h"
+#include "platform/Text.h"
+#include "platform/Widgets.h"
+#include "shell/BiochartPanel.h"
+#include "shell/InfoPanels.h"
+#include "shell/MainMenu.h"
+#include "shell/Toolbar.h"
+#include "shell/Welcome.h"
+#include "shell/form_catalogue.h"
+
+namespace {
+
+constexpr int panelsEntry = 19;
+constexpr int firstLinkAddress = 30;
+constexpr int linkCount = 11;
+constexpr const char* backupFolder = "Backup";
+constexpr const char* pictureFile = "SkinMain.jpg";
+constexpr int internetPicture = 12;
+constexpr int downloadPicture = 1;
+
+/// The menu entry behind each toolbar picture. The picture of a lucky dip opens the numerology form
+/// and stays so; the download depends on the region, and the internet needs no visible entry.
+constexpr std::array<const char*, Toolbar::pictureCount> pictureEntries = {
+    "FileNotes",           "DatabaseUpdate",  "wDatabaseView",   "DatabaseCheck",
+    "DatabaseStoreDrawsW", "AnalysisCommon",  "AnalyseNumStats", "AnalyseOddEven",
+    "PlayFullSel",         "PlayHot",         "PlayLucky",       "PlayDIYWheels",
+    "LinksLink(0)",        "HelpLotteryInfo", "HelpHelp",        "FileExit"};
+
+}  // namespace
+
+Quillon::Quillon(Program& program, QWidget* parent)
+    : QMainWindow(parent),
+      program_(program),
+      menu_(new MainMenu(this)),
+      toolbar_(new Toolbar),
+      panels_(new InfoPanels(program, nullptr)),
+      welcome_(new Welcome(nullptr)) {
+    setObjectName(QStringLiteral("Quillon"));
+    setWindowTitle(QStringLiteral("Lottery Quillon World"));
+    Build();
+    AnswerMenu();
+    AnswerForms();
+    DimPictures();
+}
+
+void Quillon::Build() {
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(toolbar_);
+    layout->addWidget(welcome_, 1, Qt::AlignCenter);
+    layout->addWidget(panels_, 1);
+    setMenuBar(menu_);
+    setCentralWidget(centre);
+    // Wherever the mouse moves but on a picture, the pictures lose their border.
+    centre->setMouseTracking(true);
+    setMouseTracking(true);
+    resize(1000, 660);
+    connect(toolbar_, &Toolbar::clicked, this, &Quillon::Image1_Click);
+    connect(welcome_, &Welcome::stepChosen, this,
+            [this](const QString& entry) { menu_->Entry(entry)->trigger(); });
+}
+
+void Quillon::AnswerMenu() {
+    menu_->Answer(QStringLiteral("FileNotes"), [this] { ShowPanels(); });
+    menu_->Answer(QStringLiteral("FileDeleteSaved"), [this] { FileDeleteSaved_Click(); });
+    menu_->Answer(QStringLiteral("FileExit"), [this] { FileExit_Click(); });
+    menu_->Answer(QStringLiteral("HelpHelp"),
+                  [this] { program_.services.openPage(QStringLiteral("help.html")); });
+    menu_->Answer(QStringLiteral("HelpWebSite"), [this] {
+        program_.services.openPage(ToQString(program_.state.Settings(firstLinkAddress)));
+    });
+    for (int i = 0; i < linkCount; ++i) {
+        menu_->Answer(Member(QStringLiteral("LinksLink"), i), [this, i] { LinksLink(i); });
+    }
+}
+
+void Quillon::AnswerForms() {
+    for (const CatalogueEntry& entry : FormCatalogue()) {
+        const QString name = QString::fromLatin1(entry.menuEntry);
+        if (name.isEmpty() || entry.make == nullptr) continue;
+        menu_->Answer(name, [this, &entry] { Open(entry); });
+    }
+    const QString biorhythms = QStringLiteral("AnalyseBiorhythms");
+    panels_->Biochart().SetMoreAvailable(menu_->Entry(biorhythms)->isEnabled());
+    connect(&panels_->Biochart(), &BiochartPanel::moreWanted, menu_->Entry(biorhythms),
+            &QAction::trigger);
+}
+
+void Quillon::Load() {
+    program_.state.Crlf = "\r\n";
+    if (!program_.folder.FolderExists(backupFolder)) program_.folder.MakeFolder(backupFolder);
+    LoadSettings();
+    Skinning();
+    if (program_.state.Settings(panelsEntry) == "1") ShowPanels();
+    if (program_.folder.Exists(notesFile)) panels_->ShowNotes(ReadNotes(program_.folder));
+    panels_->Biochart().ShowBirthDate();
+    panels_->Biochart().DoBiorhythm();
+    LoadSyndicate(program_.state, program_.folder);
+    UpdateSyndicate();
+    ListDatabases();
+}
+
+void Quillon::LoadSettings() {
+    ::LoadSettings(program_.state, program_.folder);
+    menu_->ShowLinks(program_.state);
+}
+
+void Quillon::Skinning() {
+    // Where pictures are chosen and this one is missing, the window stays as it is.
+    if (!SkinChoiceOf(program_.state).pictures) {
+        picture_ = {};
+    } else if (const QString file = QString::fromLatin1(pictureFile);
+               program_.folder.Exists(pictureFile)) {
+        picture_ = SkinPicture(program_.state, program_.folder, file);
+    }
+    ApplySkinColours(program_.state, *this, {});
+    update();
+}
+
+void Quillon::ListDatabases() {
+    panels_->ShowDatabases(::ListDatabases(program_.state, program_.folder));
+}
+
+void Quillon::UpdateSyndicate() {
+    LoadSyndicate(program_.state, program_.folder);
+    const std::string& name = std::as_const(program_.state.Members)(0, 10);
+    const std::string& manager = std::as_const(program_.state.Members)(0, 0);
+    panels_->ShowSyndicate(name, manager);
+    const bool open = !name.empty() && !manager.empty();
+    const std::initializer_list<const char*> entries = {"SyndicateMembers", "SyndicatePayments",
+                                                        "SyndicatesNotes", "SyndicateManager"};
+    for (const char* entry : entries) {
+        const QString entryName = QString::fromLatin1(entry);
+        const CatalogueEntry* form = FindCatalogueEntry(entryName);
+        const bool exists = form != nullptr && form->make != nullptr;
+        menu_->Entry(entryName)->setEnabled(open && exists);
+    }
+}
+
+void Quillon::ShowPanels() {
+    const bool shown = !panels_->Shown();
+    welcome_->setVisible(!shown);
+    panels_->SetShown(shown);
+    program_.state.Settings(panelsEntry) = shown ? "1" : "0";
+}
+
+void Quillon::SaveNotes() { ::SaveNotes(program_.folder, panels_->CurrentNotes()); }
+
+void Quillon::Open(const CatalogueEntry& entry) {
+    if (entry.needsSavedEntries && !program_.folder.Exists(savedEntriesFile)) {
+        program_.services.messages.Show(this,
+                                        {.title = tr("Oops!  "),
+                                         .text = tr("You do not have any stored lottery entries!"),
+                                         .sign = Sign::Exclamation});
+        return;
+    }
+    const std::unique_ptr<Form> form = entry.make(program_, this);
+    form->Load();
+    if (entry.prepare != nullptr) {
+        for (int i = 0; i < entry.messageRuns; ++i) QCoreApplication::processEvents();
+        entry.prepare(*form);
+    }
+    form->exec();
+    if (entry.changesDatabases) ListDatabases();
+    if (entry.changesSyndicate) UpdateSyndicate();
+    if (entry.changesSettings) {
+        LoadSettings();
+        Skinning();
+    }
+}
+
+void Quillon::LinksLink(int index) {
+    // The last link has no address of its own and opens the name of the first UK download.
+    program_.services.openPage(ToQString(program_.state.Settings(firstLinkAddress + index)));
+}
+
+void Quillon::FileDeleteSaved_Click() {
+    MessageBoxes& messages = program_.services.messages;
+    if (!program_.folder.Exists(savedEntriesFile)) {
+        messages.Show(this, {.title = tr("Error!"),
+                             .text = tr("No lottery entries saved!    "),
+                             .sign = Sign::Exclamation});
+        return;
+    }
+    const QString lineEnd = ToQString(program_.state.Crlf);
+    const QString question = tr(" Are you sure you want to delete     ") + lineEnd +
+                             tr(" all your saved lottery entries?    ") + lineEnd;
+    const Answer answer = messages.Show(this, {.title = tr("Warning!"),
+                                               .text = question,
+                                               .sign = Sign::Question,
+                                               .buttons = Buttons::YesNo});
+    if (answer == Answer::Yes) program_.folder.Delete(savedEntriesFile);
+}
+
+void Quillon::FileExit_Click() {
+    QCoreApplication::processEvents();
+    close();
+}
+
+QString Quillon::DownloadEntry() const {
+    // Day-first dates are the program's whole test for a user in the UK.
+    const bool dayFirst = program_.services.region.order == Region::Order::DayMonthYear;
+    return dayFirst ? QStringLiteral("DatabaseUpdate") : QStringLiteral("DatabaseUS");
+}
+
+void Quillon::Image1_Click(int index) {
+    if (index == internetPicture) {
+        LinksLink(0);
+    } else if (index == downloadPicture) {
+        menu_->Entry(DownloadEntry())->trigger();
+    } else {
+        const auto place = static_cast<std::size_t>(index);
+        menu_->Entry(QString::fromLatin1(pictureEntries.at(place)))->trigger();
+    }
+}
+
+void Quillon::DimPictures() {
+    for (int i = 0; i < Toolbar::pictureCount; ++i) {
+        const QString entry =
+            i == downloadPicture
+                ? DownloadEntry()
+                : QString::fromLatin1(pictureEntries.at(static_cast<std::size_t>(i)));
+        toolbar_->Picture(i)->SetDimmed(!menu_->Entry(entry)->isEnabled());
+    }
+}
+
+void Quillon::closeEvent(QCloseEvent* event) {
+    SaveNotes();
+    SaveSettings(program_.state, program_.folder);
+    event->accept();
+    Q_EMIT ended();
+}
+
+void Quillon::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F1) {
+        menu_->Entry(QStringLiteral("HelpHelp"))->trigger();
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
+}
+
+void Quillon::mouseMoveEvent(QMouseEvent* event) {
+    QMainWindow::mouseMoveEvent(event);
+    toolbar_->ClearBorders();
+}
+
+void Quillon::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (picture_.isNull()) return;
+    QPainter painter(this);
+    PaintSkin(painter, centralWidget()->geometry(), picture_, palette());
+}

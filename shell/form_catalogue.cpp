@@ -1,2 +1,100 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/form_catalogue.h"
+
+#include <QAbstractButton>
+#include <algorithm>
+#include <array>
+
+#include "entries/SaveEntries.h"
+#include "entries/StoreMyDrawsW.h"
+#include "play/PLuckyDip.h"
+
+namespace {
+
+template <typename FormType>
+std::unique_ptr<Form> Make(Program& program, QWidget* parent) {
+    return std::make_unique<FormType>(program, parent);
+}
+
+/// The forms with two modes, hot and cold or three and four matches, all name the second one so.
+void SelectSecondOption(Form& form) {
+    if (auto* option = form.findChild<QAbstractButton*>(QStringLiteral("Option1(1)"))) {
+        option->click();
+    }
+}
+
+constexpr auto catalogue = std::to_array<CatalogueEntry>({
+    {.menuEntry = "FileBackup", .form = "Backup", .changesDatabases = true},
+    {.menuEntry = "FileDelete", .form = "DeleteDbaseW", .changesDatabases = true},
+    {.menuEntry = "FileOpen", .form = "OpenDbase"},
+    {.menuEntry = "FilePreferences", .form = "Preferences", .changesSettings = true},
+    {.menuEntry = "FilePrintSetup", .form = "PrintSetup"},
+
+    {.menuEntry = "DatabasesCreate", .form = "CreateDbase", .changesDatabases = true},
+    {.menuEntry = "wUpdateDbase", .form = "DbaseUpdateW"},
+    {.menuEntry = "wDatabaseView", .form = "HistoryW"},
+    {.menuEntry = "DatabaseUS", .form = "DbaseUpdateUS", .changesDatabases = true},
+    {.menuEntry = "DatabaseUpdate", .form = "DbaseUpdate", .changesDatabases = true},
+    {.menuEntry = "DatabaseCheck", .form = "ShowMyDrawsW", .needsSavedEntries = true},
+    {.menuEntry = "DatabaseViewCheck", .form = "ShowMyDrawsW", .needsSavedEntries = true},
+    {.menuEntry = "DatabaseStoreDrawsW", .form = "StoreMyDrawsW", .make = Make<StoreMyDrawsW>},
+
+    {.menuEntry = "AnalysisCommon", .form = "ACommonNumbers"},
+    {.menuEntry = "AnalyseColdNums", .form = "ACommonNumbers", .prepare = SelectSecondOption},
+    {.menuEntry = "AnalysisSums", .form = "ASums"},
+    {.menuEntry = "AnalyseLowHigh", .form = "ASums"},
+    {.menuEntry = "AnalysisAverages", .form = "AAverages"},
+    {.menuEntry = "AnalyseRange", .form = "ARange"},
+    {.menuEntry = "AnalyseNumStats", .form = "ANumberStats"},
+    {.menuEntry = "AnalyseOddEven", .form = "AOddEven"},
+    {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm"},
+    {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
+
+    {.menuEntry = "PlayAverages", .form = "PAverage"},
+    {.menuEntry = "PlayFullSel", .form = "PFullSel"},
+    {.menuEntry = "PlayColdNums", .form = "PHotNumbers", .prepare = SelectSecondOption},
+    {.menuEntry = "PlayHot", .form = "PHotNumbers"},
+    {.menuEntry = "PlayLuckyDip", .form = "PLuckyDip", .make = Make<PLuckyDip>},
+    {.menuEntry = "Play1Key", .form = "P1Key"},
+    {.menuEntry = "Play2Key", .form = "P2KeyNum"},
+    {.menuEntry = "Play3Key", .form = "P3KeyNum"},
+    {.menuEntry = "PlayBudgetWheels", .form = "PBudgetWheel"},
+    {.menuEntry = "PlayColdWheels", .form = "PHotWheels", .prepare = SelectSecondOption},
+    {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels"},
+    {.menuEntry = "PlayGuarantee3", .form = "PThreeMatch"},
+    {.menuEntry = "PlayGuarantee4",
+     .form = "PThreeMatch",
+     .prepare = SelectSecondOption,
+     .messageRuns = 0},
+    {.menuEntry = "PlayGuaranteed", .form = "PGuaranteed"},
+    {.menuEntry = "PlayHotWheels", .form = "PHotWheels"},
+    {.menuEntry = "PlayWheel49", .form = "Wheel49"},
+    {.menuEntry = "PlayWheel2", .form = "PWheel2"},
+    {.menuEntry = "PlayWheel3", .form = "PWheel3"},
+    {.menuEntry = "PlayStarSign", .form = "PStarSign"},
+    {.menuEntry = "PlayLucky", .form = "PLuckyNumbers"},
+
+    {.menuEntry = "SyndicateNew", .form = "NewSyndicate", .changesSyndicate = true},
+    {.menuEntry = "SyndicateOpen", .form = "OpenSyndicate", .changesSyndicate = true},
+    {.menuEntry = "SyndicatesDelete", .form = "DeleteSyndicate", .changesSyndicate = true},
+    {.menuEntry = "SyndicateManager", .form = "SManager", .changesSyndicate = true},
+    {.menuEntry = "SyndicateMembers", .form = "SMembers"},
+    {.menuEntry = "SyndicatePayments", .form = "SPayments"},
+    {.menuEntry = "SyndicatesNotes", .form = "SNotes"},
+
+    {.menuEntry = "HelpLotteryInfo", .form = "LotteryInfo"},
+    {.menuEntry = "HelpAbout", .form = "About"},
+
+    {.menuEntry = "", .form = "SaveEntries", .make = Make<SaveEntries>},
+});
+
+}  // namespace
+
+std::span<const CatalogueEntry> FormCatalogue() { return catalogue; }
+
+const CatalogueEntry* FindCatalogueEntry(const QString& menuEntry) {
+    const auto* found = std::ranges::find_if(catalogue, [&](const CatalogueEntry& entry) {
+        return menuEntry == QLatin1String(entry.menuEntry);
+    });
+    return found == catalogue.end() ? nullptr : found;
+}

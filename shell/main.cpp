@@ -1,2 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-int main() { return 0; }
+#include <QStandardPaths>
+
+#include "platform/DiskFolder.h"
+#include "shell/Application.h"
+#include "shell/RunProgram.h"
+
+int main(int argumentCount, char** arguments) {
+    Application application(argumentCount, arguments);
+    return application.Run([] {
+        const QString userDataFolder =
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        return RunProgram(
+            ProgramFolderPath(QCoreApplication::applicationDirPath(), userDataFolder));
+    });
+}

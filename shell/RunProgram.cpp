@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/RunProgram.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <cstdlib>
+#include <memory>
+
+#include "entries/SaveLines.h"
+#include "platform/Clock.h"
+#include "platform/DiskFolder.h"
+#include "platform/MessageBoxes.h"
+#include "platform/OpenPage.h"
+#include "platform/Region.h"
+#include "shell/Application.h"
+#include "shell/Quillon.h"
+
+int RunProgram(const QString& folderPath) {
+    const auto state = std::make_unique<State>();
+    DiskFolder folder(folderPath);
+    Random random(SeedOfTheMoment);
+    DesktopMessageBoxes messages;
+    Services services{.seconds = MonotonicSeconds,
+                      .today = Today,
+                      .random = random,
+                      .region = RegionOf(QLocale::system()),
+                      .messages = messages,
+                      .openPage = [&folder](const QString& page) { OpenPage(page, folder.Path()); },
+                      .saveLines = {},
+                      .printLines = {}};
+    Program program{.state = *state, .folder = folder, .services = services};
+    services.saveLines = [&program](QWidget* form, Grid& grid) { SaveLines(program, form, grid); };
+
+    Quillon window(program);
+    QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });
+    window.Load();
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,428 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <cmath>
+
+#include "core/settings.h"
+#include "platform/Chart.h"
+#include "platform/DatePicker.h"
+#include "platform/Lists.h"
+#include "tests/shell/main_window.h"
+
+namespace {
+
+constexpr std::array<const char*, 37> panelControls = {
+    "Label7",      "Label4",      "DTPicker1",   "Command1(8)", "Command1(17)", "Option1(0)",
+    "Option1(1)",  "MSChart1",    "Label8",      "Check1(0)",   "Check1(1)",    "Check1(2)",
+    "Check1(3)",   "Check1(4)",   "Check1(5)",   "Check1(6)",   "Check1(7)",    "Command4(0)",
+    "Command4(1)", "Command4(2)", "Command4(3)", "Command4(4)", "Command4(5)",  "Command4(6)",
+    "Command4(7)", "Text2",       "Command3",    "Label9",      "List1",        "Label2",
+    "Label3",      "Label5",      "Label6",      "Label13",     "Label11",      "Text1",
+    "Label1"};
+
+class InfoPanelsOfWindow : public MainWindow {
+  protected:
+    void StartShown() {
+        MakeDefaultSettings(program.state, program.folder);
+        program.state.Settings(19) = "1";
+        SaveSettings(program.state, program.folder);
+        Start();
+    }
+
+    void Quit() { Choose("FileExit"); }
+
+    QString TextOf(const char* name) {
+        return Find<QWidget>(*window, name)->property("text").toString();
+    }
+
+    QCheckBox* Item(int index) {
+        return Find<QCheckBox>(*window, ("Check1(" + std::to_string(index) + ")").c_str());
+    }
+
+    double Value(int column) { return Find<Chart>(*window, "MSChart1")->value(1, column); }
+
+    std::string NotesFile() { return program.folder.Read("Notes.txt"); }
+};
+
+const std::string sevenUntouchedItems =
+    " 0 ,Analyse lottery draws\r\n 0 ,Generate lottery entries\r\n 0 ,Fill in payslips\r\n"
+    " 0 ,Buy lottery tickets\r\n 0 ,Check results\r\n 0 ,Collect winnings!\r\n 0 ,\r\n";
+
+TEST_F(InfoPanelsOfWindow, HaveTheCaptionsOfTheirControls) {
+    StartShown();
+    const std::vector<std::pair<const char*, const char*>> captions = {
+        {"Label7", "   Biochart:"},
+        {"Label4", "Birth date:"},
+        {"Command1(8)", "Update"},
+        {"Command1(17)", "More"},
+        {"Option1(0)", "Today"},
+        {"Option1(1)", "Tomorrow"},
+        {"Label8", "  Checklist:"},
+        {"Check1(0)", "Analyse lottery draws"},
+        {"Check1(1)", "Generate lottery entries"},
+        {"Check1(2)", "Fill in payslips"},
+        {"Check1(3)", "Buy lottery tickets"},
+        {"Check1(4)", "Check results"},
+        {"Check1(5)", "Collect winnings!"},
+        {"Check1(6)", ""},
+        {"Check1(7)", ""},
+        {"Command3", "Add"},
+        {"Label9", "  Databases:"},
+        {"Label2", "Syndicate:"},
+        {"Label5", "Manager:"},
+        {"Label13", "  Notes:"},
+        {"Label11", "(Ctr+C=Copy / Ctrl+X=Cut / Ctrl+V=Paste)"}};
+    for (const auto& [name, caption] : captions) {
+        EXPECT_EQ(TextOf(name).toStdString(), caption) << name;
+    }
+    for (int i = 0; i < 8; ++i) {
+        const std::string name = "Command4(" + std::to_string(i) + ")";
+        EXPECT_EQ(TextOf(name.c_str()), QStringLiteral("Clear"));
+        EXPECT_EQ(Find<QWidget>(*window, name.c_str())->toolTip(),
+                  QStringLiteral("Clear this item"));
+    }
+    EXPECT_EQ(Find<QWidget>(*window, "Text2")->toolTip(),
+              QStringLiteral("Type in an item and click Add"));
+    EXPECT_EQ(Find<QWidget>(*window, "Command3")->toolTip(),
+              QStringLiteral("Type in a checkist item and click Add"));
+}
+
+TEST_F(InfoPanelsOfWindow, StartHidden) {
+    Start();
+    for (const char* name : panelControls) {
+        if (std::string(name) == "Label1") continue;
+        EXPECT_FALSE(Find<QWidget>(*window, name)->isVisible()) << name;
+        EXPECT_TRUE(Find<QWidget>(*window, name)->isHidden()) << name;
+    }
+    EXPECT_EQ(Setting(19), "0");
+}
+
+TEST_F(InfoPanelsOfWindow, AreShownAndHiddenAllTogetherAndTheSettingFollows) {
+    Start();
+    Choose("FileNotes");
+    for (const char* name : panelControls) {
+        EXPECT_TRUE(Find<QWidget>(*window, name)->isVisible()) << name;
+    }
+    EXPECT_EQ(Setting(19), "1");
+    Choose("FileNotes");
+    EXPECT_FALSE(Find<QWidget>(*window, "Label7")->isVisible());
+    EXPECT_FALSE(Find<QWidget>(*window, "Text1")->isVisible());
+    EXPECT_TRUE(Find<QWidget>(*window, "Label1")->isVisible()) << "the toolbar stays";
+    EXPECT_EQ(Setting(19), "0");
+}
+
+TEST_F(InfoPanelsOfWindow, GiveTheFocusToTheNotePad) {
+    Start();
+    Choose("FileNotes");
+    EXPECT_EQ(window->focusWidget(), Find<QWidget>(*window, "Text1"));
+}
+
+TEST_F(InfoPanelsOfWindow, AreShownAfterARestartWhereTheyWereShown) {
+    Start();
+    Choose("FileNotes");
+    Quit();
+    Start();
+    EXPECT_TRUE(Find<QWidget>(*window, "Label7")->isVisible());
+    EXPECT_EQ(Setting(19), "1");
+}
+
+TEST_F(InfoPanelsOfWindow, HideTheWelcomeWhileTheyAreShown) {
+    Start();
+    EXPECT_TRUE(Find<QWidget>(*window, "WelcomeTitle")->isVisible());
+    Choose("FileNotes");
+    EXPECT_FALSE(Find<QWidget>(*window, "WelcomeTitle")->isVisible());
+}
+
+TEST_F(InfoPanelsOfWindow, TheChecklistIsWrittenWithBlanksRoundTheNumberAndNoLineEndAfterTheNote) {
+    StartShown();
+    Item(1)->setChecked(true);
+    Type(*window, "Text1", QStringLiteral("Buy a ticket"));
+    Quit();
+    EXPECT_EQ(
+        NotesFile(),
+        " 0 ,Analyse lottery draws\r\n 1 ,Generate lottery entries\r\n 0 ,Fill in payslips\r\n"
+        " 0 ,Buy lottery tickets\r\n 0 ,Check results\r\n 0 ,Collect winnings!\r\n"
+        " 0 ,\r\n 0 ,\r\nBuy a ticket");
+}
+
+TEST_F(InfoPanelsOfWindow, ATickAndACaptionSurviveARestart) {
+    StartShown();
+    Type(*window, "Text2", QStringLiteral("Phone the others"));
+    Click(*window, "Command3");
+    Item(6)->setChecked(true);
+    Quit();
+    Start();
+    EXPECT_EQ(Item(6)->text(), QStringLiteral("Phone the others"));
+    EXPECT_TRUE(Item(6)->isChecked());
+    EXPECT_FALSE(Item(5)->isChecked());
+}
+
+TEST_F(InfoPanelsOfWindow, AnItemWithAnEmptyCaptionSurvivesARestart) {
+    StartShown();
+    Click(*window, "Command4(2)");
+    Quit();
+    Start();
+    EXPECT_EQ(Item(2)->text(), QString());
+    EXPECT_EQ(Item(1)->text(), QStringLiteral("Generate lottery entries"));
+    EXPECT_EQ(Item(3)->text(), QStringLiteral("Buy lottery tickets"));
+}
+
+TEST_F(InfoPanelsOfWindow, ACommaCutsACaptionAndTheRestTakesTheNextPlace) {
+    program.folder.Write("Notes.txt", " 0 ,Buy, pay\r\n" + sevenUntouchedItems);
+    StartShown();
+    EXPECT_EQ(Item(0)->text(), QStringLiteral("Buy"));
+    EXPECT_EQ(Item(1)->text(), QStringLiteral("0")) << "the next line's number became a caption";
+}
+
+TEST_F(InfoPanelsOfWindow, NotesWithTheChecklistAloneYieldAnEmptyNote) {
+    program.folder.Write("Notes.txt", sevenUntouchedItems + " 1 ,Rest\r\n");
+    StartShown();
+    EXPECT_EQ(Find<QPlainTextEdit>(*window, "Text1")->toPlainText(), QString());
+    EXPECT_TRUE(Item(7)->isChecked());
+    EXPECT_EQ(Item(7)->text(), QStringLiteral("Rest"));
+}
+
+TEST_F(InfoPanelsOfWindow, ANoteOfSeveralLinesComesBackByteForByte) {
+    const std::string file = sevenUntouchedItems +
+                             " 0 ,\r\nOne\r\n\r\nthree \xA3"
+                             "5\xA0per week, \"all\"\r\n";
+    program.folder.Write("Notes.txt", file);
+    StartShown();
+    Quit();
+    EXPECT_EQ(NotesFile(), file);
+}
+
+TEST_F(InfoPanelsOfWindow, WhatWindows1252DoesNotKnowBecomesAQuestionMark) {
+    StartShown();
+    Find<QPlainTextEdit>(*window, "Text1")->setPlainText(QString(QChar(0x4e2d)) + QChar(0x20ac));
+    Quit();
+    EXPECT_TRUE(NotesFile().ends_with("\r\n?\x80"));
+}
+
+TEST_F(InfoPanelsOfWindow, AddTakesTheFirstFreeItemAndKeepsTheBox) {
+    StartShown();
+    Click(*window, "Command4(3)");
+    Type(*window, "Text2", QStringLiteral("Meet at six"));
+    Click(*window, "Command3");
+    EXPECT_EQ(Item(3)->text(), QStringLiteral("Meet at six"));
+    EXPECT_EQ(Item(6)->text(), QString());
+    EXPECT_EQ(TextOf("Text2"), QStringLiteral("Meet at six"));
+}
+
+TEST_F(InfoPanelsOfWindow, AddDoesNothingWhereEveryItemIsTaken) {
+    StartShown();
+    Type(*window, "Text2", QStringLiteral("Extra"));
+    for (int i = 0; i < 3; ++i) Click(*window, "Command3");
+    EXPECT_EQ(Item(0)->text(), QStringLiteral("Analyse lottery draws"));
+    EXPECT_EQ(Item(6)->text(), QStringLiteral("Extra"));
+    EXPECT_EQ(Item(7)->text(), QStringLiteral("Extra"));
+}
+
+TEST_F(InfoPanelsOfWindow, AnItemShowsItsAmpersandAndKeepsItOnce) {
+    StartShown();
+    Type(*window, "Text2", QStringLiteral("Pay & collect"));
+    Click(*window, "Command3");
+    EXPECT_EQ(Item(6)->text(), QStringLiteral("Pay && collect"));
+    Quit();
+    EXPECT_NE(NotesFile().find(" 0 ,Pay & collect\r\n"), std::string::npos);
+}
+
+TEST_F(InfoPanelsOfWindow, ClearTakesCaptionAndTick) {
+    StartShown();
+    Item(4)->setChecked(true);
+    Click(*window, "Command4(4)");
+    EXPECT_EQ(Item(4)->text(), QString());
+    EXPECT_FALSE(Item(4)->isChecked());
+}
+
+TEST_F(InfoPanelsOfWindow, ChecklistAndNotesAreWrittenAtQuitOnly) {
+    StartShown();
+    Item(0)->setChecked(true);
+    Choose("FileNotes");
+    EXPECT_FALSE(program.folder.Exists("Notes.txt"));
+}
+
+TEST_F(InfoPanelsOfWindow, TheBirthDateOfTheSettingsIsShownInItsForm) {
+    StartShown();
+    auto* picker = Find<DatePicker>(*window, "DTPicker1");
+    EXPECT_EQ(picker->displayFormat(), QStringLiteral("ddd d MMM yyyy"));
+    EXPECT_EQ(MediumDate(picker->Value()), "01-Jan-1970");
+    EXPECT_EQ(Setting(15), "01-Jan-1970") << "drawing the chart writes the date back";
+}
+
+TEST_F(InfoPanelsOfWindow, TheChartIsOneRowOfFourSeries) {
+    StartShown();
+    auto* chart = Find<Chart>(*window, "MSChart1");
+    EXPECT_EQ(chart->rowCount(), 1);
+    ASSERT_EQ(chart->columnCount(), 4);
+    EXPECT_EQ(chart->columnLabel(1), QStringLiteral("Intellectual"));
+    EXPECT_EQ(chart->columnLabel(2), QStringLiteral("Emotional"));
+    EXPECT_EQ(chart->columnLabel(3), QStringLiteral("Intuition"));
+    EXPECT_EQ(chart->columnLabel(4), QStringLiteral("Luck"));
+}
+
+double Wave(int days, int period) {
+    return 10 * std::sin(3.142 * (days % period) * 360.0 / period / 180);
+}
+
+TEST_F(InfoPanelsOfWindow, TheChartShowsTheThreeWavesAndTheirAverage) {
+    StartShown();
+    const int days = 12935;  // from 1 January 1970 to 1 June 2005
+    EXPECT_NEAR(Value(1), Wave(days, 33), 1e-9);
+    EXPECT_NEAR(Value(2), Wave(days, 28), 1e-9);
+    EXPECT_NEAR(Value(3), Wave(days, 38), 1e-9);
+    EXPECT_NEAR(Value(4), (Wave(days, 33) + Wave(days, 28) + Wave(days, 38)) / 3, 1e-9);
+}
+
+TEST_F(InfoPanelsOfWindow, TomorrowAddsADayAtOnce) {
+    StartShown();
+    Click(*window, "Option1(1)");
+    EXPECT_NEAR(Value(1), Wave(12936, 33), 1e-9);
+    Click(*window, "Option1(0)");
+    EXPECT_NEAR(Value(1), Wave(12935, 33), 1e-9);
+}
+
+TEST_F(InfoPanelsOfWindow, OnTheDayOfBirthAllFourValuesAreZero) {
+    StartShown();
+    Find<DatePicker>(*window, "DTPicker1")->SetValue(program.today);
+    Click(*window, "Command1(8)");
+    for (int column = 1; column <= 4; ++column) EXPECT_EQ(Value(column), 0);
+    EXPECT_EQ(Setting(15), "01-Jun-2005");
+}
+
+TEST_F(InfoPanelsOfWindow, ADateAfterTodayDrawsANegativeWave) {
+    StartShown();
+    Find<DatePicker>(*window, "DTPicker1")->SetValue(DaysAfter(program.today, 5));
+    Click(*window, "Command1(8)");
+    EXPECT_NEAR(Value(1), Wave(-5, 33), 1e-9);
+    EXPECT_LT(Value(1), 0);
+}
+
+TEST_F(InfoPanelsOfWindow, QuittingKeepsTheBirthDateOfTheLastDrawing) {
+    StartShown();
+    Find<DatePicker>(*window, "DTPicker1")->SetValue(program.today);
+    Quit();
+    EXPECT_EQ(Setting(15), "01-Jan-1970");
+}
+
+TEST_F(InfoPanelsOfWindow, MoreWaitsForTheBiorhythmForm) {
+    StartShown();
+    EXPECT_EQ(Find<QPushButton>(*window, "Command1(17)")->isEnabled(),
+              Entry("AnalyseBiorhythms")->isEnabled());
+}
+
+TEST_F(InfoPanelsOfWindow, ListTheDatabasesWithNoneChosen) {
+    program.folder.Write("dbase2.txt", "Second\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
+    program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
+    StartShown();
+    auto* list = Find<ListBox>(*window, "List1");
+    ASSERT_EQ(list->count(), 2);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("First"));
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("Second"));
+    EXPECT_EQ(list->Index(), -1);
+}
+
+TEST_F(InfoPanelsOfWindow, AClickOnADatabaseLoadsNothing) {
+    program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
+    StartShown();
+    Find<ListBox>(*window, "List1")->SetIndex(0);
+    EXPECT_EQ(program.state.LotteryName, "");
+    EXPECT_EQ(program.state.Picks, 0);
+}
+
+std::string SyndicateFile(const std::string& name, const std::string& manager) {
+    std::string file;
+    for (int row = 0; row <= 100; ++row) {
+        for (int column = 0; column <= 10; ++column) {
+            const std::string field = row > 0        ? ""
+                                      : column == 0  ? manager
+                                      : column == 10 ? name
+                                                     : "";
+            file += (column > 0 ? ",\"" : "\"") + field + "\"";
+        }
+        file += "\r\n";
+    }
+    return file;
+}
+
+TEST_F(InfoPanelsOfWindow, ShowTheSyndicateOfTheSettings) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(16) = "SMembers.000";
+    SaveSettings(program.state, program.folder);
+    program.folder.Write("SMembers.000", SyndicateFile("The <b>Wednesday</b> Club", "Ann"));
+    Start();
+    EXPECT_EQ(TextOf("Label3"), QStringLiteral("The <b>Wednesday</b> Club"));
+    EXPECT_EQ(TextOf("Label6"), QStringLiteral("Ann"));
+    EXPECT_EQ(Find<QLabel>(*window, "Label3")->textFormat(), Qt::PlainText);
+}
+
+TEST_F(InfoPanelsOfWindow, WithoutASyndicateTheDesignTextGivesWayToEmptyTexts) {
+    Start();
+    EXPECT_EQ(TextOf("Label3"), QString());
+    EXPECT_EQ(TextOf("Label6"), QString());
+    EXPECT_FALSE(Entry("SyndicateManager")->isEnabled());
+}
+
+TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(16) = "SMembers.000";
+    SaveSettings(program.state, program.folder);
+    program.folder.Write("SMembers.000", SyndicateFile("Club", "Ann"));
+    Start();
+    for (const char* entry :
+         {"SyndicateMembers", "SyndicatePayments", "SyndicatesNotes", "SyndicateManager"}) {
+        EXPECT_FALSE(Entry(entry)->isEnabled()) << entry;
+    }
+}
+
+TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(16) = "SMembers.007";
+    SaveSettings(program.state, program.folder);
+    Start();
+    EXPECT_EQ(Setting(16), "");
+    EXPECT_EQ(TextOf("Label3"), QString());
+}
+
+TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
+    StartShown();
+    const QSize smallest = window->minimumSizeHint();
+    EXPECT_LE(smallest.width(), 910);
+    EXPECT_LE(smallest.height(), 480);
+    EXPECT_LE(window->width(), 1366);
+    EXPECT_LE(window->height(), 768);
+}
+
+TEST_F(InfoPanelsOfWindow, ALongItemOrNameDoesNotWidenTheWindow) {
+    StartShown();
+    const int width = window->minimumSizeHint().width();
+    Type(*window, "Text2", QString(200, QLatin1Char('w')));
+    Click(*window, "Command3");
+    EXPECT_EQ(window->minimumSizeHint().width(), width);
+}
+
+TEST_F(InfoPanelsOfWindow, TheKeyboardGoesThroughThemInReadingOrder) {
+    StartShown();
+    const std::vector<const char*> order = {
+        "DTPicker1",   "Command1(8)", "Option1(0)", "Check1(0)", "Command4(0)", "Check1(1)",
+        "Command4(7)", "Text2",       "Command3",   "List1",     "Text1"};
+    std::vector<QString> walked;
+    QWidget* start = Find<QWidget>(*window, "Image1(0)");
+    for (QWidget* next = start->nextInFocusChain(); next != start;
+         next = next->nextInFocusChain()) {
+        walked.push_back(next->objectName());
+    }
+    qsizetype last = -1;
+    for (const char* name : order) {
+        const auto found = std::ranges::find(walked, QString::fromLatin1(name));
+        ASSERT_NE(found, walked.end()) << name;
+        EXPECT_GT(found - walked.begin(), last) << name;
+        last = found - walked.begin();
+    }
+}
+
+}  // namespace

@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QMenu>
+#include <QMenuBar>
+#include <set>
+
+#include "core/settings.h"
+#include "shell/form_catalogue.h"
+#include "tests/shell/main_window.h"
+
+namespace {
+
+struct EntryOfTable {
+    const char* name;
+    const char* caption;
+    bool works;  // without a form behind it
+};
+
+struct MenuOfTable {
+    const char* name;
+    const char* caption;
+    std::vector<EntryOfTable> entries;
+};
+
+const std::vector<MenuOfTable>& Table() {
+    static const std::vector<MenuOfTable> table = {
+        {"FileMenu",
+         " &File",
+         {{"FileCopyToA", "Copy data files to floppy", false},
+          {"FileCopyFromA", "Copy data files from floppy", false},
+          {"FileBackup", "Backup and Restore data", false},
+          {"FileDelete", "Delete lottery database", false},
+          {"FileDeleteSaved", "Delete saved lottery entries", true},
+          {"FileNotes", "Show/Hide info panels", true},
+          {"FileOpen", "Open lottery data in Notepad", false},
+          {"FilePreferences", "Preferences", false},
+          {"FilePrintSetup", "Print setup", false},
+          {"FileExit", "Exit", true}}},
+        {"wDatabase",
+         " &Databases",
+         {{"DatabasesCreate", "Create  lottery database", false},
+          {"wUpdateDbase", "Update lottery database", false},
+          {"wDatabaseView", "View lottery databases", false},
+          {"DatabaseUS", "Download US lottery results", false},
+          {"DatabaseUpdate", "Download UK lottery results", false},
+          {"DatabaseCheck", "Check my lottery entries", false},
+          {"DatabaseViewCheck", "Show my lottery entries", false},
+          {"DatabaseStoreDrawsW", "Store my lottery entries", false}}},
+        {"AnalysisMenu",
+         " &Analyse",
+         {{"AnalysisCommon", "Hot numbers", false},
+          {"AnalyseColdNums", "Cold numbers", false},
+          {"AnalysisSums", "Draw sums", false},
+          {"AnalyseLowHigh", "High/low numbers", false},
+          {"AnalysisAverages", "Number averages", false},
+          {"AnalyseRange", "Number range", false},
+          {"AnalyseNumStats", "Number statistics", false},
+          {"AnalyseOddEven", "Odd/Even ratio", false},
+          {"AnalyseBiorhythms", "Biorhythms", false},
+          {"AnalyseWhatIf", "What if...?", false}}},
+        {"PlayMenu",
+         " &Play",
+         {{"PlayAverages", "Averages", false},
+          {"PlayFullSel", "Full selection", false},
+          {"PlayColdNums", "Cold Numbers", false},
+          {"PlayHot", "Hot numbers", false},
+          {"PlayLuckyDip", "Lucky dip", false},
+          {"Play1Key", "One key number", false},
+          {"Play2Key", "Two key numbers", false},
+          {"Play3Key", "Three key numbers", false},
+          {"PlayBudgetWheels", "Budget wheels", false},
+          {"PlayColdWheels", "ColdWheels", false},
+          {"PlayDIYWheels", "Create-a-wheel", false},
+          {"PlayGuarantee3", "Guaranteed 3-match", false},
+          {"PlayGuarantee4", "Guaranteed 4-match", false},
+          {"PlayGuaranteed", "Guaranteed win wheels", false},
+          {"PlayHotWheels", "Hot wheels", false},
+          {"PlayWheel49", "Wheel 49", false},
+          {"PlayWheel2", "Wheeling pairs", false},
+          {"PlayWheel3", "Wheeling triplets", false},
+          {"PlayStarSign", "Astrology", false},
+          {"PlayLucky", "Numerology", false}}},
+        {"SyndicatesMenu",
+         " &Syndicates",
+         {{"SyndicateNew", "New syndicate", false},
+          {"SyndicateOpen", "Open syndicate", false},
+          {"SyndicatesDelete", "Delete syndicate", false},
+          {"SyndicateManager", "View manager", false},
+          {"SyndicateMembers", "View members", false},
+          {"SyndicatePayments", "View payments", false},
+          {"SyndicatesNotes", "Notes and checklist", false}}},
+        {"LinksMenu",
+         " &WebLinks",
+         {{"LinksLink(0)", "Lottery Quillon", true},
+          {"LinksLink(1)", "UK National Lottery", true},
+          {"LinksLink(2)", "Camelot (UK Lottery)", true},
+          {"LinksLink(3)", "US Powerball", true},
+          {"LinksLink(4)", "US Mega Millions", true},
+          {"LinksLink(5)", "Link", false},
+          {"LinksLink(6)", "Link", false},
+          {"LinksLink(7)", "Link", false},
+          {"LinksLink(8)", "Link", false},
+          {"LinksLink(9)", "Link", false},
+          {"LinksLink(10)", "Link", true}}},
+        {"HelpMenu",
+         " &Help",
+         {{"HelpNewVersion", "Check for new version", false},
+          {"HelpHelp", "Help and tips", true},
+          {"HelpLotteryInfo", "Lottery information", false},
+          {"HelpWebSite", "Lottery Quillon website", true},
+          {"HelpBackupSite", "Alternative website", false},
+          {"HelpEmail", "Email technical support", false},
+          {"HelpAbout", "About...", false}}},
+    };
+    return table;
+}
+
+class MainMenuOfWindow : public MainWindow {};
+
+TEST_F(MainMenuOfWindow, HasTheSevenMenusInOrder) {
+    Start();
+    const auto menus = window->menuBar()->actions();
+    ASSERT_EQ(menus.size(), static_cast<qsizetype>(Table().size()));
+    for (qsizetype i = 0; i < menus.size(); ++i) {
+        const MenuOfTable& expected = Table().at(static_cast<std::size_t>(i));
+        EXPECT_EQ(menus[i]->text().toStdString(), expected.caption);
+        EXPECT_EQ(menus[i]->menu()->objectName().toStdString(), expected.name);
+    }
+}
+
+TEST_F(MainMenuOfWindow, HasEveryEntryUnderItsNameAndCaptionInOrder) {
+    Start();
+    for (const MenuOfTable& expected : Table()) {
+        const auto entries = Find<QMenu>(*window, expected.name)->actions();
+        ASSERT_EQ(entries.size(), static_cast<qsizetype>(expected.entries.size())) << expected.name;
+        for (qsizetype i = 0; i < entries.size(); ++i) {
+            const EntryOfTable& entry = expected.entries.at(static_cast<std::size_t>(i));
+            EXPECT_EQ(entries[i]->objectName().toStdString(), entry.name);
+            EXPECT_EQ(entries[i]->text().toStdString(), entry.caption) << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, DisablesExactlyTheEntriesThatCannotBeAnsweredYet) {
+    Start();
+    for (const MenuOfTable& menu : Table()) {
+        for (const EntryOfTable& entry : menu.entries) {
+            const CatalogueEntry* form = FindCatalogueEntry(QString::fromLatin1(entry.name));
+            const bool answered = entry.works || (form != nullptr && form->make != nullptr);
+            EXPECT_EQ(Entry(entry.name)->isEnabled(), answered) << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, EveryFormOfTheCatalogueHasItsMenuEntry) {
+    Start();
+    std::set<std::string> seen;
+    for (const CatalogueEntry& form : FormCatalogue()) {
+        if (std::string(form.menuEntry).empty()) continue;
+        EXPECT_TRUE(seen.insert(form.menuEntry).second) << form.menuEntry << " stands twice";
+        EXPECT_EQ(Entry(form.menuEntry)->isEnabled(), form.make != nullptr) << form.menuEntry;
+    }
+    EXPECT_EQ(seen.size(), 52U);
+}
+
+TEST_F(MainMenuOfWindow, ShowsTheLinksThatTheSettingsName) {
+    Start();
+    for (int i = 0; i <= 10; ++i) {
+        const std::string name = "LinksLink(" + std::to_string(i) + ")";
+        EXPECT_EQ(Entry(name.c_str())->isVisible(), i < 5 || i == 10) << name;
+    }
+}
+
+TEST_F(MainMenuOfWindow, AnEmptiedLinkLeavesAGapInTheMenu) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(23).clear();
+    SaveSettings(program.state, program.folder);
+    Start();
+    EXPECT_FALSE(Entry("LinksLink(3)")->isVisible());
+    EXPECT_TRUE(Entry("LinksLink(4)")->isVisible());
+    EXPECT_EQ(Entry("LinksLink(4)")->text(), QStringLiteral("US Mega Millions"));
+}
+
+TEST_F(MainMenuOfWindow, ShowsTheAmpersandOfALinksName) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(21) = "Draws & dates";
+    SaveSettings(program.state, program.folder);
+    Start();
+    EXPECT_EQ(Entry("LinksLink(1)")->text(), QStringLiteral("Draws && dates"));
+}
+
+TEST_F(MainMenuOfWindow, ALinkOpensItsAddress) {
+    Start();
+    Choose("LinksLink(3)");
+    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(33))});
+}
+
+TEST_F(MainMenuOfWindow, TheLastLinkOpensTheNameOfTheFirstDownload) {
+    Start();
+    Choose("LinksLink(10)");
+    EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("UK Lotto")});
+    EXPECT_EQ(program.messages.Shown(), 0);
+}
+
+TEST_F(MainMenuOfWindow, TheWebsiteIsTheAddressOfLinkZero) {
+    Start();
+    Choose("HelpWebSite");
+    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(30))});
+}
+
+TEST_F(MainMenuOfWindow, F1OpensTheHelpPage) {
+    Start();
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("help.html")});
+}
+
+}  // namespace

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <memory>
+
+#include "shell/Quillon.h"
+#include "tests/support/form_test.h"
+
+/// The main window on a folder in memory. A test fills the folder, then calls `Start()`.
+class MainWindow : public testing::Test {
+  protected:
+    void Start() {
+        window = std::make_unique<Quillon>(program.program);
+        QObject::connect(window.get(), &Quillon::ended, window.get(), [this] { ++timesEnded; });
+        window->Load();
+        window->show();
+    }
+
+    QAction* Entry(const char* name) { return Find<QAction>(*window, name); }
+
+    void Choose(const char* entry) { Entry(entry)->trigger(); }
+
+    std::string Setting(int entry) { return program.state.Settings(entry); }
+
+    TestProgram program;
+    std::unique_ptr<Quillon> window;
+    int timesEnded = 0;
+};

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileSystemWatcher>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <map>
+
+#include "core/settings.h"
+#include "platform/DiskFolder.h"
+#include "tests/support/form_test.h"
+
+namespace {
+
+/// Whole runs of the program, each in a folder of its own.
+class Process : public testing::Test {
+  protected:
+    struct Outcome {
+        int exitCode = -1;
+        bool crashed = false;
+        std::string output;
+    };
+
+    Outcome RunToItsEnd(const QStringList& orders = {}) {
+        QProcess process;
+        process.start(QStringLiteral(QUILLON_PROBE), QStringList(folderPath) + orders);
+        EXPECT_TRUE(process.waitForFinished(60'000)) << "the process did not end";
+        return {.exitCode = process.exitCode(),
+                .crashed = process.exitStatus() != QProcess::NormalExit,
+                .output = process.readAllStandardOutput().toStdString()};
+    }
+
+    /// Every file of the folder with its bytes.
+    std::map<QString, QByteArray> Files() const {
+        std::map<QString, QByteArray> files;
+        const auto names = QDir(folderPath).entryList(QDir::Files | QDir::Hidden);
+        for (const QString& name : names) {
+            QFile file(folderPath + QLatin1Char('/') + name);
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            files[name] = file.readAll();
+        }
+        return files;
+    }
+
+    void WriteSettings(int entry, const std::string& text) {
+        DiskFolder folder(folderPath);
+        if (!folder.Exists(settingsFile)) MakeDefaultSettings(state, folder);
+        state.Settings(entry) = text;
+        SaveSettings(state, folder);
+    }
+
+    void Write(const char* name, std::string_view bytes) {
+        DiskFolder(folderPath).Write(name, bytes);
+    }
+
+    /// Starts the program, which must report one failure that tells `told`, end with exit code 1
+    /// and leave every file as it was.
+    void ExpectReport(const std::vector<std::string>& told) {
+        QDir(folderPath).mkdir(QStringLiteral("Backup"));
+        if (!QFile::exists(folderPath + QStringLiteral("/quillon.ini"))) WriteSettings(17, "");
+        const auto before = Files();
+        const Outcome outcome = RunToItsEnd();
+        EXPECT_EQ(outcome.exitCode, 1);
+        EXPECT_FALSE(outcome.crashed);
+        EXPECT_TRUE(outcome.output.starts_with("title: Lottery Quillon World\nbuttons: 1\ntext: "))
+            << outcome.output;
+        EXPECT_EQ(outcome.output.find("title:", 1), std::string::npos) << "one report only";
+        for (const std::string& words : told) {
+            EXPECT_NE(outcome.output.find(words), std::string::npos) << outcome.output;
+        }
+        EXPECT_EQ(Files(), before);
+    }
+
+    QTemporaryDir temporary;
+    QString folderPath = temporary.path();
+    State state;
+};
+
+TEST_F(Process, ANormalQuitEndsWithZeroAndSaves) {
+    const Outcome outcome = RunToItsEnd({QStringLiteral("quit")});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_FALSE(outcome.crashed);
+    EXPECT_EQ(outcome.output, "");
+    EXPECT_TRUE(QFile::exists(folderPath + QStringLiteral("/Notes.txt")));
+    EXPECT_TRUE(Files()[QStringLiteral("quillon.ini")].contains("\r\n01-Jan-1970\r\n"));
+}
+
+TEST_F(Process, ASecondRunFindsEverythingAsTheFirstLeftIt) {
+    RunToItsEnd({QStringLiteral("quit")});
+    const auto after = Files();
+    EXPECT_EQ(RunToItsEnd({QStringLiteral("quit")}).exitCode, 0);
+    EXPECT_EQ(Files(), after);
+}
+
+TEST_F(Process, SeventySevenDatabasesAreReported) {
+    for (int i = 10; i < 87; ++i) {
+        const std::string name = "dbase" + std::to_string(i) + ".txt";
+        Write(name.c_str(), "Lottery\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
+    }
+    ExpectReport({});
+}
+
+TEST_F(Process, AMalformedBirthDateIsReported) {
+    WriteSettings(15, "31/02/1970");
+    ExpectReport({"quillon.ini, line 15", "31/02/1970"});
+}
+
+TEST_F(Process, SettingsOf101LinesAreReported) {
+    std::string lines;
+    for (int i = 0; i < 101; ++i) lines += "\r\n";
+    Write(settingsFile, lines);
+    ExpectReport({"quillon.ini", "101"});
+}
+
+TEST_F(Process, NotesOfSevenItemsAreReported) {
+    std::string lines;
+    for (int i = 0; i < 7; ++i) lines += " 0 ,Item\r\n";
+    Write("Notes.txt", lines);
+    ExpectReport({"Notes.txt"});
+}
+
+TEST_F(Process, AColourThatIsNoNumberIsReported) {
+    WriteSettings(10, "3");
+    WriteSettings(5, "mauve");
+    ExpectReport({"quillon.ini, line 5", "mauve"});
+}
+
+TEST_F(Process, WhatCannotBeSavedAtQuitIsReported) {
+    QDir(folderPath).mkdir(QStringLiteral("Notes.txt"));
+    const Outcome outcome = RunToItsEnd({QStringLiteral("quit")});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_FALSE(outcome.crashed);
+    EXPECT_NE(outcome.output.find("Notes.txt"), std::string::npos) << outcome.output;
+    EXPECT_TRUE(Files()[QStringLiteral("quillon.ini")].contains("\r\n01/01/1970\r\n"))
+        << "the settings come after the notes and are not saved";
+}
+
+TEST_F(Process, TheProgramTakesTheFolderOfItsExecutable) {
+    const QString copy = folderPath + QStringLiteral("/quillon");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLON_EXECUTABLE), copy));
+    QProcess process;
+    process.setWorkingDirectory(QDir::rootPath());
+    process.start(copy);
+    ASSERT_TRUE(process.waitForStarted());
+    QFileSystemWatcher watcher({folderPath});
+    QEventLoop loop;
+    const auto look = [&] {
+        if (QFile::exists(folderPath + QStringLiteral("/quillon.ini"))) loop.quit();
+    };
+    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, look);
+    QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
+    QTimer::singleShot(0, &loop, look);
+    loop.exec();
+    process.kill();
+    process.waitForFinished();
+    EXPECT_TRUE(QFile::exists(folderPath + QStringLiteral("/quillon.ini")));
+    EXPECT_TRUE(QDir(folderPath + QStringLiteral("/Backup")).exists());
+}
+
+}  // namespace

@@ -1,0 +1,390 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QAbstractButton>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTimer>
+
+#include "core/settings.h"
+#include "entries/saved_entries.h"
+#include "platform/Lists.h"
+#include "platform/Skin.h"
+#include "platform/Widgets.h"
+#include "shell/form_catalogue.h"
+#include "tests/shell/main_window.h"
+
+namespace {
+
+class QuillonForm : public MainWindow {
+  protected:
+    /// The failure that start-up ends with; empty where it does not fail.
+    std::string FailureOfStart() {
+        try {
+            Start();
+        } catch (const std::exception& failure) {
+            return failure.what();
+        }
+        return {};
+    }
+
+    void WriteSettings(int entry, const std::string& text) {
+        MakeDefaultSettings(program.state, program.folder);
+        program.state.Settings(entry) = text;
+        SaveSettings(program.state, program.folder);
+    }
+};
+
+std::string Database(const std::string& name) {
+    return name + "\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n";
+}
+
+/// A form for the main window to open; tells what happens to it.
+class TellingForm final : public Form {
+  public:
+    TellingForm(Program& openedFor, QWidget* parent)
+        : Form(openedFor, QStringLiteral("TellingForm"), QStringLiteral("Telling"), parent) {
+        auto* option = Named(new QRadioButton(this), QStringLiteral("Option1(1)"));
+        connect(option, &QRadioButton::clicked, this, [] { steps.push_back("option"); });
+        QTimer::singleShot(0, this, [] { steps.push_back("messages"); });
+    }
+
+    void Load() override { steps.push_back("load"); }
+
+    int exec() override {
+        steps.push_back("exec");
+        if (whileOpen) whileOpen(program());
+        return 0;
+    }
+
+    static inline std::vector<std::string> steps;
+    static inline std::function<void(Program&)> whileOpen;
+};
+
+std::unique_ptr<Form> MakeTellingForm(Program& program, QWidget* parent) {
+    TellingForm::steps.clear();
+    return std::make_unique<TellingForm>(program, parent);
+}
+
+void SelectOption(Form& form) {
+    form.findChild<QAbstractButton*>(QStringLiteral("Option1(1)"))->click();
+}
+
+TEST_F(QuillonForm, HasItsNameAndTitle) {
+    Start();
+    EXPECT_EQ(window->objectName(), QStringLiteral("Quillon"));
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Lottery Quillon World"));
+}
+
+TEST_F(QuillonForm, TheFirstRunInAnEmptyFolderMakesBackupAndSettingsWithoutAMessage) {
+    Start();
+    EXPECT_TRUE(program.folder.FolderExists("Backup"));
+    EXPECT_TRUE(program.folder.Exists("quillon.ini"));
+    EXPECT_FALSE(program.folder.Exists("Notes.txt"));
+    EXPECT_EQ(Find<ListBox>(*window, "List1")->count(), 0);
+    EXPECT_FALSE(Find<QLabel>(*window, "Label7")->isVisible());
+    EXPECT_EQ(program.messages.Shown(), 0);
+}
+
+TEST_F(QuillonForm, StartUpSetsTheLineBreak) {
+    program.state.Crlf.clear();
+    Start();
+    EXPECT_EQ(program.state.Crlf, "\r\n");
+}
+
+TEST_F(QuillonForm, StartUpLoadsNoLottery) {
+    program.folder.Write("dbase1.txt", Database("First"));
+    Start();
+    EXPECT_EQ(program.state.DbaseFiles(0), "dbase1.txt");
+    EXPECT_EQ(program.state.DbaseFile, "");
+    EXPECT_EQ(program.state.Picks, 0);
+    EXPECT_EQ(program.state.MaxNum, 0);
+}
+
+TEST_F(QuillonForm, StartUpLeavesTheBirthDateOnDiskUntilTheFirstQuit) {
+    Start();
+    EXPECT_NE(program.folder.Read("quillon.ini").find("\r\n01/01/1970\r\n"), std::string::npos);
+    Choose("FileExit");
+    EXPECT_NE(program.folder.Read("quillon.ini").find("\r\n01-Jan-1970\r\n"), std::string::npos);
+}
+
+TEST_F(QuillonForm, AMalformedBirthDateFailsTheStart) {
+    WriteSettings(15, "the first of May");
+    const auto before = program.folder.Snapshot();
+    const std::string failure = FailureOfStart();
+    EXPECT_NE(failure.find("quillon.ini, line 15"), std::string::npos) << failure;
+    EXPECT_NE(failure.find("the first of May"), std::string::npos) << failure;
+    EXPECT_EQ(program.folder.Snapshot(), before);
+}
+
+TEST_F(QuillonForm, AnEmptyBirthDateFailsTheStart) {
+    WriteSettings(15, "");
+    EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
+}
+
+TEST_F(QuillonForm, ThePanelsAreReadBeforeTheBirthDateFails) {
+    WriteSettings(15, "x");
+    program.folder.Write("Notes.txt", " 0 ,a\r\n 0 ,b\r\n");
+    EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos) << "notes come first";
+}
+
+TEST_F(QuillonForm, ASeventySeventhDatabaseFailsTheStart) {
+    for (int i = 10; i < 87; ++i) {
+        program.folder.Write("dbase" + std::to_string(i) + ".txt", Database("Lottery"));
+    }
+    program.folder.MakeFolder("Backup");
+    WriteSettings(17, "");
+    const auto before = program.folder.Snapshot();
+    EXPECT_NE(FailureOfStart(), "");
+    EXPECT_EQ(program.folder.Snapshot(), before);
+}
+
+TEST_F(QuillonForm, AFailingStartKeepsWhatItHasMade) {
+    for (int i = 10; i < 87; ++i) {
+        program.folder.Write("dbase" + std::to_string(i) + ".txt", Database("Lottery"));
+    }
+    EXPECT_NE(FailureOfStart(), "");
+    EXPECT_TRUE(program.folder.FolderExists("Backup"));
+    EXPECT_TRUE(program.folder.Exists("quillon.ini"));
+    EXPECT_FALSE(program.folder.Exists("Notes.txt"));
+}
+
+TEST_F(QuillonForm, AReadOnlyFolderFailsTheStart) {
+    program.folder.FailAfterBytes(0);
+    EXPECT_NE(FailureOfStart(), "");
+}
+
+TEST_F(QuillonForm, ASettingsFileOf101LinesFailsTheStart) {
+    program.folder.Write("quillon.ini", [] {
+        std::string lines;
+        for (int i = 0; i < 101; ++i) lines += "\r\n";
+        return lines;
+    }());
+    const auto before = program.folder.Snapshot();
+    EXPECT_NE(FailureOfStart().find("quillon.ini"), std::string::npos);
+    EXPECT_EQ(program.folder.Snapshot(), before);
+}
+
+TEST_F(QuillonForm, AColourThatIsNoNumberFailsTheStartWhereColoursAreSwitchedOn) {
+    WriteSettings(5, "blue");
+    EXPECT_EQ(FailureOfStart(), "") << "colours are off";
+    WriteSettings(5, "blue");
+    program.state.Settings(10) = "3";
+    SaveSettings(program.state, program.folder);
+    EXPECT_NE(FailureOfStart().find("blue"), std::string::npos);
+}
+
+TEST_F(QuillonForm, TakesTheBackgroundColourOfTheSettings) {
+    WriteSettings(5, "&H00C0FFC0");
+    program.state.Settings(10) = "2";
+    SaveSettings(program.state, program.folder);
+    Start();
+    EXPECT_EQ(window->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
+}
+
+TEST_F(QuillonForm, KeepsItsOwnBackgroundColourWhereColoursAreSwitchedOff) {
+    const QColor own = QMainWindow().palette().color(QPalette::Window);
+    WriteSettings(5, "&H00C0FFC0");
+    Start();
+    EXPECT_EQ(window->palette().color(QPalette::Window), own);
+}
+
+CatalogueEntry SettingsForm() {
+    return {.menuEntry = "FilePreferences",
+            .form = "TellingForm",
+            .make = MakeTellingForm,
+            .changesSettings = true};
+}
+
+TEST_F(QuillonForm, GivesTheRememberedBackgroundBackWhenColoursAreSwitchedOffAgain) {
+    WriteSettings(5, "&H00C0FFC0");
+    program.state.Settings(10) = "2";
+    SaveSettings(program.state, program.folder);
+    const QColor own = QMainWindow().palette().color(QPalette::Window);
+    Start();
+    TellingForm::whileOpen = [](Program& opened) {
+        opened.state.Settings(10) = "0";
+        SaveSettings(opened.state, opened.folder);
+    };
+    window->Open(SettingsForm());
+    TellingForm::whileOpen = {};
+    EXPECT_EQ(window->palette().color(QPalette::Window), own);
+}
+
+TEST_F(QuillonForm, ReadsTheSettingsAndLinksAfreshAfterPreferences) {
+    Start();
+    TellingForm::whileOpen = [](Program& opened) {
+        opened.state.Settings(22) = "Our club";
+        SaveSettings(opened.state, opened.folder);
+        opened.state.Settings(21) = "never saved";
+    };
+    window->Open(SettingsForm());
+    TellingForm::whileOpen = {};
+    EXPECT_EQ(Setting(21), "UK National Lottery");
+    EXPECT_EQ(Entry("LinksLink(2)")->text(), QStringLiteral("Our club"));
+}
+
+TEST_F(QuillonForm, AFormIsLoadedAndThenShown) {
+    Start();
+    window->Open({.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm});
+    EXPECT_EQ(TellingForm::steps, (std::vector<std::string>{"load", "exec"}));
+}
+
+TEST_F(QuillonForm, AnOptionIsSetAfterMessagesHaveRunAndBeforeTheFormIsShown) {
+    Start();
+    window->Open(
+        {.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm, .prepare = SelectOption});
+    EXPECT_EQ(TellingForm::steps, (std::vector<std::string>{"load", "messages", "option", "exec"}));
+}
+
+TEST_F(QuillonForm, TheFourMatchWheelsSetTheirOptionWithoutMessages) {
+    const CatalogueEntry* entry = FindCatalogueEntry(QStringLiteral("PlayGuarantee4"));
+    ASSERT_NE(entry, nullptr);
+    EXPECT_EQ(entry->messageRuns, 0);
+    Start();
+    window->Open({.menuEntry = "",
+                  .form = "TellingForm",
+                  .make = MakeTellingForm,
+                  .prepare = SelectOption,
+                  .messageRuns = entry->messageRuns});
+    EXPECT_EQ(TellingForm::steps, (std::vector<std::string>{"load", "option", "exec"}));
+}
+
+TEST_F(QuillonForm, TheDatabasesPanelIsFilledAfreshAfterAFormThatChangesThem) {
+    program.folder.Write("dbase1.txt", Database("First"));
+    Start();
+    TellingForm::whileOpen = [](Program& opened) {
+        opened.folder.Write("dbase2.txt", Database("Second"));
+    };
+    window->Open({.menuEntry = "",
+                  .form = "TellingForm",
+                  .make = MakeTellingForm,
+                  .changesDatabases = true});
+    TellingForm::whileOpen = {};
+    auto* list = Find<ListBox>(*window, "List1");
+    ASSERT_EQ(list->count(), 2);
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral("Second"));
+    EXPECT_EQ(list->Index(), -1);
+}
+
+TEST_F(QuillonForm, CheckingWithoutStoredEntriesSaysSo) {
+    Start();
+    program.messages.Expect({.title = QStringLiteral("Oops!  "),
+                             .text = QStringLiteral("You do not have any stored lottery entries!"),
+                             .sign = Sign::Exclamation});
+    TellingForm::steps.clear();
+    window->Open({.menuEntry = "DatabaseCheck",
+                  .form = "ShowMyDrawsW",
+                  .make = MakeTellingForm,
+                  .needsSavedEntries = true});
+    EXPECT_TRUE(TellingForm::steps.empty());
+}
+
+TEST_F(QuillonForm, CheckingWithStoredEntriesOpensTheForm) {
+    program.folder.Write(savedEntriesFile, "01 Jun 05,1,2,3,4,5,6,0,0,Lotto,Ann,dbase1.txt\r\n");
+    Start();
+    window->Open({.menuEntry = "DatabaseCheck",
+                  .form = "ShowMyDrawsW",
+                  .make = MakeTellingForm,
+                  .needsSavedEntries = true});
+    EXPECT_EQ(TellingForm::steps.back(), "exec");
+}
+
+TEST_F(QuillonForm, DeletingSavedEntriesWithoutAnySaysSo) {
+    Start();
+    program.messages.Expect({.title = QStringLiteral("Error!"),
+                             .text = QStringLiteral("No lottery entries saved!    "),
+                             .sign = Sign::Exclamation});
+    Choose("FileDeleteSaved");
+}
+
+const Message deleteQuestion = {.title = QStringLiteral("Warning!"),
+                                .text = QStringLiteral(" Are you sure you want to delete     \r\n"
+                                                       " all your saved lottery entries?    \r\n"),
+                                .sign = Sign::Question,
+                                .buttons = Buttons::YesNo};
+
+TEST_F(QuillonForm, SavedEntriesAreDeletedOnYes) {
+    program.folder.Write(savedEntriesFile, "x\r\n");
+    Start();
+    program.messages.Expect(deleteQuestion, Answer::Yes);
+    Choose("FileDeleteSaved");
+    EXPECT_FALSE(program.folder.Exists(savedEntriesFile));
+}
+
+TEST_F(QuillonForm, SavedEntriesStayOnNo) {
+    program.folder.Write(savedEntriesFile, "x\r\n");
+    Start();
+    program.messages.Expect(deleteQuestion, Answer::No);
+    Choose("FileDeleteSaved");
+    EXPECT_EQ(program.folder.Read(savedEntriesFile), "x\r\n");
+}
+
+TEST_F(QuillonForm, ExitSavesNotesAndSettingsAndEndsTheRunOnce) {
+    Start();
+    Choose("FileExit");
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_TRUE(program.folder.Exists("Notes.txt"));
+    EXPECT_NE(program.folder.Read("quillon.ini").find("01-Jan-1970"), std::string::npos);
+}
+
+TEST_F(QuillonForm, ClosingTheWindowIsTheSameEnd) {
+    Start();
+    window->close();
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_TRUE(program.folder.Exists("Notes.txt"));
+}
+
+TEST_F(QuillonForm, WhatAFormChangedInTheSettingsReachesTheDiskAtQuit) {
+    Start();
+    program.state.Settings(17) = "Ann";
+    Choose("FileExit");
+    EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
+}
+
+TEST_F(QuillonForm, NotesThatCannotBeWrittenFailTheEndAndChangeNothing) {
+    Start();
+    const auto before = program.folder.Snapshot();
+    program.folder.FailAfterBytes(3);
+    window->close();
+    EXPECT_TRUE(TakeFailure().has_value());
+    EXPECT_EQ(timesEnded, 0);
+    EXPECT_EQ(program.folder.Snapshot(), before);
+}
+
+TEST_F(QuillonForm, SettingsThatCannotBeWrittenFailTheEndAfterTheNotes) {
+    Start();
+    program.folder.Lock("quillon.ini");
+    window->close();
+    EXPECT_TRUE(TakeFailure().has_value());
+    EXPECT_EQ(timesEnded, 0);
+    EXPECT_TRUE(program.folder.Exists("Notes.txt"));
+}
+
+TEST_F(QuillonForm, ReopenedFormsStartOnTheFirstLotteryAgain) {
+    for (const char* name : {"dbase1.txt", "dbase2.txt", "dbase3.txt"}) {
+        program.folder.Write(name, Database(name));
+    }
+    Start();
+    InDialog([this] { Choose("PlayLuckyDip"); },
+             [this](QDialog& form) {
+                 Find<ListBox>(form, "List1")->SetIndex(2);
+                 EXPECT_EQ(program.state.DbaseFile, "dbase3.txt");
+             });
+    InDialog([this] { Choose("DatabaseStoreDrawsW"); },
+             [this](QDialog& form) {
+                 EXPECT_EQ(Find<ListBox>(form, "List1")->Index(), 0);
+                 EXPECT_EQ(program.state.DbaseFile, "dbase1.txt");
+             });
+}
+
+TEST_F(QuillonForm, TheWelcomeLeadsToTheFirstSteps) {
+    program.folder.Write("dbase1.txt", Database("First"));
+    Start();
+    InDialog([this] { Click(*window, "WelcomePlayLuckyDip"); },
+             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("PLuckyDip")); });
+    InDialog([this] { Click(*window, "WelcomeDatabaseStoreDrawsW"); },
+             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("StoreMyDrawsW")); });
+    Click(*window, "WelcomeFileNotes");
+    EXPECT_TRUE(Find<QLabel>(*window, "Label7")->isVisible());
+}
+
+}  // namespace

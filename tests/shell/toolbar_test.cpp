@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/Toolbar.h"
+
+#include <QLabel>
+
+#include "core/settings.h"
+#include "tests/shell/main_window.h"
+
+namespace {
+
+constexpr std::array<const char*, 16> toolTips = {" Show notes, checklist, etc. ",
+                                                  " Download latest lottery results ",
+                                                  " View lottery draws databases ",
+                                                  " Check lottery entries to see if you have won ",
+                                                  " Type in your lottery entries ",
+                                                  " Chart the most common numbers ",
+                                                  " Statistical analysis of lottery numbers ",
+                                                  " Chart odd:even number ratios ",
+                                                  " Full selection pick ",
+                                                  " Hot numbers pick ",
+                                                  " Lucky dip pick ",
+                                                  " Create your own wheel ",
+                                                  " Browse the Internet ",
+                                                  " Lottery information ",
+                                                  " Help ",
+                                                  " Quit "};
+
+class ToolbarOfWindow : public MainWindow {
+  protected:
+    static std::string Name(int index) { return "Image1(" + std::to_string(index) + ")"; }
+
+    ToolbarPicture* Picture(int index) {
+        return Find<ToolbarPicture>(*window, Name(index).c_str());
+    }
+
+    std::vector<int> Bordered() {
+        std::vector<int> bordered;
+        for (int i = 0; i < 16; ++i) {
+            if (Picture(i)->property("bordered").toBool()) bordered.push_back(i);
+        }
+        return bordered;
+    }
+
+    static void MoveOver(QWidget* widget, QPoint place) {
+        QMouseEvent move(QEvent::MouseMove, place, widget->mapToGlobal(place), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(widget, &move);
+    }
+};
+
+TEST_F(ToolbarOfWindow, HasSixteenPicturesWithTheirToolTips) {
+    Start();
+    for (int i = 0; i < 16; ++i) {
+        const QString toolTip = QString::fromLatin1(toolTips.at(static_cast<std::size_t>(i)));
+        EXPECT_EQ(Picture(i)->toolTip(), toolTip);
+        EXPECT_EQ(Picture(i)->accessibleName(), toolTip.trimmed());
+        EXPECT_FALSE(Picture(i)->icon().pixmap(26).isNull()) << i;
+    }
+}
+
+TEST_F(ToolbarOfWindow, PicturesAre390TwipsLargeAndStandOnLabel1) {
+    Start();
+    auto* background = Find<QLabel>(*window, "Label1");
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_EQ(Picture(i)->size(), QSize(26, 26));
+        EXPECT_EQ(Picture(i)->parentWidget(), background);
+    }
+}
+
+TEST_F(ToolbarOfWindow, TheBorderFollowsTheMouse) {
+    Start();
+    EXPECT_TRUE(Bordered().empty());
+    MoveOver(Picture(4), {5, 5});
+    EXPECT_EQ(Bordered(), std::vector{4});
+    MoveOver(Picture(9), {5, 5});
+    EXPECT_EQ(Bordered(), std::vector{9});
+}
+
+TEST_F(ToolbarOfWindow, MovingOverTheBackgroundTakesTheBorderAway) {
+    Start();
+    MoveOver(Picture(4), {5, 5});
+    auto* background = Find<QLabel>(*window, "Label1");
+    MoveOver(background, {background->width() - 3, 3});
+    EXPECT_TRUE(Bordered().empty());
+}
+
+TEST_F(ToolbarOfWindow, MovingOverTheFormTakesTheBorderAway) {
+    Start();
+    MoveOver(Picture(4), {5, 5});
+    QWidget* centre = window->centralWidget();
+    MoveOver(centre, {5, centre->height() - 5});
+    EXPECT_TRUE(Bordered().empty());
+}
+
+TEST_F(ToolbarOfWindow, MovingOverThePanelsTakesTheBorderAway) {
+    Start();
+    Choose("FileNotes");
+    MoveOver(Picture(4), {5, 5});
+    MoveOver(Find<QLabel>(*window, "Label8")->parentWidget(), {3, 3});
+    EXPECT_TRUE(Bordered().empty());
+}
+
+TEST_F(ToolbarOfWindow, TheBorderDoesNotMoveThePictures) {
+    Start();
+    const QRect before = Picture(5)->geometry();
+    MoveOver(Picture(4), {5, 5});
+    MoveOver(Picture(5), {5, 5});
+    EXPECT_EQ(Picture(5)->geometry(), before);
+}
+
+TEST_F(ToolbarOfWindow, ABorderedPictureLooksDifferent) {
+    Start();
+    const QImage before = Picture(8)->grab().toImage();
+    MoveOver(Picture(8), {5, 5});
+    EXPECT_NE(Picture(8)->grab().toImage(), before);
+}
+
+TEST_F(ToolbarOfWindow, PictureZeroShowsThePanels) {
+    Start();
+    Click(*window, "Image1(0)");
+    EXPECT_TRUE(Find<QLabel>(*window, "Label7")->isVisible());
+}
+
+TEST_F(ToolbarOfWindow, PictureTwelveOpensLinkZeroEvenWhileItsEntryIsHidden) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(20).clear();
+    SaveSettings(program.state, program.folder);
+    Start();
+    EXPECT_FALSE(Entry("LinksLink(0)")->isVisible());
+    Click(*window, "Image1(12)");
+    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(30))});
+    EXPECT_FALSE(Picture(12)->Dimmed());
+}
+
+TEST_F(ToolbarOfWindow, PictureFourteenOpensTheHelpPage) {
+    Start();
+    Click(*window, "Image1(14)");
+    EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("help.html")});
+}
+
+TEST_F(ToolbarOfWindow, PictureFifteenQuits) {
+    Start();
+    Click(*window, "Image1(15)");
+    EXPECT_EQ(timesEnded, 1);
+}
+
+TEST_F(ToolbarOfWindow, PictureFourOpensTheFormToStoreEntries) {
+    program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
+    Start();
+    InDialog([this] { Click(*window, "Image1(4)"); },
+             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("StoreMyDrawsW")); });
+}
+
+TEST_F(ToolbarOfWindow, TheLuckyDipPictureStandsForNumerologyAndIsDimmedUntilThatExists) {
+    Start();
+    EXPECT_EQ(Picture(10)->Dimmed(), !Entry("PlayLucky")->isEnabled());
+}
+
+TEST_F(ToolbarOfWindow, PicturesOfFormsThatDoNotExistYetDoNothingButTakeTheBorder) {
+    Start();
+    for (int index = 0; index < 16; ++index) {
+        if (!Picture(index)->Dimmed()) continue;
+        Click(*window, Name(index).c_str());
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << index;
+        MoveOver(Picture(index), {5, 5});
+        EXPECT_EQ(Bordered(), std::vector{index});
+    }
+    EXPECT_TRUE(program.pages.empty());
+}
+
+TEST_F(ToolbarOfWindow, APictureIsDimmedWhileItsEntryIsDisabled) {
+    Start();
+    const std::array<const char*, 16> entries = {
+        "FileNotes",           "DatabaseUpdate",  "wDatabaseView",   "DatabaseCheck",
+        "DatabaseStoreDrawsW", "AnalysisCommon",  "AnalyseNumStats", "AnalyseOddEven",
+        "PlayFullSel",         "PlayHot",         "PlayLucky",       "PlayDIYWheels",
+        "LinksLink(0)",        "HelpLotteryInfo", "HelpHelp",        "FileExit"};
+    for (int index = 0; index < 16; ++index) {
+        EXPECT_EQ(Picture(index)->Dimmed(),
+                  !Entry(entries.at(static_cast<std::size_t>(index)))->isEnabled())
+            << index;
+    }
+}
+
+TEST_F(ToolbarOfWindow, DayFirstDatesMeanTheDownloadForTheUk) {
+    Start();
+    EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUpdate"));
+}
+
+TEST_F(ToolbarOfWindow, OtherDatesMeanTheDownloadForTheUs) {
+    for (const auto order : {Region::Order::MonthDayYear, Region::Order::YearMonthDay}) {
+        program.services.region.order = order;
+        Start();
+        EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUS"));
+    }
+}
+
+TEST_F(ToolbarOfWindow, ThePicturesAnswerTheKeyboard) {
+    Start();
+    Picture(14)->setFocus();
+    QTest::keyClick(Picture(14), Qt::Key_Space);
+    EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("help.html")});
+}
+
+}  // namespace
