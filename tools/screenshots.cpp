@@ -1,0 +1,242 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Pictures of the main window and of every form of the catalogue: `quillon_screenshots`.
+//
+// The program runs on a folder made for the occasion, on a fixed day, with a fixed seed and in
+// British English, so that a picture changes only when the form does.
+#include <QAbstractButton>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLineEdit>
+#include <QLocale>
+#include <QScrollBar>
+#include <QStyleFactory>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QThread>
+#include <set>
+
+#include "core/settings.h"
+#include "platform/DiskFolder.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Region.h"
+#include "platform/Text.h"
+#include "shell/Application.h"
+#include "shell/Quillon.h"
+#include "shell/form_catalogue.h"
+
+namespace {
+
+constexpr std::uint64_t Seed = 49;
+constexpr Date Today = std::chrono::year(2025) / std::chrono::January / 2;
+
+void Say(const QString& text) { QTextStream(stderr) << text << '\n'; }
+
+/// A message over a form is no picture of the form: it is told, and answered as if closed.
+class ToldMessages final : public MessageBoxes {
+  public:
+    Answer Show(QWidget* parent, const Message& message) override {
+        Say(parent->objectName() % QStringLiteral(": ") % message.title % QStringLiteral(": ") %
+            message.text);
+        if (message.buttons == Buttons::OkCancel) return Answer::Cancel;
+        return message.buttons == Buttons::YesNo ? Answer::No : Answer::Ok;
+    }
+};
+
+QPalette DarkPalette() {
+    const QColor window(0x31, 0x36, 0x3b);
+    const QColor base(0x23, 0x26, 0x29);
+    const QColor text(0xef, 0xf0, 0xf1);
+    QPalette palette(text, window, window.lighter(130), window.darker(150), window.darker(120),
+                     text, Qt::white, base, window);
+    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::Button, window);
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::Highlight, QColor(0x3d, 0xae, 0xe9));
+    palette.setColor(QPalette::HighlightedText, base);
+    palette.setColor(QPalette::Link, QColor(0x5d, 0xbe, 0xf9));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(QPalette::Disabled, role, QColor(0x7f, 0x86, 0x8c));
+    }
+    return palette;
+}
+
+void CopyFiles(const QString& from, const QStringList& patterns, const QString& to) {
+    const QStringList names = QDir(from).entryList(patterns, QDir::Files);
+    for (const QString& name : names) {
+        QFile::remove(to % QLatin1Char('/') % name);
+        QFile::copy(from % QLatin1Char('/') % name, to % QLatin1Char('/') % name);
+    }
+}
+
+/// The supplied files, and instead of the sample databases those of a folder where one is named.
+void Supply(const QString& folder, const QString& databases) {
+    CopyFiles(QStringLiteral(SUPPLIED_DATA), {QStringLiteral("*")}, folder);
+    if (databases.isEmpty()) return;
+    const QDir supplied(folder);
+    const QStringList samples = supplied.entryList({QStringLiteral("dbase*.txt")});
+    for (const QString& sample : samples) QFile::remove(supplied.filePath(sample));
+    CopyFiles(databases, {QStringLiteral("dbase*.txt")}, folder);
+}
+
+/// What a user of some weeks has in his folder.
+void WriteUserFiles(State& state, DiskFolder& folder) {
+    LoadSettings(state, folder);
+    state.Settings(15) = "12-May-1980";
+    state.Settings(17) = "Anna";
+    state.Settings(19) = "1";
+    SaveSettings(state, folder);
+    folder.Write(
+        "Notes.txt",
+        " 1 ,Analyse lottery draws\r\n 1 ,Generate lottery entries\r\n 0 ,Fill in payslips\r\n"
+        " 0 ,Buy lottery tickets\r\n 0 ,Check results\r\n 0 ,Collect winnings!\r\n"
+        " 0 ,\r\n 0 ,\r\nSaturday: ask Tom whether he joins us again.\r\n");
+    folder.Write(
+        "MyLottery.txt",
+        "28-Dec-2024,7,14,17,21,30,38,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n"
+        "04-Jan-2025,3,11,19,27,34,48,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n");
+}
+
+/// The program as `RunProgram` makes it, but on a fixed day.
+struct Studio {
+    explicit Studio(const QString& folderPath) : folder(folderPath) {
+        random.Reset(Seed);
+        WriteUserFiles(*state, folder);
+    }
+
+    std::unique_ptr<State> state = std::make_unique<State>();
+    DiskFolder folder;
+    Random random{[] { return Seed; }};
+    ToldMessages messages;
+    double now = 0;
+    Services services{.seconds = [this] { return now += 0.001; },
+                      .today = [] { return Today; },
+                      .random = random,
+                      .region = RegionOf(QLocale(QLocale::English, QLocale::UnitedKingdom)),
+                      .messages = messages,
+                      .openPage = [](const QString&) {},
+                      .saveLines = [](QWidget*, Grid&) {},
+                      .printLines = {}};
+    Program program{.state = *state, .folder = folder, .services = services};
+};
+
+template <typename Control>
+Control* Find(const QWidget& form, const QString& name) {
+    return form.findChild<Control*>(name);
+}
+
+/// Six numbers typed and added to the grid.
+void TypeEntry(Form& form, const QStringList& numbers) {
+    for (qsizetype place = 0; place < numbers.size(); ++place) {
+        Find<QLineEdit>(form, QStringLiteral("Text1(%1)").arg(place + 1))->setText(numbers[place]);
+    }
+    Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+}
+
+/// Works in the form as its user does, where it would look empty otherwise.
+void Use(Form& form) {
+    const QString name = form.objectName();
+    if (name == QLatin1String("PLuckyDip")) {
+        Find<QAbstractButton>(form, QStringLiteral("Check1"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Check3"))->click();
+        Find<QScrollBar>(form, QStringLiteral("HScroll1"))->setValue(12);
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+    } else if (name == QLatin1String("SaveEntries")) {
+        Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
+    } else if (name == QLatin1String("StoreMyDrawsW")) {
+        Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));
+        TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));
+        TypeEntry(form, QStringLiteral("8 15 22 29 36 43").split(QLatin1Char(' ')));
+    }
+}
+
+/// Lets the window settle: layouts, fonts and delayed paints.
+void Settle() {
+    for (int turn = 0; turn < 10; ++turn) {
+        QCoreApplication::processEvents();
+        QThread::msleep(5);
+    }
+}
+
+bool Save(QWidget& window, const QString& path) {
+    window.show();
+    Settle();
+    if (window.grab().save(path)) return true;
+    Say(path % QStringLiteral(" could not be written"));
+    return false;
+}
+
+/// The second way into a form is a picture of its own only where it opens it otherwise.
+QString PictureName(const CatalogueEntry& entry) {
+    const QString form = QString::fromLatin1(entry.form);
+    if (entry.prepare == nullptr) return form;
+    return form % QLatin1Char('-') % QString::fromLatin1(entry.menuEntry);
+}
+
+bool SaveForm(const CatalogueEntry& entry, Program& program, QWidget& window, const QString& path) {
+    const std::unique_ptr<Form> form = entry.make(program, &window);
+    form->Load();
+    for (int run = 0; run < entry.messageRuns; ++run) QCoreApplication::processEvents();
+    if (entry.prepare != nullptr) entry.prepare(*form);
+    Use(*form);
+    return Save(*form, path);
+}
+
+int TakePictures(Program& program, const QString& outFolder) {
+    QDir().mkpath(outFolder);
+    Quillon window(program);
+    window.Load();
+    bool good = Save(window, outFolder % QStringLiteral("/Quillon.png"));
+    std::set<QString> taken;
+    for (const CatalogueEntry& entry : FormCatalogue()) {
+        const QString name = PictureName(entry);
+        if (entry.make == nullptr || !taken.insert(name).second) continue;
+        const QString path = outFolder % QLatin1Char('/') % name % QStringLiteral(".png");
+        good = SaveForm(entry, program, window, path) && good;
+    }
+    return good ? 0 : 1;
+}
+
+void AddOptions(QCommandLineParser& parser) {
+    parser.setApplicationDescription(
+        QStringLiteral("Takes pictures of the main window and of every form."));
+    parser.addHelpOption();
+    parser.addOption({QStringLiteral("out"), QStringLiteral("Where the pictures go."),
+                      QStringLiteral("folder"), QStringLiteral("docs/screenshots")});
+    parser.addOption({QStringLiteral("dark"), QStringLiteral("With a dark theme.")});
+    parser.addOption({QStringLiteral("scale"), QStringLiteral("Scaling of the screen."),
+                      QStringLiteral("factor"), QStringLiteral("1")});
+    parser.addOption({QStringLiteral("databases"),
+                      QStringLiteral("Shows the draw databases of this folder, not the samples."),
+                      QStringLiteral("folder")});
+}
+
+}  // namespace
+
+int main(int argumentCount, char** arguments) {
+    QCommandLineParser parser;
+    AddOptions(parser);
+    QStringList words;
+    for (int word = 0; word < argumentCount; ++word) {
+        words << QString::fromLocal8Bit(arguments[word]);
+    }
+    if (!parser.parse(words)) {
+        Say(parser.errorText());
+        return 2;
+    }
+    qputenv("LC_ALL", "en_GB.UTF-8");
+    qputenv("QT_SCALE_FACTOR", parser.value(QStringLiteral("scale")).toLatin1());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+
+    Application application(argumentCount, arguments);
+    if (parser.isSet(QStringLiteral("help"))) parser.showHelp();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setCursorFlashTime(0);
+    if (parser.isSet(QStringLiteral("dark"))) QApplication::setPalette(DarkPalette());
+    return application.Run([&parser] {
+        const QTemporaryDir folder;
+        Supply(folder.path(), parser.value(QStringLiteral("databases")));
+        Studio studio(folder.path());
+        return TakePictures(studio.program, parser.value(QStringLiteral("out")));
+    });
+}
