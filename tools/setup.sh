@@ -114,7 +114,8 @@ CountResults() {
             # A program that ended well before its last test wrote no report.
             if [[ ${counts[*]} == "0 0 0" ]]; then counts=(0 1 0); fi
         elif [[ ${counts[1]} -eq 0 ]]; then
-            counts=(0 1 0)
+            counts[1]=1
+            if [[ $program == *_script ]]; then counts[0]=0; fi
         fi
         passed=$((passed + counts[0]))
         failed=$((failed + counts[1]))
