@@ -7,6 +7,7 @@
 
 #include "entries/SaveEntries.h"
 #include "entries/StoreMyDrawsW.h"
+#include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
 
 namespace {
@@ -52,8 +53,11 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
 
     {.menuEntry = "PlayAverages", .form = "PAverage"},
     {.menuEntry = "PlayFullSel", .form = "PFullSel"},
-    {.menuEntry = "PlayColdNums", .form = "PHotNumbers", .prepare = SelectSecondOption},
-    {.menuEntry = "PlayHot", .form = "PHotNumbers"},
+    {.menuEntry = "PlayColdNums",
+     .form = "PHotNumbers",
+     .make = Make<PHotNumbers>,
+     .prepare = SelectSecondOption},
+    {.menuEntry = "PlayHot", .form = "PHotNumbers", .make = Make<PHotNumbers>},
     {.menuEntry = "PlayLuckyDip", .form = "PLuckyDip", .make = Make<PLuckyDip>},
     {.menuEntry = "Play1Key", .form = "P1Key"},
     {.menuEntry = "Play2Key", .form = "P2KeyNum"},

@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What every form keeps to, walked over the form catalogue.
+#include <QAccessible>
+#include <set>
+
+#include "core/settings.h"
+#include "shell/form_catalogue.h"
+#include "tests/support/form_test.h"
+
+namespace {
+
+/// Every row of the catalogue whose form exists.
+std::vector<CatalogueEntry> ExistingForms() {
+    std::vector<CatalogueEntry> forms;
+    for (const CatalogueEntry& entry : FormCatalogue()) {
+        if (entry.make != nullptr) forms.push_back(entry);
+    }
+    return forms;
+}
+
+std::string TestName(const testing::TestParamInfo<CatalogueEntry>& form) {
+    return std::string(form.param.form) + "_" + form.param.menuEntry;
+}
+
+class EveryForm : public testing::TestWithParam<CatalogueEntry> {
+  protected:
+    void SetUp() override {
+        std::string database = "Sample\r\n\r\n6\r\n49\r\n0\r\n0\r\n1\r\n";
+        for (int draw = 0; draw < 12; ++draw) {
+            database += "01 Jun 05," + std::to_string(draw + 1) + ",12,23,34,45,49,0,7\r\n";
+        }
+        program.folder.Write("dbase1.txt", database);
+        program.tick = 0.001;
+        MakeDefaultSettings(program.state, program.folder);
+    }
+
+    void Open() {
+        form = GetParam().make(program.program, nullptr);
+        form->Load();
+        if (GetParam().prepare != nullptr) GetParam().prepare(*form);
+        form->show();
+        QApplication::processEvents();
+    }
+
+    /// The form's own controls; parts that Qt makes inside of them are not named by us.
+    std::vector<QWidget*> Controls() const {
+        std::vector<QWidget*> controls;
+        const auto widgets = form->findChildren<QWidget*>();
+        for (QWidget* widget : widgets) {
+            const QString name = widget->objectName();
+            if (!name.isEmpty() && !name.startsWith(QStringLiteral("qt_")))
+                controls.push_back(widget);
+        }
+        return controls;
+    }
+
+    static bool TakesFocus(const QWidget* control) {
+        return control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0 &&
+               control->focusProxy() == nullptr;
+    }
+
+    static QString SpokenName(QWidget* control) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
+        return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+    }
+
+    TestProgram program;
+    std::unique_ptr<Form> form;
+};
+
+TEST_P(EveryForm, HasItsNameAndATitle) {
+    Open();
+    EXPECT_EQ(form->objectName(), QString::fromLatin1(GetParam().form));
+    EXPECT_FALSE(form->windowTitle().isEmpty());
+}
+
+TEST_P(EveryForm, NamesNoTwoControlsAlike) {
+    Open();
+    std::set<QString> seen;
+    for (const QWidget* control : Controls()) {
+        EXPECT_TRUE(seen.insert(control->objectName()).second)
+            << control->objectName().toStdString() << " stands twice";
+    }
+}
+
+TEST_P(EveryForm, TellsAScreenReaderWhatHasTheFocus) {
+    Open();
+    for (QWidget* control : Controls()) {
+        if (!TakesFocus(control)) continue;
+        EXPECT_FALSE(SpokenName(control).isEmpty()) << control->objectName().toStdString();
+    }
+}
+
+TEST_P(EveryForm, LeadsTheTabKeyInReadingOrder) {
+    Open();
+    // Down a column, or to the right of it: never to a place that lies both above and to the left.
+    const QWidget* last = nullptr;
+    QWidget* next = form.get();
+    do {
+        next = next->nextInFocusChain();
+        if (!form->isAncestorOf(next) || next->objectName().isEmpty() || !TakesFocus(next))
+            continue;
+        if (next->objectName().startsWith(QStringLiteral("qt_"))) continue;
+        if (last != nullptr) {
+            const QRect from(last->mapTo(form.get(), QPoint()), last->size());
+            const QRect to(next->mapTo(form.get(), QPoint()), next->size());
+            EXPECT_TRUE(to.bottom() >= from.top() || to.left() >= from.right())
+                << last->objectName().toStdString() << " leads back to "
+                << next->objectName().toStdString();
+        }
+        last = next;
+    } while (next != form.get());
+}
+
+TEST_P(EveryForm, FitsASmallScreen) {
+    Open();
+    EXPECT_LE(form->minimumSizeHint().width(), 1366);
+    EXPECT_LE(form->minimumSizeHint().height(), 740) << "the title bar needs room too";
+    EXPECT_LE(form->width(), 1366);
+    EXPECT_LE(form->height(), 740);
+}
+
+TEST_P(EveryForm, ClosesOnEsc) {
+    Open();
+    QTest::keyClick(form.get(), Qt::Key_Escape);
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_P(EveryForm, OpensAHelpPageOnF1) {
+    Open();
+    QTest::keyClick(form.get(), Qt::Key_F1);
+    ASSERT_EQ(program.pages.size(), 1U);
+    const std::set<QString> pages = {QStringLiteral("help.html"), QStringLiteral("helpplay.html"),
+                                     QStringLiteral("helpprint.html")};
+    EXPECT_TRUE(pages.contains(program.pages.front())) << program.pages.front().toStdString();
+}
+
+TEST_P(EveryForm, TakesTheBackgroundColourOfTheSettings) {
+    // The dialog that saves entries wears no skin.
+    if (std::string(GetParam().form) == "SaveEntries") return;
+    program.state.Settings(10) = "2";
+    program.state.Settings(5) = "&HC0FFC0";
+    Open();
+    EXPECT_EQ(form->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalogue, EveryForm, testing::ValuesIn(ExistingForms()), TestName);
+
+}  // namespace
