@@ -8,19 +8,23 @@
 namespace {
 
 // The exchanges are those of a bubble sort from the end, without branches: a generator sorts
-// millions of random lines, in which every branch would be a guess.
-template <int Count>
+// millions of random lines, in which every branch would be a guess. By what the left number is
+// too large, or by nothing, it shrinks and the right one grows.
+template <std::size_t Count>
 void SortRow(std::int16_t* numbers) {
-    std::array<std::int16_t, Count> sorted;
+    std::array<int, Count> sorted;
     std::copy_n(numbers, Count, sorted.begin());
     for (std::size_t first = 0; first + 1 < Count; ++first) {
         for (std::size_t place = Count - 1; place > first; --place) {
-            const auto lower = std::min(sorted[place - 1], sorted[place]);
-            sorted[place] = std::max(sorted[place - 1], sorted[place]);
-            sorted[place - 1] = lower;
+            const int excess = sorted[place - 1] - sorted[place];
+            const int moved = excess & -static_cast<int>(excess > 0);
+            sorted[place - 1] -= moved;
+            sorted[place] += moved;
         }
     }
-    std::copy_n(sorted.begin(), Count, numbers);
+    for (std::size_t place = 0; place < Count; ++place) {
+        numbers[place] = static_cast<std::int16_t>(sorted[place]);
+    }
 }
 
 void SortRowChecked(State& state, int row, int count) {

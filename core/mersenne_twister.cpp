@@ -32,13 +32,16 @@ void MersenneTwister::Seed(std::uint64_t seed) {
 
 void MersenneTwister::MakeBlock() {
     Word* const state = state_.data();
+    Word* const numbers = numbers_.data();
     for (std::size_t place = 0; place < middle; ++place) {
         state[place] = Twist(state[place], state[place + 1], state[place + middle]);
+        numbers[place] = Temper(state[place]);
     }
     for (std::size_t place = middle; place < size - 1; ++place) {
         state[place] = Twist(state[place], state[place + 1], state[place - middle]);
+        numbers[place] = Temper(state[place]);
     }
     state[size - 1] = Twist(state[size - 1], state[0], state[middle - 1]);
-    for (std::size_t place = 0; place < size; ++place) numbers_[place] = Temper(state[place]);
+    numbers[size - 1] = Temper(state[size - 1]);
     position_ = 0;
 }

@@ -24,7 +24,12 @@ class Random {
 
     /// The whole part of `count` times a uniform number, plus 1: from 1 to `count`; 1 where `count`
     /// is 0.
-    int OneTo(int count) { return static_cast<int>(count * Next()) + 1; }
+    int OneTo(int count) {
+        // The same as count * Next(), since scaling by a power of two is exact; in a loop the
+        // compiler makes the factor once.
+        const double factor = count * 0x1.0p-53;
+        return static_cast<int>(factor * static_cast<double>(engine_() >> 11U)) + 1;
+    }
 
   private:
     std::function<std::uint64_t()> clockSeed_;
