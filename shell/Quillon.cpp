@@ -158,7 +158,7 @@ void Quillon::ShowPanels() {
     const bool shown = !panels_->Shown();
     welcome_->setVisible(!shown);
     panels_->SetShown(shown);
-    program_.state.Settings(panelsEntry) = shown ? "1" : "0";
+    program_.state.Settings(panelsEntry).assign(1, shown ? '1' : '0');
 }
 
 void Quillon::SaveNotes() { ::SaveNotes(program_.folder, panels_->CurrentNotes()); }
