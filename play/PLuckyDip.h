@@ -1,2 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
+
+#include "platform/PlayForm.h"
+
+/// Lucky dip: lines of plain random numbers.
+class PLuckyDip final : public PlayForm {
+    Q_OBJECT
+  public:
+    PLuckyDip(Program& program, QWidget* parent);
+
+  protected:
+    void PlayLotto() override;
+    GeneratorStyle Style() const override;
+};

@@ -1,0 +1,371 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "play/PLuckyDip.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+class LuckyDipForm : public testing::Test {
+  protected:
+    LuckyDipForm() {
+        AddUkLotto(test_.folder);
+        AddThunderball(test_.folder);
+        AddDailyPlay(test_.folder);
+        test_.state.Settings(11) = "1 Odd/Even filter";
+        test_.state.Settings(12) = "1 High/Low filter";
+        test_.state.Settings(13) = "1 History  filter";
+        test_.state.Settings(14) = "3 Long Run filter";
+        test_.services.saveLines = [this](QWidget*, Grid&) { ++saves_; };
+    }
+
+    void Open() {
+        form_ = std::make_unique<PLuckyDip>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+    }
+
+    Grid& Lines() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+
+    int ShownLines() {
+        int count = 0;
+        while (!Lines().Cell(count + 1, 1).isEmpty()) ++count;
+        return count;
+    }
+
+    QString Status() { return Find<QLabel>(*form_, "Label5")->text(); }
+
+    /// Every text of the grid, to see whether lines are others.
+    QStringList Texts() {
+        QStringList texts;
+        for (int row = 1; row < Lines().RowCount(); ++row) {
+            for (int column = 0; column < 9; ++column) texts << Lines().Cell(row, column);
+        }
+        return texts;
+    }
+
+    void ShowOneLine(const std::vector<std::int16_t>& numbers) {
+        for (int column = 1; column <= 8; ++column) test_.state.Lines(1, column) = 0;
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
+            test_.state.Lines(1, static_cast<long long>(i) + 1) = numbers[i];
+        }
+        test_.state.Lines(2, 1) = 0;
+    }
+
+    TestProgram test_;
+    std::unique_ptr<PLuckyDip> form_;
+    int saves_ = 0;
+};
+
+TEST_F(LuckyDipForm, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Lucky Dip"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label7", "Lucky dip"},
+        {"Label2",
+         "Don't accept any old ticket the lottery terminal prints out. It might be biased! If you "
+         "have not had any wins and want a completely random selection of lottery numbers, try "
+         "these below. They may just bring you luck."},
+        {"Label1", "Select a lottery:"},
+        {"Label8", "Lines to generate"},
+        {"Label4", "5"},
+        {"Label6", "Do not pick lottery entries with..."},
+        {"Label6(1)", "Filters"}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    const std::vector<std::pair<const char*, const char*>> buttons = {
+        {"Check1", "Too many odd or even numbers"},
+        {"Check2", "Too many low or high numbers"},
+        {"Check3", "Same numbers as a previous draw"},
+        {"Command3", "?"},
+        {"Command13", "Odd/even"},
+        {"Command14", "High/low"},
+        {"Command15", "Long runs"},
+        {"Command9", "Previous draws"},
+        {"Command8", " Help "}};
+    for (const auto& [name, text] : buttons) {
+        EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    const std::vector<std::pair<const char*, const char*>> toolTips = {
+        {"Command2", "Generate another selection of lottery entries"},
+        {"Command6", "Print out the lottery entries"},
+        {"Command7", "Save these lottery entries to disk"},
+        {"Command1", " Close "}};
+    for (const auto& [name, text] : toolTips) {
+        EXPECT_EQ(Find<QPushButton>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
+    }
+}
+
+TEST_F(LuckyDipForm, OpeningYieldsFiveLinesOfTheFirstLotteryAtTheFirstTry) {
+    Open();
+    EXPECT_EQ(Find<ListBox>(*form_, "List1")->Index(), 0);
+    EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
+    EXPECT_EQ(ShownLines(), 5);
+    EXPECT_EQ(Status(), QStringLiteral("Tries: 1   Time: 0.000 sec"));
+    EXPECT_EQ(test_.state.Busy, 0);
+    for (const char* box : {"Check1", "Check2", "Check3"}) {
+        EXPECT_FALSE(Find<QCheckBox>(*form_, box)->isChecked()) << box;
+    }
+}
+
+TEST_F(LuckyDipForm, HeadsTheGridAndLeavesTheExtraBallEmptyWithoutOne) {
+    Open();
+    const QStringList headings = {
+        QStringLiteral("Line"), QStringLiteral("Num1"), QStringLiteral("Num2"),
+        QStringLiteral("Num3"), QStringLiteral("Num4"), QStringLiteral("Num5"),
+        QStringLiteral("Num6"), QStringLiteral("Num7"), QStringLiteral("Pball")};
+    for (int column = 0; column < 9; ++column) {
+        EXPECT_EQ(Lines().Cell(0, column), headings[column]);
+    }
+    EXPECT_EQ(Lines().Cell(1, 0), QStringLiteral("1"));
+    EXPECT_FALSE(Lines().Cell(1, 6).isEmpty());
+    EXPECT_EQ(Lines().Cell(1, 7), QString());
+    EXPECT_EQ(Lines().Cell(1, 8), QString());
+    EXPECT_EQ(Lines().CellColour(1, 8), QColor(160, 0, 0));
+}
+
+TEST_F(LuckyDipForm, ChoosingALotteryMakesFreshLinesAndKeepsTheNumberOfLines) {
+    Open();
+    Find<QScrollBar>(*form_, "HScroll1")->setValue(7);
+    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    Find<ListBox>(*form_, "List1")->SetIndex(1);
+    EXPECT_EQ(test_.state.LotteryName, "UK Thunderball");
+    EXPECT_EQ(ShownLines(), 7);
+    EXPECT_TRUE(Find<QCheckBox>(*form_, "Check1")->isChecked());
+    EXPECT_FALSE(Lines().Cell(7, 8).isEmpty());
+    EXPECT_EQ(Lines().Cell(1, 6), QString());
+}
+
+TEST_F(LuckyDipForm, AClickOnTheLotteryAlreadyChosenMakesFreshLines) {
+    Open();
+    const QStringList before = Texts();
+    test_.seed = 2;
+    auto* list = Find<ListBox>(*form_, "List1");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(0)).center());
+    EXPECT_NE(Texts(), before);
+    EXPECT_EQ(ShownLines(), 5);
+}
+
+TEST_F(LuckyDipForm, TheScrollBarChangesItsLabelAtOnceAndTheLinesOnlyWithGenerate) {
+    Open();
+    auto* scroll = Find<QScrollBar>(*form_, "HScroll1");
+    EXPECT_EQ(scroll->minimum(), 1);
+    EXPECT_EQ(scroll->maximum(), 30);
+    scroll->setValue(30);
+    EXPECT_EQ(Find<QLabel>(*form_, "Label4")->text(), QStringLiteral("30"));
+    EXPECT_EQ(ShownLines(), 5);
+    Click(*form_, "Command2");
+    EXPECT_EQ(ShownLines(), 30);
+}
+
+TEST_F(LuckyDipForm, FiveLinesAfterThirtyLeaveTheOtherRowsBlank) {
+    Open();
+    Find<QScrollBar>(*form_, "HScroll1")->setValue(30);
+    Click(*form_, "Command2");
+    Find<QScrollBar>(*form_, "HScroll1")->setValue(5);
+    Click(*form_, "Command2");
+    for (int row = 6; row < Lines().RowCount(); ++row) {
+        for (int column = 0; column < 9; ++column) EXPECT_EQ(Lines().Cell(row, column), QString());
+    }
+}
+
+TEST_F(LuckyDipForm, ASmallFieldLosesItsDuplicatesAndDoesNotTell) {
+    AddLottery(test_.folder, "dbase.txt", "Tiny", "2,3,0,0,0");
+    Open();
+    Find<QScrollBar>(*form_, "HScroll1")->setValue(30);
+    Click(*form_, "Command2");
+    EXPECT_LE(ShownLines(), 3);
+    EXPECT_EQ(Status(), QStringLiteral("Tries: 1   Time: 0.000 sec"));
+}
+
+TEST_F(LuckyDipForm, ConditionsThatNoLineMeetsEndAfterTenSecondsAndSaySo) {
+    AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
+    test_.state.Settings(11) = "2 Odd/Even filter";
+    Open();
+    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    test_.tick = 0.25;
+    Click(*form_, "Command2");
+    EXPECT_TRUE(
+        Status().endsWith(QStringLiteral(" sec (Some lines do not comply with conditions)")))
+        << Status().toStdString();
+    EXPECT_GE(ShownLines(), 1);
+    EXPECT_EQ(test_.state.Busy, 0);
+}
+
+TEST_F(LuckyDipForm, AFilterButtonRemovesWhatFailsAndRenumbersTheRest) {
+    Open();
+    const QString status = Status();
+    test_.state.Lines(1, 1) = 2;
+    test_.state.Lines(1, 2) = 4;
+    test_.state.Lines(1, 3) = 6;
+    test_.state.Lines(1, 4) = 8;
+    test_.state.Lines(1, 5) = 10;
+    test_.state.Lines(1, 6) = 48;
+    Click(*form_, "Command13");
+    EXPECT_LE(ShownLines(), 4);
+    EXPECT_EQ(Lines().Cell(1, 0), QStringLiteral("1"));
+    for (int row = 1; row <= ShownLines(); ++row) {
+        EXPECT_NE(Lines().Cell(row, 2), QStringLiteral("4"));
+    }
+    EXPECT_EQ(Status(), status);
+}
+
+TEST_F(LuckyDipForm, EachFilterButtonHasItsFilter) {
+    Open();
+    const std::vector<std::pair<const char*, std::vector<std::int16_t>>> cases = {
+        {"Command13", {1, 3, 25, 27, 35, 41}},
+        {"Command14", {1, 4, 7, 12, 15, 24}},
+        {"Command15", {1, 2, 3, 4, 30, 41}},
+        {"Command9", {3, 17, 22, 34, 41, 48}}};
+    for (const auto& [button, failing] : cases) {
+        ShowOneLine({2, 9, 16, 29, 33, 44});
+        Click(*form_, button);
+        EXPECT_EQ(ShownLines(), 1) << button << " keeps a line that complies";
+        ShowOneLine(failing);
+        Click(*form_, button);
+        EXPECT_EQ(ShownLines(), 0) << button << " removes a line that fails";
+    }
+}
+
+TEST_F(LuckyDipForm, NothingButTheScrollBarReactsWhileBusy) {
+    Open();
+    const QStringList before = Texts();
+    test_.state.Busy = -1;
+    test_.seed = 2;
+    for (const char* name : {"Command2", "Command13", "Command14", "Command15", "Command9"}) {
+        Click(*form_, name);
+    }
+    Click(*form_, "Command7");
+    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    EXPECT_EQ(Texts(), before);
+    EXPECT_EQ(saves_, 0);
+    EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
+    test_.state.Busy = 0;
+}
+
+TEST_F(LuckyDipForm, LoadingTheFormEndsBusy) {
+    test_.state.Busy = -1;
+    Open();
+    EXPECT_EQ(test_.state.Busy, 0);
+    EXPECT_EQ(ShownLines(), 5);
+}
+
+TEST_F(LuckyDipForm, SaveGoesToTheSavedEntries) {
+    Open();
+    Click(*form_, "Command7");
+    EXPECT_EQ(saves_, 1);
+}
+
+TEST_F(LuckyDipForm, PrintWaitsForAPrinter) {
+    Open();
+    EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
+    int prints = 0;
+    test_.services.printLines = [&](QWidget*, Grid&) { ++prints; };
+    Open();
+    Click(*form_, "Command6");
+    EXPECT_EQ(prints, 1);
+}
+
+TEST_F(LuckyDipForm, TheQuestionMarkShowsTheFirstTip) {
+    Open();
+    test_.messages.Expect(
+        {.title = QStringLiteral("Did you know..."),
+         .text = QStringLiteral(" It is rare for a lottery draw to have     \r\n"
+                                " numbers that are all odd or all even. Most     \r\n"
+                                " draws have a mixture of odd and even     \r\n"
+                                " numbers. Setting this option ensures your     \r\n"
+                                " lottery entries have the right mix.     \r\n"),
+         .sign = Sign::Information});
+    Click(*form_, "Command3");
+}
+
+TEST_F(LuckyDipForm, HelpAndF1OpenThePlayHelp) {
+    Open();
+    Click(*form_, "Command8");
+    QTest::keyClick(form_.get(), Qt::Key_F1);
+    EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpplay.html"),
+                                                 QStringLiteral("helpplay.html")}));
+}
+
+TEST_F(LuckyDipForm, CloseAndEscCloseTheForm) {
+    Open();
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+    Open();
+    QTest::keyClick(form_.get(), Qt::Key_Escape);
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
+    AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
+    test_.state.Settings(11) = "2";
+    Open();
+    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    test_.tick = 0.25;
+    auto* close = Find<QPushButton>(*form_, "Command1");
+    QMetaObject::invokeMethod(close, "click", Qt::QueuedConnection);
+    bool generated = false;
+    QMetaObject::invokeMethod(
+        form_.get(), [&] { generated = true; }, Qt::QueuedConnection);
+    Find<QPushButton>(*form_, "Command2")->click();
+    EXPECT_TRUE(generated) << "the waiting click was handled inside the generation";
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(LuckyDipForm, ClicksMadeDuringAGenerationDoNotStartAnother) {
+    AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
+    test_.state.Settings(11) = "2";
+    Open();
+    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    test_.tick = 0.25;
+    auto* generate = Find<QPushButton>(*form_, "Command2");
+    const QPointF place = generate->rect().center();
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QCoreApplication::postEvent(
+            generate,
+            new QMouseEvent(type, place, generate->mapToGlobal(place), Qt::LeftButton,
+                            type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                            Qt::NoModifier));
+    }
+    int generations = 0;
+    test_.services.random = Random([&] {
+        ++generations;
+        return std::uint64_t{1};
+    });
+    generate->click();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(generations, 1);
+    EXPECT_TRUE(form_->isVisible());
+}
+
+TEST_F(LuckyDipForm, WithoutALotteryTheRunEndsWithAReport) {
+    for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
+    PLuckyDip form(test_.program, nullptr);
+    EXPECT_THROW(form.Load(), std::runtime_error);
+}
+
+TEST_F(LuckyDipForm, AFieldBeyondThePoolEndsTheRun) {
+    AddLottery(test_.folder, "dbase.txt", "Huge", "6,121,0,0,0");
+    PLuckyDip form(test_.program, nullptr);
+    EXPECT_THROW(form.Load(), std::runtime_error);
+}
+
+TEST_F(LuckyDipForm, OpeningAgainShowsTheFirstLottery) {
+    Open();
+    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    EXPECT_EQ(test_.state.LotteryName, "UK Daily Play");
+    Click(*form_, "Command1");
+    Open();
+    EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
+}
+
+}  // namespace
