@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program's main job from end to end, on real draw histories and real files.
+#include <QAction>
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QDir>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTemporaryDir>
+
+#include "core/draw_database.h"
+#include "core/filters.h"
+#include "entries/SaveLines.h"
+#include "platform/DiskFolder.h"
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "platform/Text.h"
+#include "shell/Quillon.h"
+#include "tests/support/form_test.h"
+
+namespace {
+
+/// A run of the program on a folder of real files; the clock, the day and the seed stand still.
+struct ProgramRun {
+    explicit ProgramRun(const QString& path)
+        : folder(path),
+          program{.state = test.state, .folder = folder, .services = test.services},
+          window(program) {
+        test.services.saveLines = [this](QWidget* form, const Grid& grid) {
+            SaveLines(program, form, grid);
+        };
+        window.Load();
+        window.show();
+    }
+
+    TestProgram test;
+    DiskFolder folder;
+    Program program;
+    Quillon window;
+};
+
+std::vector<std::string> ShownRecords(const Grid& grid, const std::string& date) {
+    std::vector<std::string> records;
+    for (int row = 1; !grid.Cell(row, 1).isEmpty(); ++row) {
+        std::string record = date;
+        for (int column = 1; column <= 8; ++column) {
+            record += "," + grid.Cell(row, column).toStdString();
+        }
+        records.push_back(record + ",UK Lotto,Ann,dbase100.txt");
+    }
+    return records;
+}
+
+std::vector<std::string> RecordsOf(const std::string& bytes) {
+    std::vector<std::string> records;
+    for (std::size_t start = 0; start < bytes.size();) {
+        const std::size_t end = bytes.find("\r\n", start);
+        records.push_back(bytes.substr(start, end - start));
+        start = end + 2;
+    }
+    return records;
+}
+
+void ChooseLottery(ListBox& list, const QString& name) {
+    const auto found = list.findItems(name, Qt::MatchExactly);
+    ASSERT_EQ(found.size(), 1);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list.visualItemRect(found.first()).center());
+}
+
+class MainJob : public testing::Test {
+  protected:
+    void SetUp() override {
+        const QDir real(QStringLiteral(REAL_DRAWS));
+        if (!real.exists()) GTEST_SKIP() << "no real draw histories beside the project";
+        const auto files = real.entryList({QStringLiteral("dbase*.txt")});
+        for (const QString& file : files) {
+            const QString copy = folder_.filePath(file);
+            ASSERT_TRUE(QFile::copy(real.filePath(file), copy));
+            // The histories are read-only where they lie.
+            QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
+        }
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(MainJob, LinesOfUkLottoAreMadeFilteredSavedAndFoundAgain) {
+    std::vector<std::string> shown;
+    {
+        ProgramRun run(folder_.path());
+        const auto playLuckyDip = [&] { Find<QAction>(run.window, "PlayLuckyDip")->trigger(); };
+        InDialog(playLuckyDip, [&](QDialog& form) {
+            ChooseLottery(*Find<ListBox>(form, "List1"), QStringLiteral("UK Lotto"));
+            for (const char* box : {"Check1", "Check2", "Check3"}) Click(form, box);
+            Find<QScrollBar>(form, "HScroll1")->setValue(30);
+            Click(form, "Command2");
+            auto& grid = *Find<Grid>(form, "MSFlexGrid1");
+            EXPECT_FALSE(grid.Cell(30, 1).isEmpty());
+            for (const char* button : {"Command13", "Command14", "Command9"}) Click(form, button);
+            EXPECT_FALSE(grid.Cell(30, 1).isEmpty()) << "the conditions have seen to that already";
+            Click(form, "Command15");
+            const auto save = [&] { Click(form, "Command7"); };
+            InDialog(save, [](QDialog& dialog) {
+                // 1 June 2005 is a Wednesday, a draw day.
+                EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->date(), QDate(2005, 6, 1));
+                Type(dialog, "Text2", QStringLiteral("Ann"));
+                Click(dialog, "Command7");
+            });
+            shown = ShownRecords(grid, "01-Jun-2005");
+            Click(form, "Command1");
+        });
+        run.window.close();
+    }
+    ASSERT_GE(shown.size(), 20U);
+
+    const ProgramRun again(folder_.path());
+    EXPECT_EQ(RecordsOf(again.folder.Read("MyLottery.txt")), shown);
+    EXPECT_EQ(again.test.state.Settings(17), "Ann");
+    EXPECT_EQ(again.test.state.Settings(18), "01-Jun-2005");
+}
+
+}  // namespace
