@@ -29,13 +29,13 @@ struct State {
     /// File names of the draw databases, in the order of the lists on screen.
     List<std::string, 76> DbaseFiles{"draw database files"};
 
-    std::string DbaseFile;    ///< File name of the current draw database.
-    std::string LotteryName;  ///< Line 1 of that file.
-    std::string LotteryURL;   ///< Line 2 of that file.
-    int Picks = 0;            ///< Main numbers in a line of the current lottery.
-    int MaxNum = 0;           ///< Highest main number; the lowest is 1.
-    int HasPball = 0;         ///< Carried from the file; nothing looks at it.
-    int MaxPball = 0;         ///< Highest extra ball; above 0 the lottery has one.
+    std::string DbaseFile;      ///< File name of the current draw database.
+    std::string LotteryName;    ///< Line 1 of that file.
+    std::string LotteryURL;     ///< Line 2 of that file.
+    int Picks = 0;              ///< Main numbers in a line of the current lottery.
+    int MaxNum = 0;             ///< Highest main number; the lowest is 1.
+    int HasPball = 0;           ///< Carried from the file; nothing looks at it.
+    int MaxPball = 0;           ///< Highest extra ball; above 0 the lottery has one.
     std::int16_t HasBonus = 0;  ///< Above 0 a bonus ball is drawn from the main numbers.
 
     /// -1 while a generator or a load runs in a form, else 0.
