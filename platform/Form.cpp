@@ -4,10 +4,28 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <vector>
 
 #include "platform/Skin.h"
+
+namespace {
+
+/// The widgets of a layout that take the focus, in the order in which they stand in it.
+void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
+    for (int i = 0; i < layout.count(); ++i) {
+        QLayoutItem* item = layout.itemAt(i);
+        QWidget* widget = item->widget();
+        const QLayout* inner = widget == nullptr ? item->layout() : widget->layout();
+        if (inner != nullptr) CollectWidgets(*inner, widgets);
+        const bool focus = widget != nullptr && widget->focusPolicy() != Qt::NoFocus;
+        if (focus) widgets.push_back(widget);
+    }
+}
+
+}  // namespace
 
 Form::Form(Program& program, const QString& name, const QString& caption, QWidget* parent)
     : QDialog(parent), program_(program), helpPage_(QStringLiteral("help.html")) {
@@ -56,6 +74,12 @@ void Form::paintEvent(QPaintEvent* event) {
     if (picture_.isNull()) return;
     QPainter painter(this);
     PaintSkin(painter, rect(), picture_, palette());
+}
+
+void Form::TabInReadingOrder() {
+    std::vector<QWidget*> widgets;
+    CollectWidgets(*layout(), widgets);
+    for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
 }
 
 void Form::Unload() {

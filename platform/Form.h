@@ -44,6 +44,9 @@ class Form : public QDialog {
     Services& services() const { return program_.services; }
     Program& program() const { return program_; }
 
+    /// Lets the Tab key follow the form's layout, row by row, whatever was added last.
+    void TabInReadingOrder();
+
     /// The button that Esc and the cross stand for.
     void SetCloseButton(QAbstractButton* button) { closeButton_ = button; }
 

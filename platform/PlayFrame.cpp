@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <vector>
 
 #include "core/draw_database.h"
 #include "core/filters.h"
@@ -20,18 +19,6 @@ namespace {
 
 // Below this many seconds nobody has had the time to click anywhere.
 constexpr double patience = 0.25;
-
-/// The widgets of a layout that take the focus, in the order in which they stand in it.
-void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
-    for (int i = 0; i < layout.count(); ++i) {
-        QLayoutItem* item = layout.itemAt(i);
-        QWidget* widget = item->widget();
-        const QLayout* inner = widget == nullptr ? item->layout() : widget->layout();
-        if (inner != nullptr) CollectWidgets(*inner, widgets);
-        const bool focus = widget != nullptr && widget->focusPolicy() != Qt::NoFocus;
-        if (focus) widgets.push_back(widget);
-    }
-}
 
 }  // namespace
 
@@ -138,12 +125,6 @@ void PlayFrame::ConnectFilter(QPushButton* button, void (*prune)(State&)) {
         prune(state());
         ShowResult();
     });
-}
-
-void PlayFrame::TabInReadingOrder() {
-    std::vector<QWidget*> widgets;
-    CollectWidgets(*layout(), widgets);
-    for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
 }
 
 void PlayFrame::Load() {

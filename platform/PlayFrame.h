@@ -73,7 +73,6 @@ class PlayFrame : public Form {
     QLayout* BuildActions(const QString& helpName);
     void Connect();
     void ConnectFilter(QPushButton* button, void (*prune)(State&));
-    void TabInReadingOrder();
     void Command1_Click();
 
     ListBox* list1_;
