@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <QWidget>
 #include <memory>
 
-/// A bar chart whose figures can be read: by tests, by screen readers, by copying (Ctrl+C) and by
-/// resting the mouse over a bar.
+#include "platform/ChartFigures.h"
+
+class ChartPlot;
+class QPainter;
+
+/// A chart of bars or lines whose figures can be read: by tests, by screen readers, by resting the
+/// mouse over a place, and by copying (Ctrl+C and the context menu).
 ///
 /// Rows and columns count from 1, others are a `Failure`; a column is a series, a row a place on
-/// the horizontal axis. With one row each column is a bar of its own with the column's label below
-/// it; with more the bars of a row stand side by side above its label. The chart is light on every
-/// desktop.
+/// the horizontal axis. With one row each of several columns is a bar of its own with the column's
+/// label below it; with more the bars of a row stand side by side above its label. Labels that do
+/// not fit side by side are staggered. The chart is light on every desktop and on paper.
+///
+/// What is set shows with the next `Refresh`.
 class Chart final : public QWidget {
     Q_OBJECT
   public:
@@ -25,10 +33,32 @@ class Chart final : public QWidget {
     Q_INVOKABLE QString columnLabel(int column) const;
     Q_INVOKABLE double value(int row, int column) const;
 
+    /// The labels below the axis at the chart's present width: all of them, unless it is so narrow
+    /// that even staggered ones would overlap.
+    Q_INVOKABLE QStringList shownLabels() const;
+
+    /// The colours of the first series: of its pattern, and of what lies below the pattern. Without
+    /// a pattern both are the colour of the series.
+    Q_INVOKABLE QColor patternColour() const;
+    Q_INVOKABLE QColor fillColour() const;
+
     void SetTitle(const QString& title);
+
+    /// Rows that stay keep their figures; new ones have the figure 0 and no label.
+    void SetRowCount(int rowCount);
+
     void SetRowLabel(int row, const QString& label);
+
+    /// Names a series; the names of several stand below the title.
     void SetColumnLabel(int column, const QString& label);
     void SetValue(int row, int column, double value);
+
+    /// Bars, as a new chart has, or lines through the figures of each series.
+    void SetKind(ChartKind kind);
+    void SetSeriesColour(int column, const QColor& colour);
+
+    /// Draws the bars of the first series in `fill` with a pattern in `colour` over it.
+    void SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor& fill);
 
     /// Ends of the vertical axis; without them it reaches from 0 to the furthest values.
     void SetRange(double lowest, double highest);
@@ -36,19 +66,27 @@ class Chart final : public QWidget {
     /// Draws what has been set.
     void Refresh();
 
+    /// Draws the chart into a rectangle of a page, a picture or whatever `painter` paints on.
+    void Paint(QPainter& painter, const QRectF& rectangle) const;
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
-    QString FiguresOfPlace(int place) const;
-    QString FiguresAsTable() const;
+    void BuildMenu();
+    void CheckRow(int row) const;
+    void CheckColumn(int column) const;
+    void CopyPicture() const;
+    void CopyTable() const;
     void NameItself();
     void ShowFocus(bool focused);
 
-    struct Figures;  // keeps the plotting library out of every form
-    std::unique_ptr<Figures> figures_;
+    ChartFigures figures_;
+    std::unique_ptr<ChartPlot> plot_;
+    QString givenName_;  // the accessible name that the chart gave itself
 };

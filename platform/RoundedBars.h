@@ -10,20 +10,34 @@
 
 #include <algorithm>
 
-/// Bars with softened corners.
+/// Bars with softened corners, and with a pattern over their colour where one is set.
 class RoundedBars final : public QCPBars {
   public:
     using QCPBars::QCPBars;
 
+    /// Lines of a pattern brush are one pixel thin; drawn twice, side by side, they can be seen.
+    void SetPattern(const QBrush& pattern) {
+        pattern_ = pattern;
+        beside_ = pattern;
+        beside_.setTransform(QTransform::fromTranslate(0, 1));
+    }
+
   protected:
     void draw(QCPPainter* painter) override {
         applyFillAntialiasingHint(painter);
-        painter->setBrush(brush());
-        painter->setPen(pen());
+        painter->setPen(Qt::NoPen);
         for (const QCPBarsData& bar : *data()) {
             const QRectF rectangle = getBarRect(bar.key, bar.value).normalized();
-            const double radius = std::min({3.0, rectangle.width() / 2, rectangle.height() / 2});
-            painter->drawRoundedRect(rectangle, radius, radius);
+            const double radius = std::min({2.5, rectangle.width() / 4, rectangle.height() / 2});
+            for (const QBrush& layer : {brush(), pattern_, beside_}) {
+                if (layer.style() == Qt::NoBrush) continue;
+                painter->setBrush(layer);
+                painter->drawRoundedRect(rectangle, radius, radius);
+            }
         }
     }
+
+  private:
+    QBrush pattern_;
+    QBrush beside_;
 };

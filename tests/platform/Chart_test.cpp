@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QClipboard>
 #include <QHelpEvent>
+#include <QImage>
+#include <QPainter>
 #include <QToolTip>
 
 #include "core/failure.h"
@@ -153,6 +156,182 @@ TEST(AChart, MayHaveNoRowsAtAll) {
     chart.Refresh();
     EXPECT_THROW(chart.value(1, 1), Failure);
     EXPECT_EQ(chart.accessibleDescription(), QString());
+}
+
+/// A chart of how often each of `numbers` numbers was drawn.
+std::unique_ptr<Chart> FrequencyChart(int numbers, int width = 500) {
+    auto chart = std::make_unique<Chart>(numbers, 1);
+    for (int number = 1; number <= numbers; ++number) {
+        chart->SetRowLabel(number, QString::number(number));
+        chart->SetValue(number, 1, 200 + number % 9);
+    }
+    chart->Refresh();
+    chart->resize(width, 300);
+    chart->show();
+    QApplication::processEvents();
+    return chart;
+}
+
+bool IsInk(const QColor& colour) { return colour.hsvSaturation() > 60; }
+
+/// The smallest rectangle around all that is coloured.
+QRect InkOf(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (IsInk(image.pixelColor(x, y))) ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
+}
+
+TEST(AChart, ShowsAllFortyNineAndAllSixtyNumbersAtTheWidthOfAForm) {
+    for (const int numbers : {49, 60}) {
+        for (const int width : {460, 680, 1150}) {
+            const auto chart = FrequencyChart(numbers, width);
+            EXPECT_EQ(chart->shownLabels().size(), numbers) << width;
+            EXPECT_EQ(chart->shownLabels().back(), QString::number(numbers));
+        }
+    }
+}
+
+TEST(AChart, ShowsOnlySomeNumbersWhereAllWouldOverlap) {
+    const auto chart = FrequencyChart(60, 240);
+    EXPECT_GE(chart->shownLabels().size(), 15);
+    EXPECT_LT(chart->shownLabels().size(), 60);
+    EXPECT_EQ(chart->rowLabel(60), QStringLiteral("60"));
+}
+
+TEST(AChart, KeepsTheFiguresOfRowsThatStay) {
+    const auto chart = FrequencyChart(3);
+    chart->SetRowCount(5);
+    EXPECT_EQ(chart->rowCount(), 5);
+    EXPECT_EQ(chart->value(3, 1), 203);
+    EXPECT_EQ(chart->value(5, 1), 0);
+    EXPECT_EQ(chart->rowLabel(5), QString());
+    chart->SetRowCount(2);
+    EXPECT_THROW(chart->value(3, 1), Failure);
+    chart->SetRowCount(3);
+    EXPECT_EQ(chart->value(3, 1), 0);
+}
+
+TEST(AChart, KeepsTheSeriesOfARowTogetherWhenRowsAreAdded) {
+    Chart chart(2, 2);
+    chart.SetValue(2, 1, 7);
+    chart.SetValue(2, 2, 8);
+    chart.SetRowCount(4);
+    EXPECT_EQ(chart.value(2, 1), 7);
+    EXPECT_EQ(chart.value(2, 2), 8);
+}
+
+TEST(AChart, DrawsBarsInTheTwoColoursOfAPattern) {
+    const auto chart = FrequencyChart(6);
+    chart->SetPattern(Qt::BDiagPattern, QColor(255, 0, 0), QColor(128, 0, 0));
+    chart->Refresh();
+    QApplication::processEvents();
+    EXPECT_EQ(chart->patternColour(), QColor(255, 0, 0));
+    EXPECT_EQ(chart->fillColour(), QColor(128, 0, 0));
+    const QImage image = chart->grab().toImage();
+    int pattern = 0;
+    int fill = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == QColor(255, 0, 0)) ++pattern;
+            if (image.pixelColor(x, y) == QColor(128, 0, 0)) ++fill;
+        }
+    }
+    EXPECT_GT(pattern, 500);
+    EXPECT_GT(fill, 1000);
+}
+
+TEST(AChart, OfOneSeriesHasOneColourWithoutAPattern) {
+    Chart chart(3, 1);
+    EXPECT_EQ(chart.patternColour(), chart.fillColour());
+    chart.SetSeriesColour(1, QColor(1, 2, 3));
+    EXPECT_EQ(chart.fillColour(), QColor(1, 2, 3));
+}
+
+TEST(AChart, DrawsALineForEachSeriesInItsColour) {
+    Chart chart(28, 2);
+    chart.SetKind(ChartKind::Lines);
+    chart.SetSeriesColour(1, QColor(255, 0, 0));
+    chart.SetSeriesColour(2, QColor(0, 0, 255));
+    for (int row = 1; row <= 28; ++row) {
+        chart.SetValue(row, 1, row);
+        chart.SetValue(row, 2, 30 - row);
+    }
+    chart.Refresh();
+    chart.resize(500, 300);
+    const QImage image = chart.grab().toImage();
+    int first = 0;
+    int second = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == QColor(255, 0, 0)) ++first;
+            if (image.pixelColor(x, y) == QColor(0, 0, 255)) ++second;
+        }
+    }
+    EXPECT_GT(first, 100);
+    EXPECT_GT(second, 100);
+}
+
+TEST(AChart, TellsTheFigureUnderTheMouseByItsNumber) {
+    const auto chart = FrequencyChart(9);
+    QWidget* plot = chart->findChild<QWidget*>();
+    const QPoint place(plot->width() - 24, plot->height() / 2);
+    QHelpEvent help(QEvent::ToolTip, place, plot->mapToGlobal(place));
+    QApplication::sendEvent(plot, &help);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("9: 200"));
+}
+
+TEST(AChart, CopiesItsTableFromTheContextMenu) {
+    const auto chart = FrequencyChart(2);
+    ASSERT_EQ(chart->contextMenuPolicy(), Qt::ActionsContextMenu);
+    chart->findChild<QAction*>(QStringLiteral("CopyTable"))->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\t\n1\t201\n2\t202\n"));
+}
+
+TEST(AChart, CopiesItsPictureFromTheContextMenu) {
+    const auto chart = FrequencyChart(9);
+    chart->findChild<QAction*>(QStringLiteral("CopyPicture"))->trigger();
+    const QImage image = QGuiApplication::clipboard()->image();
+    EXPECT_EQ(image.size(), chart->size() * 2);
+    EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::white));
+    EXPECT_GT(InkOf(image).width(), image.width() / 2);
+}
+
+TEST(AChart, FillsItsPlaceOnAPageOfAnyResolution) {
+    const auto chart = FrequencyChart(49);
+    for (const int dotsPerMeter : {2835, 11811, 23622}) {
+        QImage page(1400, 700, QImage::Format_RGB32);
+        page.setDotsPerMeterX(dotsPerMeter);
+        page.setDotsPerMeterY(dotsPerMeter);
+        page.fill(QColor(120, 120, 120));
+        QPainter painter(&page);
+        chart->Paint(painter, QRectF(100, 50, 1200, 600));
+        painter.end();
+        EXPECT_EQ(page.pixelColor(98, 300), QColor(120, 120, 120));
+        EXPECT_EQ(page.pixelColor(1302, 300), QColor(120, 120, 120));
+        EXPECT_EQ(page.pixelColor(700, 652), QColor(120, 120, 120));
+        EXPECT_EQ(page.pixelColor(102, 52), QColor(Qt::white));
+        EXPECT_EQ(page.pixelColor(1297, 52), QColor(Qt::white));
+        const QRect ink = InkOf(page);
+        EXPECT_GT(ink.width(), 1000) << dotsPerMeter;
+        EXPECT_GT(ink.height(), 350) << dotsPerMeter;
+        EXPECT_TRUE(QRect(100, 50, 1200, 600).contains(ink)) << dotsPerMeter;
+    }
+}
+
+TEST(AChart, IsLightOnPaperOnADarkDesktop) {
+    QApplication::setPalette(QPalette(QColor(30, 30, 30)));
+    const auto chart = FrequencyChart(9);
+    QImage page(900, 400, QImage::Format_RGB32);
+    page.fill(Qt::black);
+    QPainter painter(&page);
+    chart->Paint(painter, QRectF(0, 0, 900, 400));
+    painter.end();
+    EXPECT_EQ(page.pixelColor(3, 3), QColor(Qt::white));
+    QApplication::setPalette(QPalette());
 }
 
 }  // namespace

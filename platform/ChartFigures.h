@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QBrush>
+#include <QColor>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <utility>
+#include <vector>
+
+/// How a chart shows its series.
+enum class ChartKind { Bars, Lines };
+
+/// What a chart shows: its title, the labels and figures of its rows and columns, its looks.
+///
+/// A column is a series. With one row of several columns each column has its own place on the
+/// horizontal axis; otherwise each row has.
+class ChartFigures {
+  public:
+    ChartFigures(int rowCount, int columnCount);
+
+    /// Rows that stay keep their figures; new ones have the figure 0 and no label.
+    void SetRowCount(int rowCount);
+
+    int Rows() const { return rows_; }
+    int Columns() const { return static_cast<int>(columnLabels.size()); }
+
+    double& Value(int row, int column) { return values_[Entry(row, column)]; }
+    double Value(int row, int column) const { return values_[Entry(row, column)]; }
+    QString& RowLabel(int row) { return rowLabels_[Index(row)]; }
+    const QString& RowLabel(int row) const { return rowLabels_[Index(row)]; }
+    QString& ColumnLabel(int column) { return columnLabels[Index(column)]; }
+    const QString& ColumnLabel(int column) const { return columnLabels[Index(column)]; }
+
+    /// Whether each column has a place of its own.
+    bool ColumnsAreApart() const { return rows_ == 1 && Columns() > 1; }
+    int Places() const { return ColumnsAreApart() ? Columns() : rows_; }
+    const QString& PlaceLabel(int place) const;
+
+    /// Lowest and highest of all figures and of 0.
+    std::pair<double, double> Extent() const;
+    bool AllWhole() const;
+
+    /// "17: 204", or "May: odd 7, even 3" where a place has several series.
+    QString PlaceText(int place) const;
+
+    /// All places, for screen readers.
+    QString Description() const;
+
+    /// Figures with their labels, a row a line, cells separated by tabs.
+    QString Table() const;
+
+    QString title;
+    std::optional<std::pair<double, double>> range;  ///< Of the vertical axis.
+    ChartKind kind = ChartKind::Bars;
+    std::vector<QString> columnLabels;
+    std::vector<QColor> colours;    ///< Of the series.
+    std::optional<QBrush> pattern;  ///< Drawn over the bars' colour.
+
+  private:
+    static std::size_t Index(int count) { return static_cast<std::size_t>(count - 1); }
+    std::size_t Entry(int row, int column) const {
+        return Index(row) * columnLabels.size() + Index(column);
+    }
+
+    int rows_;
+    std::vector<QString> rowLabels_;
+    std::vector<double> values_;
+};
