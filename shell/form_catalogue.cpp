@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "analysis/ACommonNumbers.h"
 #include "entries/SaveEntries.h"
 #include "entries/StoreMyDrawsW.h"
 #include "play/PHotNumbers.h"
@@ -40,8 +41,11 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "DatabaseViewCheck", .form = "ShowMyDrawsW", .needsSavedEntries = true},
     {.menuEntry = "DatabaseStoreDrawsW", .form = "StoreMyDrawsW", .make = Make<StoreMyDrawsW>},
 
-    {.menuEntry = "AnalysisCommon", .form = "ACommonNumbers"},
-    {.menuEntry = "AnalyseColdNums", .form = "ACommonNumbers", .prepare = SelectSecondOption},
+    {.menuEntry = "AnalysisCommon", .form = "ACommonNumbers", .make = Make<ACommonNumbers>},
+    {.menuEntry = "AnalyseColdNums",
+     .form = "ACommonNumbers",
+     .make = Make<ACommonNumbers>,
+     .prepare = SelectSecondOption},
     {.menuEntry = "AnalysisSums", .form = "ASums"},
     {.menuEntry = "AnalyseLowHigh", .form = "ASums"},
     {.menuEntry = "AnalysisAverages", .form = "AAverages"},
