@@ -6,7 +6,6 @@
 #include <charconv>
 #include <limits>
 
-#include "core/field_reader.h"
 #include "core/text.h"
 
 namespace {
@@ -40,7 +39,19 @@ std::int16_t NumberIn(std::string_view field, const FieldReader& reader,
     return static_cast<std::int16_t>(number);
 }
 
-void ReadHeader(State& state, FieldReader& reader) {
+std::string ChooseDatabase(State& state, const ProgramFolder& folder, std::int16_t index) {
+    const std::string& name = state.DbaseFiles(index);
+    if (name.empty()) {
+        throw Failure("Expected draw database number " + std::to_string(index + 1) +
+                      " (a file dbase*.txt in the program's folder), but there is none.");
+    }
+    state.DbaseFile = name;
+    return folder.Read(name);
+}
+
+}  // namespace
+
+void ReadDatabaseHeader(State& state, FieldReader& reader) {
     state.LotteryName = reader.ReadLine("the name of the lottery");
     state.LotteryURL = reader.ReadLine("the web address of the lottery");
     state.Picks = LeadingWhole(reader.ReadField("how many numbers a line has"));
@@ -57,18 +68,6 @@ void ReadDraw(std::int16_t* row, FieldReader& reader) {
         row[column] = NumberIn(reader.ReadField(expected), reader, expected);
     }
 }
-
-std::string ChooseDatabase(State& state, const ProgramFolder& folder, std::int16_t index) {
-    const std::string& name = state.DbaseFiles(index);
-    if (name.empty()) {
-        throw Failure("Expected draw database number " + std::to_string(index + 1) +
-                      " (a file dbase*.txt in the program's folder), but there is none.");
-    }
-    state.DbaseFile = name;
-    return folder.Read(name);
-}
-
-}  // namespace
 
 std::vector<std::string> ListDatabases(State& state, const ProgramFolder& folder) {
     const std::vector<std::string> files = folder.Find("dbase*.txt");
@@ -92,7 +91,7 @@ std::vector<std::string> ListDatabases(State& state, const ProgramFolder& folder
 void LoadDatabase(State& state, const ProgramFolder& folder, std::int16_t index) {
     const std::string content = ChooseDatabase(state, folder, index);
     FieldReader reader(content, state.DbaseFile);
-    ReadHeader(state, reader);
+    ReadDatabaseHeader(state, reader);
     int draw = 1;
     for (; !reader.AtEnd(); ++draw) {
         const std::string_view date = reader.ReadField(expectedFields[0]);
@@ -106,5 +105,5 @@ void LoadDatabase(State& state, const ProgramFolder& folder, std::int16_t index)
 void LoadDatabaseHeader(State& state, const ProgramFolder& folder, std::int16_t index) {
     const std::string content = ChooseDatabase(state, folder, index);
     FieldReader reader(content, state.DbaseFile);
-    ReadHeader(state, reader);
+    ReadDatabaseHeader(state, reader);
 }

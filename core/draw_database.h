@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/field_reader.h"
 #include "core/program_folder.h"
 #include "core/state.h"
 
@@ -24,3 +25,11 @@ void LoadDatabase(State& state, const ProgramFolder& folder, std::int16_t index)
 /// As `LoadDatabase`, but reads the header only and leaves `state.Draws` with the rows of the
 /// lottery that was loaded last.
 void LoadDatabaseHeader(State& state, const ProgramFolder& folder, std::int16_t index);
+
+/// Reads the header of a draw database, from its first line on, into the shared variables. A header
+/// that the end of the file cuts short is a `Failure`.
+void ReadDatabaseHeader(State& state, FieldReader& reader);
+
+/// Reads the eight numbers that follow the date of a draw into `row[1]` to `row[8]`. A number
+/// beyond 16 bits and a record that the end of the file cuts short are each a `Failure`.
+void ReadDraw(std::int16_t* row, FieldReader& reader);
