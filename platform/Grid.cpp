@@ -42,9 +42,8 @@ class GridModel final : public QAbstractTableModel {
     }
 
     const QString& Text(int row, int column) const { return At(row, column).text; }
-    QColor TextColour(int row, int column) const {
-        return At(row, column).colour == 0 ? QColor() : QColor::fromRgb(At(row, column).colour);
-    }
+    QColor TextColour(int row, int column) const { return AsColour(At(row, column).colour); }
+    QColor Background(int row, int column) const { return AsColour(At(row, column).background); }
 
     void SetText(int row, int column, const QString& text) {
         Cell& cell = At(row, column);
@@ -53,11 +52,10 @@ class GridModel final : public QAbstractTableModel {
         Changed(row, column, row, column);
     }
     void SetColour(int row, int column, const QColor& colour) {
-        Cell& cell = At(row, column);
-        const QRgb value = colour.isValid() ? (colour.rgb() | 0xff000000U) : 0;
-        if (cell.colour == value) return;
-        cell.colour = value;
-        Changed(row, column, row, column);
+        SetShade(&Cell::colour, row, column, colour);
+    }
+    void SetBackground(int row, int column, const QColor& colour) {
+        SetShade(&Cell::background, row, column, colour);
     }
     void Clear() {
         const auto body = cells_.begin() + std::min<std::ptrdiff_t>(columns_, std::ssize(cells_));
@@ -74,8 +72,20 @@ class GridModel final : public QAbstractTableModel {
   private:
     struct Cell {
         QString text;
-        QRgb colour = 0;  // 0: the grid's own colour
+        QRgb colour = 0;  // 0: the grid's own colour, here and below
+        QRgb background = 0;
     };
+
+    static QColor AsColour(QRgb value) { return value == 0 ? QColor() : QColor::fromRgb(value); }
+    static QVariant AsRole(QRgb value) { return value == 0 ? QVariant() : AsColour(value); }
+
+    void SetShade(QRgb Cell::*shade, int row, int column, const QColor& colour) {
+        Cell& cell = At(row, column);
+        const QRgb value = colour.isValid() ? (colour.rgb() | 0xff000000U) : 0;
+        if (cell.*shade == value) return;
+        cell.*shade = value;
+        Changed(row, column, row, column);
+    }
 
     std::size_t Count() const {
         return static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_);
@@ -98,7 +108,9 @@ class GridModel final : public QAbstractTableModel {
             case Qt::DisplayRole:
                 return cell.text;
             case Qt::ForegroundRole:
-                return cell.colour == 0 ? QVariant() : QVariant(QColor::fromRgb(cell.colour));
+                return AsRole(cell.colour);
+            case Qt::BackgroundRole:
+                return AsRole(cell.background);
             case Qt::TextAlignmentRole:
                 return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
             default:
@@ -130,8 +142,9 @@ class GridModel final : public QAbstractTableModel {
 namespace {
 
 constexpr int twips90 = 6;  // at 15 twips a pixel
+constexpr int markedShade = 112;
 
-/// Keeps a cell's own colour while the cell is marked.
+/// Keeps a cell's own colours while the cell is marked.
 class GridDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -141,6 +154,10 @@ class GridDelegate final : public QStyledItemDelegate {
         QStyledItemDelegate::initStyleOption(option, index);
         const auto colour = index.data(Qt::ForegroundRole).value<QColor>();
         if (colour.isValid()) option->palette.setColor(QPalette::HighlightedText, colour);
+        const auto background = index.data(Qt::BackgroundRole).value<QColor>();
+        if (background.isValid() && background != Qt::white) {
+            option->palette.setColor(QPalette::Highlight, background.darker(markedShade));
+        }
     }
 };
 
@@ -205,6 +222,12 @@ void Grid::SetCellColour(int row, int column, const QColor& colour) {
 
 QColor Grid::CellColour(int row, int column) const { return model_->TextColour(row, column); }
 
+void Grid::SetCellBackground(int row, int column, const QColor& colour) {
+    model_->SetBackground(row, column, colour);
+}
+
+QColor Grid::CellBackground(int row, int column) const { return model_->Background(row, column); }
+
 void Grid::ClearCells() { model_->Clear(); }
 
 void Grid::SizeColumns() {
@@ -253,6 +276,12 @@ void Grid::MarkRow(int row) {
 }
 
 void Grid::ScrollToTop() { scrollToTop(); }
+
+void Grid::SetTopRow(int row) {
+    static_cast<void>(IndexOf(row, 0));  // a row outside the grid is a failure
+    executeDelayedItemsLayout();
+    verticalScrollBar()->setValue(row - 1);
+}
 
 void Grid::ScrollToRow(int row) {
     const QModelIndex index = IndexOf(row, 0);

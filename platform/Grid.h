@@ -30,6 +30,11 @@ class Grid final : public QTableView {
     void SetCellColour(int row, int column, const QColor& colour);
     QColor CellColour(int row, int column) const;
 
+    /// Colour behind the text of a cell; an invalid colour takes it back. A marked cell shows it a
+    /// little darker.
+    void SetCellBackground(int row, int column, const QColor& colour);
+    QColor CellBackground(int row, int column) const;
+
     /// Empties every cell below the headings.
     void ClearCells();
 
@@ -52,6 +57,9 @@ class Grid final : public QTableView {
     void MarkRow(int row);
 
     void ScrollToTop();
+
+    /// Scrolls so that the row is the first in view, as far as the rows below it allow.
+    void SetTopRow(int row);
 
     /// Scrolls as little as brings the row into view.
     void ScrollToRow(int row);

@@ -220,6 +220,38 @@ TEST_F(AGrid, ScrollsToItsTopAndToARow) {
     EXPECT_EQ(grid.rowAt(0), 0);
 }
 
+TEST_F(AGrid, BringsARowToItsTop) {
+    grid.SetRowCount(200);
+    grid.SetTopRow(94);
+    EXPECT_EQ(grid.rowAt(0) + 1, 94);
+    EXPECT_THROW(grid.SetTopRow(200), Failure);
+}
+
+TEST_F(AGrid, PaintsTheBackgroundOfACell) {
+    const QColor yellow(255, 255, 0);
+    EXPECT_FALSE(grid.CellBackground(2, 1).isValid());
+    grid.SetCellBackground(2, 1, yellow);
+    EXPECT_EQ(grid.CellBackground(2, 1), yellow);
+    EXPECT_EQ(grid.model()->index(1, 1).data(Qt::BackgroundRole).value<QColor>(), yellow);
+    const QImage picture = grid.viewport()->grab().toImage();
+    EXPECT_EQ(
+        picture.pixelColor(grid.visualRect(grid.model()->index(1, 1)).topLeft() + QPoint(3, 3)),
+        yellow);
+    grid.SetCellBackground(2, 1, QColor());
+    EXPECT_FALSE(grid.CellBackground(2, 1).isValid());
+}
+
+TEST_F(AGrid, ShowsTheBackgroundOfAMarkedCellDarker) {
+    grid.SetCellBackground(2, 1, QColor(255, 255, 0));
+    grid.MarkRow(2);
+    const QImage picture = grid.viewport()->grab().toImage();
+    const QColor shown =
+        picture.pixelColor(grid.visualRect(grid.model()->index(1, 1)).topLeft() + QPoint(3, 3));
+    EXPECT_EQ(shown.blue(), 0);
+    EXPECT_LT(shown.red(), 255);
+    EXPECT_GT(shown.red(), 200);
+}
+
 TEST_F(AGrid, TellsTheViewOfManyChangesAtOnce) {
     grid.SetRowCount(3000);
     QSignalSpy changes(grid.model(), &QAbstractItemModel::dataChanged);
