@@ -127,10 +127,12 @@ void ChartPlot::DrawAxes() {
 }
 
 void ChartPlot::DrawTicks() {
-    constexpr double fewSteps = 5;
+    constexpr double fewSteps = 20;
     if (figures_.AllWhole() && plot_->yAxis->range().size() < fewSteps) {
         const QSharedPointer<QCPAxisTickerFixed> steps(new QCPAxisTickerFixed);
         steps->setTickStep(1);
+        steps->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+        steps->setTickCount(4);
         plot_->yAxis->setTicker(steps);
         return;
     }

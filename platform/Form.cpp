@@ -76,10 +76,14 @@ void Form::paintEvent(QPaintEvent* event) {
     PaintSkin(painter, rect(), picture_, palette());
 }
 
+// The chain is a circle that the form itself is part of, and Qt leaves alone what already follows
+// in it, even across its start. Moved behind the first widget twice, each one is moved once.
 void Form::TabInReadingOrder() {
     std::vector<QWidget*> widgets;
     CollectWidgets(*layout(), widgets);
-    for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+    for (int time = 1; time <= 2; ++time) {
+        for (std::size_t i = widgets.size(); i-- > 1;) setTabOrder(widgets.front(), widgets[i]);
+    }
 }
 
 void Form::Unload() {

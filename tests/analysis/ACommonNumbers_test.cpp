@@ -266,6 +266,17 @@ TEST_F(CommonNumbersForm, ClosesByItsButtonAndByEsc) {
     EXPECT_FALSE(form_->isVisible());
 }
 
+TEST_F(CommonNumbersForm, LeadsTheTabKeyInReadingOrderFromTheFirstControl) {
+    Open();
+    QStringList reached;
+    for (QWidget* widget = form_->nextInFocusChain(); widget != form_.get();
+         widget = widget->nextInFocusChain()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) != 0) reached << widget->objectName();
+    }
+    EXPECT_EQ(reached.join(QLatin1Char(' ')),
+              QStringLiteral("List1 Option1(0) Option1(1) MSChart1 MSChart2 Command6 Command1"));
+}
+
 TEST_F(CommonNumbersForm, EndsInTheReportOnANumberAboveSeventyAndOnAFullTable) {
     AddLottery(test_.folder, "dbase103.txt", "Big", "1,49,0,0,0", {"28 May 05,71,,,,,,,"});
     AddLottery(test_.folder, "dbase104.txt", "Full", "1,49,0,0,0",
