@@ -24,7 +24,7 @@ class RatioReporter final : public benchmark::ConsoleReporter {
     void Finalize() override {
         ConsoleReporter::Finalize();
         for (const auto& [name, fast] : nanoseconds_) {
-            for (const char* kind : {"/bits", "/hash"}) PrintRatio(name, kind, fast);
+            for (const char* kind : {"/bits", "/hash", "/fast"}) PrintRatio(name, kind, fast);
         }
     }
 
