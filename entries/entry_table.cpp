@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/entry_table.h"
+
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+#include "core/field_reader.h"
+#include "core/text.h"
+
+namespace {
+
+constexpr int lastEntry = 499;
+constexpr std::size_t lotteryColumn = 9;
+constexpr std::size_t nameColumn = 10;
+
+constexpr std::array<std::string_view, 12> expectedFields = {
+    "the date of an entry",    "number 1 of an entry", "number 2 of an entry",
+    "number 3 of an entry",    "number 4 of an entry", "number 5 of an entry",
+    "number 6 of an entry",    "number 7 of an entry", "the extra ball of an entry",
+    "the lottery of an entry", "the name of a player", "the draw database of an entry"};
+
+int EntryCount(const EntryTable& table) {
+    int count = 0;
+    while (!table(count + 1, 0).empty()) ++count;
+    return count;
+}
+
+void CopyRow(EntryTable& table, int from, int to) {
+    const EntryTable& source = table;
+    std::copy_n(source.Row(from), EntryTable::ColumnCount(), table.Row(to));
+}
+
+template <typename Key>
+struct KeyedEntry {
+    Key key;
+    SavedEntry entry;
+};
+
+// Stable, as an exchange of neighbours that stand in the wrong order would be.
+template <typename KeyOf, typename Order>
+void SortEntries(EntryTable& table, KeyOf keyOf, Order order) {
+    const int count = EntryCount(table);
+    if (count < 2) return;
+    std::vector<KeyedEntry<decltype(keyOf(1))>> entries;
+    entries.reserve(static_cast<std::size_t>(count));
+    for (int row = 1; row <= count; ++row) entries.push_back({keyOf(row), {}});
+    for (int row = 1; row <= count; ++row) {
+        std::string* const cells = table.Row(row);
+        auto& entry = entries[static_cast<std::size_t>(row - 1)].entry;
+        std::move(cells, cells + entry.size(), entry.begin());
+    }
+    std::stable_sort(entries.begin(), entries.end(), [order](const auto& one, const auto& other) {
+        return order(one.key, other.key);
+    });
+    int row = 0;
+    for (auto& entry : entries) {
+        std::move(entry.entry.begin(), entry.entry.end(), table.Row(++row));
+    }
+}
+
+void SortByText(EntryTable& table, std::size_t column) {
+    const EntryTable& view = table;
+    const auto name = [&view, column](int row) {
+        return UpperCase(view(row, static_cast<long long>(column)));
+    };
+    SortEntries(table, name, std::less<>());
+}
+
+}  // namespace
+
+std::string EntryPlace(int row) {
+    return std::string(savedEntriesFile) + ", row " + std::to_string(row) + " as shown";
+}
+
+void LoadMyDraws(EntryTable& table, const ProgramFolder& folder) {
+    if (!folder.Exists(savedEntriesFile)) return;
+    const std::string content = folder.Read(savedEntriesFile);
+    FieldReader reader(content, savedEntriesFile);
+    for (int row = 1; row <= lastEntry && !reader.AtEnd(); ++row) {
+        std::string* const cells = table.Row(row);
+        for (std::size_t column = 0; column < expectedFields.size(); ++column) {
+            cells[column] = reader.ReadField(expectedFields[column]);
+        }
+    }
+}
+
+void SortByDate(EntryTable& table, const Region& region, Date today) {
+    const EntryTable& view = table;
+    const auto date = [&](int row) {
+        return DateFromText(view(row, 0), region, today, EntryPlace(row));
+    };
+    SortEntries(table, date, std::greater<>());
+}
+
+void SortByName(EntryTable& table) { SortByText(table, nameColumn); }
+
+void SortByLottery(EntryTable& table) { SortByText(table, lotteryColumn); }
+
+void DeleteRow(EntryTable& table, std::int16_t row) {
+    const EntryTable& view = table;
+    int reached = row;
+    do {
+        CopyRow(table, reached + 1, reached);
+        ++reached;
+    } while (!view(reached, 0).empty());
+}
+
+void DeleteOutOfDate(EntryTable& table, const Region& region, Date today) {
+    const EntryTable& view = table;
+    const int count = EntryCount(view);
+    const Date oldest = DaysAfter(today, -1);
+    int kept = 0;
+    for (int row = 1; row <= count; ++row) {
+        if (DateFromText(view(row, 0), region, today, EntryPlace(row)) < oldest) continue;
+        if (++kept < row) CopyRow(table, row, kept);
+    }
+    for (int row = kept + 1; row <= count; ++row) CopyRow(table, count + 1, row);
+}
+
+bool ChangeDate(EntryTable& table, int row, Date date, const Region& region, Date today) {
+    const EntryTable& view = table;
+    if (!ReadDate(view(row, 0), region, today)) return false;
+    table(row, 0) = MediumDate(date);
+    return true;
+}
