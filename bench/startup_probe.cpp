@@ -32,7 +32,7 @@ int ShowUntilPainted(QMainWindow& window) {
 }
 
 int ShowEmptyWindow(int argumentCount, char** arguments) {
-    QApplication application(argumentCount, arguments);
+    Application application(argumentCount, arguments);
     QMainWindow window;
     window.resize(1000, 660);
     return ShowUntilPainted(window);

@@ -48,8 +48,7 @@ Quillon::Quillon(Program& program, QWidget* parent)
       program_(program),
       menu_(new MainMenu(this)),
       toolbar_(new Toolbar),
-      panels_(new InfoPanels(program, nullptr)),
-      welcome_(new Welcome(nullptr)) {
+      panels_(new InfoPanels(program, nullptr)) {
     setObjectName(QStringLiteral("Quillon"));
     setWindowTitle(QStringLiteral("Lottery Quillon World"));
     Build();
@@ -63,8 +62,7 @@ void Quillon::Build() {
     auto* layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(toolbar_);
-    layout->addWidget(welcome_, 1, Qt::AlignCenter);
+    layout->addWidget(toolbar_, 0, Qt::AlignTop);
     layout->addWidget(panels_, 1);
     setMenuBar(menu_);
     setCentralWidget(centre);
@@ -73,8 +71,6 @@ void Quillon::Build() {
     setMouseTracking(true);
     resize(1000, 660);
     connect(toolbar_, &Toolbar::clicked, this, &Quillon::Image1_Click);
-    connect(welcome_, &Welcome::stepChosen, this,
-            [this](const QString& entry) { menu_->Entry(entry)->trigger(); });
 }
 
 void Quillon::AnswerMenu() {
@@ -123,15 +119,35 @@ void Quillon::LoadSettings() {
 }
 
 void Quillon::Skinning() {
+    ApplySkinColours(program_.state, *this, {});
+    if (painted_) SkinPicture();
+}
+
+void Quillon::SkinPicture() {
     // Where pictures are chosen and this one is missing, the window stays as it is.
     if (!SkinChoiceOf(program_.state).pictures) {
         picture_ = {};
     } else if (const QString file = QString::fromLatin1(pictureFile);
                program_.folder.Exists(pictureFile)) {
-        picture_ = SkinPicture(program_.state, program_.folder, file);
+        picture_ = ::SkinPicture(program_.state, program_.folder, file);
     }
-    ApplySkinColours(program_.state, *this, {});
     update();
+}
+
+void Quillon::CompletePainting() {
+    SkinPicture();
+    ShowWelcome(!panels_->Shown());
+}
+
+void Quillon::ShowWelcome(bool shown) {
+    if (shown && welcome_ == nullptr) {
+        welcome_ = new Welcome(centralWidget());
+        connect(welcome_, &Welcome::stepChosen, this,
+                [this](const QString& entry) { menu_->Entry(entry)->trigger(); });
+        auto* layout = qobject_cast<QVBoxLayout*>(centralWidget()->layout());
+        layout->insertWidget(1, welcome_, 1, Qt::AlignCenter);
+    }
+    if (welcome_ != nullptr) welcome_->setVisible(shown);
 }
 
 void Quillon::ListDatabases() {
@@ -156,7 +172,7 @@ void Quillon::UpdateSyndicate() {
 
 void Quillon::ShowPanels() {
     const bool shown = !panels_->Shown();
-    welcome_->setVisible(!shown);
+    if (painted_) ShowWelcome(!shown);
     panels_->SetShown(shown);
     program_.state.Settings(panelsEntry).assign(1, shown ? '1' : '0');
 }
@@ -263,6 +279,11 @@ void Quillon::mouseMoveEvent(QMouseEvent* event) {
 
 void Quillon::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
+    if (!painted_) {
+        // Menu and toolbar are there at once; the large picture and the welcome follow them.
+        painted_ = true;
+        QMetaObject::invokeMethod(this, &Quillon::CompletePainting, Qt::QueuedConnection);
+    }
     if (picture_.isNull()) return;
     QPainter painter(this);
     PaintSkin(painter, centralWidget()->geometry(), picture_, palette());

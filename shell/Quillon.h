@@ -49,6 +49,9 @@ class Quillon final : public QMainWindow {
 
     void LoadSettings();
     void Skinning();
+    void SkinPicture();
+    void CompletePainting();
+    void ShowWelcome(bool shown);
     void ListDatabases();
     void UpdateSyndicate();
     void SaveNotes();
@@ -63,6 +66,7 @@ class Quillon final : public QMainWindow {
     MainMenu* menu_;
     Toolbar* toolbar_;
     InfoPanels* panels_;
-    Welcome* welcome_;
+    Welcome* welcome_ = nullptr;  // made when it is first shown
     QPixmap picture_;
+    bool painted_ = false;
 };

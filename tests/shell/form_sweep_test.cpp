@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every form keeps to, walked over the form catalogue.
 #include <QAccessible>
+#include <algorithm>
 #include <set>
 
 #include "core/settings.h"
@@ -93,23 +94,29 @@ TEST_P(EveryForm, TellsAScreenReaderWhatHasTheFocus) {
 
 TEST_P(EveryForm, LeadsTheTabKeyInReadingOrder) {
     Open();
+    std::vector<QWidget*> walk;
+    for (QWidget* next = form->nextInFocusChain(); next != form.get();
+         next = next->nextInFocusChain()) {
+        const bool ours =
+            !next->objectName().isEmpty() && !next->objectName().startsWith(QStringLiteral("qt_"));
+        if (ours && form->isAncestorOf(next) && TakesFocus(next)) walk.push_back(next);
+    }
+    const auto placeOf = [this](const QWidget* control) {
+        return QRect(control->mapTo(form.get(), QPoint()), control->size());
+    };
+    // The chain is a ring: it begins at the control nearest to the top left corner.
+    const auto first = std::ranges::min_element(walk, {}, [&](const QWidget* control) {
+        return placeOf(control).top() + placeOf(control).left();
+    });
+    std::rotate(walk.begin(), first, walk.end());
     // Down a column, or to the right of it: never to a place that lies both above and to the left.
-    const QWidget* last = nullptr;
-    QWidget* next = form.get();
-    do {
-        next = next->nextInFocusChain();
-        if (!form->isAncestorOf(next) || next->objectName().isEmpty() || !TakesFocus(next))
-            continue;
-        if (next->objectName().startsWith(QStringLiteral("qt_"))) continue;
-        if (last != nullptr) {
-            const QRect from(last->mapTo(form.get(), QPoint()), last->size());
-            const QRect to(next->mapTo(form.get(), QPoint()), next->size());
-            EXPECT_TRUE(to.bottom() >= from.top() || to.left() >= from.right())
-                << last->objectName().toStdString() << " leads back to "
-                << next->objectName().toStdString();
-        }
-        last = next;
-    } while (next != form.get());
+    for (std::size_t i = 1; i < walk.size(); ++i) {
+        const QRect from = placeOf(walk[i - 1]);
+        const QRect to = placeOf(walk[i]);
+        EXPECT_TRUE(to.bottom() >= from.top() || to.left() >= from.right())
+            << walk[i - 1]->objectName().toStdString() << " leads back to "
+            << walk[i]->objectName().toStdString();
+    }
 }
 
 TEST_P(EveryForm, FitsASmallScreen) {

@@ -17,6 +17,8 @@ class MainWindow : public testing::Test {
         QObject::connect(window.get(), &Quillon::ended, window.get(), [this] { ++timesEnded; });
         window->Load();
         window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        QApplication::processEvents();
     }
 
     QAction* Entry(const char* name) { return Find<QAction>(*window, name); }
