@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/ShowMyDrawsW.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/text.h"
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "platform/Hourglass.h"
+#include "platform/LinesGrid.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Text.h"
+
+namespace {
+
+constexpr int lastRow = 500;
+constexpr int lastColumn = 11;
+constexpr int extraBallColumn = 8;
+constexpr int lotteryColumn = 9;
+
+// The same for every lottery.
+constexpr double highestNumber = 60;
+
+}  // namespace
+
+void ShowMyDrawsW::Load() {
+    entriesChanged_ = 0;
+    Skinning(
+        QStringLiteral("SkinDatabases.jpg"),
+        {.title = {label8_},
+         .body = {label9_, label10_},
+         .small = {label1_, label2_, label4_, label5_, label6_, label14_, deleteLabel_, sortLabel_},
+         .status = {}});
+    dtPicker1_->SetValue(services().today());
+    LoadMyDraws(entryTable_, folder());
+    DisplayMyDraws();
+}
+
+void ShowMyDrawsW::DisplayMyDraws() {
+    const EntryTable& table = entryTable_;
+    for (int row = 1; row <= lastRow; ++row) {
+        for (int column = 0; column <= lastColumn; ++column) {
+            grid_->SetCell(row, column, ToQString(table(row, column)));
+        }
+        grid_->SetCellColour(row, extraBallColumn, ExtraBallColour());
+    }
+    GoToFirstCell();
+}
+
+void ShowMyDrawsW::GoToFirstCell() {
+    grid_->SetCurrentCell(1, 1);
+    grid_->ScrollToTop();
+    MSFlexGrid1_Click();
+}
+
+void ShowMyDrawsW::ShowCurrentCell() {
+    text1_->setText(grid_->currentIndex().data().toString());
+    text1_->selectAll();
+}
+
+void ShowMyDrawsW::MSFlexGrid1_Click() {
+    ShowCurrentCell();
+    text1_->setFocus();
+}
+
+void ShowMyDrawsW::ToggleButtons() {
+    for (QPushButton* command : Commands()) command->setEnabled(!command->isEnabled());
+}
+
+bool ShowMyDrawsW::Confirmed(const QString& text) {
+    const Answer answer = services().messages.Show(this, {.title = tr("Please confirm..."),
+                                                          .text = text,
+                                                          .sign = Sign::Exclamation,
+                                                          .buttons = Buttons::OkCancel});
+    return answer != Answer::Cancel;
+}
+
+void ShowMyDrawsW::Command10_Click() {
+    const int row = grid_->CurrentRow();
+    const int column = grid_->currentIndex().column();
+    const auto refuse = [this](const QString& text) {
+        services().messages.Show(this,
+                                 {.title = tr("Error"), .text = text, .sign = Sign::Exclamation});
+    };
+    if (column == lotteryColumn) return refuse(tr("Can't change lotteries!  "));
+    if (grid_->Cell(row, column).isEmpty()) return;
+    const std::string text = FromQString(text1_->text());
+    const double number = LeadingNumber(text);
+    const bool isNumber = column >= 1 && column <= extraBallColumn;
+    if (isNumber && (number < 1 || number > highestNumber)) {
+        return refuse(tr("Number out of range!  "));
+    }
+    entryTable_(row, column) = Trim(text);
+    grid_->SetCell(row, column, ToQString(Trim(text)));
+    entriesChanged_ = -1;
+}
+
+void ShowMyDrawsW::Command8_Click() {
+    const int row = grid_->CurrentRow();
+    ChangeDate(entryTable_, row, dtPicker1_->Value(), services().region, services().today());
+    grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
+    entriesChanged_ = -1;
+}
+
+void ShowMyDrawsW::Command12_Click() {
+    for (int row = 1;
+         ChangeDate(entryTable_, row, dtPicker1_->Value(), services().region, services().today());
+         ++row) {
+        grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
+    }
+    entriesChanged_ = -1;
+}
+
+template <typename Sort>
+void ShowMyDrawsW::SortEntries(Sort sort) {
+    const Hourglass hourglass;
+    ToggleButtons();
+    sort();
+    DisplayMyDraws();
+    ToggleButtons();
+    entriesChanged_ = -1;
+}
+
+void ShowMyDrawsW::Command11_Click() {
+    SortEntries([this] { SortByDate(entryTable_, services().region, services().today()); });
+}
+
+void ShowMyDrawsW::Command3_Click() {
+    SortEntries([this] { SortByName(entryTable_); });
+}
+
+void ShowMyDrawsW::Command6_Click() {
+    SortEntries([this] { SortByLottery(entryTable_); });
+}
+
+void ShowMyDrawsW::Command7_Click() {
+    const int row = grid_->CurrentRow();
+    grid_->MarkRow(row);
+    if (!Confirmed(tr("Delete this lottery entry?   "))) return;
+    DeleteRow(entryTable_, static_cast<std::int16_t>(row));
+    DisplayMyDraws();
+    entriesChanged_ = -1;
+}
+
+void ShowMyDrawsW::Command4_Click() {
+    const QString text = tr("Delete all lottery entries    ") % ToQString(state().Crlf) %
+                         tr("that are older than today?    ");
+    if (!Confirmed(text)) return;
+    const Hourglass hourglass;
+    // Entries of yesterday stay, whatever the question says.
+    DeleteOutOfDate(entryTable_, services().region, services().today());
+    DisplayMyDraws();
+    entriesChanged_ = -1;
+}
+
+void ShowMyDrawsW::Command9_Click() {
+    const QString text = tr("Are you sure you want to delete    ") % ToQString(state().Crlf) %
+                         tr("all of the lottery entries?    ");
+    if (!Confirmed(text)) return;
+    grid_->ClearCells();
+    if (folder().Exists(savedEntriesFile)) folder().Delete(savedEntriesFile);
+    services().messages.Show(this, {.title = tr("Help"),
+                                    .text = tr("All entries deleted. Nothing to show!  "),
+                                    .sign = Sign::Information});
+    Unload();
+}
+
+SavedEntry ShowMyDrawsW::EntryInGrid(int row) const {
+    SavedEntry entry;
+    for (int column = 0; column <= lastColumn; ++column) {
+        entry[static_cast<std::size_t>(column)] = FromQString(grid_->Cell(row, column));
+    }
+    return entry;
+}
+
+std::string ShowMyDrawsW::GridRecords() const {
+    std::string records;
+    for (int row = 1; !grid_->Cell(row, 0).isEmpty(); ++row) {
+        records += SavedEntryRecord(EntryInGrid(row));
+    }
+    return records;
+}
+
+void ShowMyDrawsW::Command13_Click() {
+    const std::string records = GridRecords();
+    if (!records.empty()) {
+        folder().Write(savedEntriesFile, records);
+    } else if (folder().Exists(savedEntriesFile)) {
+        folder().Delete(savedEntriesFile);
+    }
+    grid_->SetCurrentCell(1, 1);
+    MSFlexGrid1_Click();
+    // An empty table is not counted as saved.
+    if (!records.empty()) entriesChanged_ = 0;
+}
+
+void ShowMyDrawsW::Command1_Click() {
+    if (entriesChanged_ != 0) {
+        const Answer answer =
+            services().messages.Show(this, {.title = tr("Close window"),
+                                            .text = tr("Close without saving changes?    "),
+                                            .sign = Sign::Question,
+                                            .buttons = Buttons::YesNo});
+        if (answer == Answer::No) return;
+    }
+    Unload();
+}

@@ -1,0 +1,717 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "entries/ShowMyDrawsW.h"
+
+#include <QClipboard>
+#include <QDateEdit>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "core/failure.h"
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+const QColor white(255, 255, 255);
+const QColor yellow(255, 255, 0);
+const QColor lightRed(255, 192, 192);
+
+const Message lotteryIsFixed{.title = QStringLiteral("Error"),
+                             .text = QStringLiteral("Can't change lotteries!  "),
+                             .sign = Sign::Exclamation};
+
+const Message outOfRange{.title = QStringLiteral("Error"),
+                         .text = QStringLiteral("Number out of range!  "),
+                         .sign = Sign::Exclamation};
+
+const Message closing{.title = QStringLiteral("Close window"),
+                      .text = QStringLiteral("Close without saving changes?    "),
+                      .sign = Sign::Question,
+                      .buttons = Buttons::YesNo};
+
+const Message allDeleted{.title = QStringLiteral("Help"),
+                         .text = QStringLiteral("All entries deleted. Nothing to show!  "),
+                         .sign = Sign::Information};
+
+Message Confirming(const char* text) {
+    return {.title = QStringLiteral("Please confirm..."),
+            .text = QString::fromLatin1(text),
+            .sign = Sign::Exclamation,
+            .buttons = Buttons::OkCancel};
+}
+
+const Message deleteThis = Confirming("Delete this lottery entry?   ");
+const Message deleteOld =
+    Confirming("Delete all lottery entries    \r\nthat are older than today?    ");
+const Message deleteAll =
+    Confirming("Are you sure you want to delete    \r\nall of the lottery entries?    ");
+
+const char* const threeEntries =
+    "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt\r\n"
+    "01-Jun-2005,4,9,15,27,30,,,6,UK Thunderball,Ann,dbase101.txt\r\n"
+    "28 May 05,4,9,1,2,3,,,6,UK Thunderball,Bea,dbase101.txt\r\n";
+
+class ShowingEntries : public testing::Test {
+  protected:
+    ShowingEntries() {
+        AddUkLotto(test_.folder);
+        AddThunderball(test_.folder);
+        AddDailyPlay(test_.folder);
+    }
+
+    void Open(const std::string& entries = threeEntries) {
+        test_.folder.Write("MyLottery.txt", entries);
+        form_ = std::make_unique<ShowMyDrawsW>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+        QApplication::processEvents();
+    }
+
+    Grid& Entries() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+    QLineEdit& Item() { return *Find<QLineEdit>(*form_, "Text1"); }
+    std::string File() { return test_.folder.Read("MyLottery.txt"); }
+    void Run(const char* command) { Click(*form_, command); }
+
+    QString Report() { return Find<QPlainTextEdit>(*form_, "Text2")->toPlainText(); }
+
+    std::string Row(int row) {
+        QStringList fields;
+        for (int column = 0; column < 12; ++column) fields << Entries().Cell(row, column);
+        return fields.join(QLatin1Char(',')).toStdString();
+    }
+
+    /// Column 10, the players, of the first rows.
+    std::string Players() {
+        std::string players;
+        for (int row = 1; !Entries().Cell(row, 0).isEmpty(); ++row) {
+            players += Entries().Cell(row, 10).toStdString() + " ";
+        }
+        return players;
+    }
+
+    void ClickCell(int row, int column) {
+        Entries().ScrollToRow(row);
+        const QModelIndex index = Entries().model()->index(row - 1, column);
+        QTest::mouseClick(Entries().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          Entries().visualRect(index).center());
+    }
+
+    void Enter(int row, int column, const char* text) {
+        ClickCell(row, column);
+        Item().setText(QString::fromLatin1(text));
+        Run("Command10");
+    }
+
+    /// A closing that asks nothing: there are no changes.
+    void ExpectNoChanges() {
+        Run("Command1");
+        EXPECT_FALSE(form_->isVisible());
+    }
+
+    /// A closing that asks whether changes are to be lost.
+    void ExpectChanges() {
+        test_.messages.Expect(closing, Answer::Yes);
+        Run("Command1");
+        EXPECT_FALSE(form_->isVisible());
+    }
+
+    TestProgram test_;
+    std::unique_ptr<ShowMyDrawsW> form_;
+};
+
+std::string ManyEntries(int count) {
+    std::string bytes;
+    for (int entry = 0; entry < count; ++entry) {
+        bytes += "28 May 05," + std::to_string(entry % 49 + 1) +
+                 ",2,3,4,5,6,,,UK Lotto,Ann,dbase100.txt\r\n";
+    }
+    return bytes;
+}
+
+TEST_F(ShowingEntries, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Show/Check Lottery Entries"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label8", "Stored lottery entries"},
+        {"Label5", "   Your lottery entries"},
+        {"Label2", "Item:"},
+        {"Label1", "Date:"},
+        {"Label14", "Check report:"},
+        {"Label4", "Match main draw number:"},
+        {"Label6", "Match Bonus/Powerball:"},
+        {"Label10",
+         "To play the same lottery entry in future draw, select the row and update the draw date "
+         "below. Numbers and names can be changed too. Click any item and use the edit box below."},
+        {"Label9",
+         "The Check button tells you if you have won anything. Each lottery entry is checked with "
+         "the lottery draw result on the date specified. Any numbers matched are highlighted."}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    const QStringList headings = {
+        QStringLiteral("Date"),    QStringLiteral("Num1"), QStringLiteral("Num2"),
+        QStringLiteral("Num3"),    QStringLiteral("Num4"), QStringLiteral("Num5"),
+        QStringLiteral("Num6"),    QStringLiteral("Num7"), QStringLiteral("Pball"),
+        QStringLiteral("Lottery"), QStringLiteral("Name")};
+    for (int column = 0; column < headings.size(); ++column) {
+        EXPECT_EQ(Entries().Cell(0, column), headings[column]);
+    }
+}
+
+TEST_F(ShowingEntries, BearsTheCaptionsAndToolTipsOfItsCommands) {
+    Open();
+    const std::vector<std::array<const char*, 3>> commands = {
+        {"Command10", "Enter", " Change cell value "},
+        {"Command8", "This row", " Change date of current row "},
+        {"Command12", "All rows", " Change date of all rows "},
+        {"Command7", "This row", " Delete the current lottery entry "},
+        {"Command9", "All rows", " Delete all lottery entries "},
+        {"Command4", "Out of date", " Delete lottery entries older than today "},
+        {"Command11", "By date", " Sort lottery entries by date "},
+        {"Command3", "By name", " Sort lottery entries by player name "},
+        {"Command6", "By lottery", " Sort lottery entries by lottery name "},
+        {"Command2", "Check", " See if you have won! "},
+        {"Command13", "", " Save the lottery entries "},
+        {"Command5", "", " Print out lottery entries "},
+        {"Command1", "", " Close "}};
+    for (const auto& [name, caption, toolTip] : commands) {
+        const auto* button = Find<QPushButton>(*form_, name);
+        EXPECT_EQ(button->text(), QString::fromLatin1(caption)) << name;
+        EXPECT_EQ(button->toolTip(), QString::fromLatin1(toolTip)) << name;
+    }
+}
+
+TEST_F(ShowingEntries, ShowsTheFileAndStandsInItsFirstNumber) {
+    Open();
+    EXPECT_EQ(Row(1), "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt");
+    EXPECT_EQ(Row(3), "28 May 05,4,9,1,2,3,,,6,UK Thunderball,Bea,dbase101.txt");
+    EXPECT_EQ(Row(4), ",,,,,,,,,,,");
+    EXPECT_EQ(Entries().CellColour(2, 8), QColor(160, 0, 0));
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(Entries().currentIndex().column(), 1);
+    EXPECT_EQ(Item().text(), QStringLiteral("3"));
+    EXPECT_EQ(Item().selectedText(), QStringLiteral("3"));
+    EXPECT_EQ(form_->focusWidget(), &Item());
+    const auto* date = Find<QDateEdit>(*form_, "DTPicker1");
+    EXPECT_EQ(date->displayFormat(), QStringLiteral("dd MMM yy"));
+    EXPECT_EQ(date->date(), QDate(2005, 6, 1));
+}
+
+TEST_F(ShowingEntries, HalfARecordEndsTheRunAndTheFileStays) {
+    test_.folder.Write("MyLottery.txt", "28 May 05,3,17\r\n");
+    form_ = std::make_unique<ShowMyDrawsW>(test_.program, nullptr);
+    EXPECT_THROW(form_->Load(), Failure);
+    EXPECT_EQ(File(), "28 May 05,3,17\r\n");
+}
+
+TEST_F(ShowingEntries, ACommaInANameEndsTheRunAndTheFileStays) {
+    const std::string entry = "28 May 05,3,17,22,9,41,40,,,UK Lotto,Ann, Bob,dbase100.txt\r\n";
+    test_.folder.Write("MyLottery.txt", entry);
+    form_ = std::make_unique<ShowMyDrawsW>(test_.program, nullptr);
+    EXPECT_THROW(form_->Load(), Failure);
+    EXPECT_EQ(File(), entry);
+}
+
+TEST_F(ShowingEntries, OfSixHundredTheFirst499AreShownAndSaved) {
+    Open(ManyEntries(600));
+    EXPECT_FALSE(Entries().Cell(499, 0).isEmpty());
+    EXPECT_TRUE(Entries().Cell(500, 0).isEmpty());
+    Run("Command13");
+    EXPECT_EQ(File(), ManyEntries(499));
+}
+
+TEST_F(ShowingEntries, AClickOnACellFillsTheEditBox) {
+    Open();
+    ClickCell(2, 10);
+    EXPECT_EQ(Item().text(), QStringLiteral("Ann"));
+    EXPECT_EQ(Item().selectedText(), QStringLiteral("Ann"));
+    EXPECT_EQ(form_->focusWidget(), &Item());
+}
+
+TEST_F(ShowingEntries, ArrowKeysFillTheEditBoxAndEnterLeadsIntoIt) {
+    Open();
+    Entries().setFocus();
+    QTest::keyClick(&Entries(), Qt::Key_Down);
+    EXPECT_EQ(Item().text(), QStringLiteral("4"));
+    EXPECT_EQ(form_->focusWidget(), &Entries());
+    QTest::keyClick(&Entries(), Qt::Key_Return);
+    EXPECT_EQ(form_->focusWidget(), &Item());
+}
+
+TEST_F(ShowingEntries, EditsTheCurrentCell) {
+    Open();
+    Enter(1, 1, " 33 ");
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("33"));
+    EXPECT_EQ(File(), threeEntries);
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, EnterInTheBoxEditsTheCell) {
+    Open();
+    Item().setText(QStringLiteral("60"));
+    QTest::keyClick(&Item(), Qt::Key_Return);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("60"));
+    EXPECT_TRUE(form_->isVisible());
+}
+
+TEST_F(ShowingEntries, EditsOutliveASort) {
+    Open();
+    Enter(1, 10, "Zoe");
+    Run("Command3");
+    EXPECT_EQ(Players(), "Ann Bea Zoe ");
+}
+
+TEST_F(ShowingEntries, RefusesNumbersOutsideOneToSixtyInEveryLottery) {
+    Open();
+    for (const char* bad : {"0", "61", "x", "", "-1", "0.5", "60.5"}) {
+        test_.messages.Expect(outOfRange);
+        Enter(2, 8, bad);
+        EXPECT_EQ(Entries().Cell(2, 8), QStringLiteral("6")) << bad;
+    }
+    Enter(2, 8, "60");
+    EXPECT_EQ(Entries().Cell(2, 8), QStringLiteral("60"));
+}
+
+TEST_F(ShowingEntries, ARefusedNumberIsNoChange) {
+    Open();
+    test_.messages.Expect(outOfRange);
+    Enter(1, 1, "61");
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, StoresALeadingNumberAsTyped) {
+    Open();
+    Enter(1, 1, "7x");
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("7x"));
+}
+
+TEST_F(ShowingEntries, NeverChangesALottery) {
+    Open();
+    test_.messages.Expect(lotteryIsFixed);
+    Enter(1, 9, "Other");
+    EXPECT_EQ(Entries().Cell(1, 9), QStringLiteral("UK Lotto"));
+    test_.messages.Expect(lotteryIsFixed);
+    Enter(5, 9, "Other");
+    EXPECT_EQ(Entries().Cell(5, 9), QString());
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, LeavesAnEmptyCellEmpty) {
+    Open();
+    Enter(1, 7, "12");
+    Enter(4, 0, "28 May 05");
+    EXPECT_EQ(Row(1), "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt");
+    EXPECT_EQ(Row(4), ",,,,,,,,,,,");
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, TakesAnyTextForADateANameAndAFile) {
+    Open();
+    Enter(1, 0, "someday");
+    Enter(1, 10, "");
+    Enter(1, 11, "gone.txt");
+    EXPECT_EQ(Row(1), "someday,3,17,22,9,41,40,,,UK Lotto,,gone.txt");
+}
+
+TEST_F(ShowingEntries, ChangesTheDateOfTheCurrentRow) {
+    Open();
+    ClickCell(2, 4);
+    Find<DatePicker>(*form_, "DTPicker1")->setDate(QDate(2005, 6, 11));
+    Run("Command8");
+    EXPECT_EQ(Entries().Cell(1, 0), QStringLiteral("28-May-2005"));
+    EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("11-Jun-2005"));
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, ChangesNoTextThatIsNoDate) {
+    Open();
+    Enter(2, 0, "someday");
+    Run("Command8");
+    EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("someday"));
+    ClickCell(5, 0);
+    Run("Command8");
+    EXPECT_EQ(Row(5), ",,,,,,,,,,,");
+}
+
+TEST_F(ShowingEntries, ChangesTheDatesOfAllRowsAsFarAsDatesStandThere) {
+    Open();
+    Enter(3, 0, "someday");
+    Run("Command12");
+    EXPECT_EQ(Entries().Cell(1, 0), QStringLiteral("01-Jun-2005"));
+    EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("01-Jun-2005"));
+    EXPECT_EQ(Entries().Cell(3, 0), QStringLiteral("someday"));
+    Run("Command13");
+    EXPECT_EQ(File().substr(0, 12), "01-Jun-2005,");
+}
+
+TEST_F(ShowingEntries, SortsByDateNameAndLottery) {
+    Open();
+    Run("Command11");
+    EXPECT_EQ(Players(), "Ann Tom Bea ");
+    Run("Command3");
+    EXPECT_EQ(Players(), "Ann Bea Tom ");
+    Run("Command6");
+    EXPECT_EQ(Players(), "Tom Ann Bea ");
+    EXPECT_TRUE(Find<QPushButton>(*form_, "Command2")->isEnabled());
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, AnUnreadableDateEndsTheRunInTheSortByDate) {
+    Open();
+    Enter(3, 0, "someday");
+    Run("Command11");
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("MyLottery.txt, row 3 as shown"), std::string::npos) << *failure;
+    EXPECT_EQ(File(), threeEntries);
+}
+
+TEST_F(ShowingEntries, DeletesTheCurrentRowAfterMarkingIt) {
+    Open();
+    ClickCell(2, 4);
+    test_.messages.Expect(deleteThis, Answer::Cancel);
+    Run("Command7");
+    EXPECT_EQ(Players(), "Tom Ann Bea ");
+    EXPECT_TRUE(Entries().selectionModel()->isRowSelected(1));
+    test_.messages.Expect(deleteThis);
+    Run("Command7");
+    EXPECT_EQ(Players(), "Tom Bea ");
+    EXPECT_EQ(Row(3), ",,,,,,,,,,,");
+    EXPECT_EQ(File(), threeEntries);
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, ACancelledDeletionIsNoChange) {
+    Open();
+    test_.messages.Expect(deleteThis, Answer::Cancel);
+    Run("Command7");
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, DeletesEntriesOfBeforeYesterday) {
+    Open(
+        "30 May 05,1,2,3,4,5,6,,,UK Lotto,Old,dbase100.txt\r\n"
+        "31 May 05,1,2,3,4,5,6,,,UK Lotto,Yesterday,dbase100.txt\r\n"
+        "28-May-2005,1,2,3,4,5,6,,,UK Lotto,Older,dbase100.txt\r\n"
+        "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,Today,dbase100.txt\r\n");
+    test_.messages.Expect(deleteOld, Answer::Cancel);
+    Run("Command4");
+    EXPECT_EQ(Players(), "Old Yesterday Older Today ");
+    test_.messages.Expect(deleteOld);
+    Run("Command4");
+    EXPECT_EQ(Players(), "Yesterday Today ");
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, DeletesAllAtOnceAndClosesWithoutAQuestion) {
+    Open();
+    Enter(1, 1, "33");
+    test_.messages.Expect(deleteAll, Answer::Cancel);
+    Run("Command9");
+    EXPECT_EQ(File(), threeEntries);
+    test_.messages.Expect(deleteAll);
+    test_.messages.Expect(allDeleted);
+    Run("Command9");
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+    EXPECT_EQ(Entries().Cell(1, 0), QString());
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(ShowingEntries, DeletingAllIsContentWithAFileThatIsGone) {
+    Open();
+    test_.folder.Delete("MyLottery.txt");
+    test_.messages.Expect(deleteAll);
+    test_.messages.Expect(allDeleted);
+    Run("Command9");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(ShowingEntries, SavesCellsAsTheyStand) {
+    Open();
+    Enter(3, 1, "33");
+    Run("Command13");
+    EXPECT_EQ(File(),
+              "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt\r\n"
+              "01-Jun-2005,4,9,15,27,30,,,6,UK Thunderball,Ann,dbase101.txt\r\n"
+              "28 May 05,33,9,1,2,3,,,6,UK Thunderball,Bea,dbase101.txt\r\n");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(Item().text(), QStringLiteral("3"));
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, WhatIsSavedIsShownAgain) {
+    Open();
+    Enter(1, 10, "J\xF6rg");
+    Run("Command3");
+    Run("Command13");
+    const std::string saved = File();
+    Open(saved);
+    EXPECT_EQ(Entries().Cell(3, 10), QStringLiteral(u"J\u00F6rg"));
+    Run("Command13");
+    EXPECT_EQ(File(), saved);
+}
+
+TEST_F(ShowingEntries, SavingAnEmptyTableDeletesTheFileAndStillAsks) {
+    Open("28 May 05,1,2,3,4,5,6,,,UK Lotto,Ann,dbase100.txt\r\n");
+    test_.messages.Expect(deleteThis);
+    Run("Command7");
+    Run("Command13");
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+    Run("Command13");
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, ClosingAsksWhileChangesAreNotSaved) {
+    Open();
+    Enter(1, 1, "33");
+    test_.messages.Expect(closing, Answer::No);
+    Run("Command1");
+    EXPECT_TRUE(form_->isVisible());
+    test_.messages.Expect(closing, Answer::No);
+    QTest::keyClick(form_.get(), Qt::Key_Escape);
+    EXPECT_TRUE(form_->isVisible());
+    ExpectChanges();
+    EXPECT_EQ(File(), threeEntries);
+}
+
+TEST_F(ShowingEntries, ClosingAsksNothingWithoutChanges) {
+    Open();
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, TheColourKeyIsHiddenUntilACheck) {
+    Open();
+    for (const char* label : {"Label4", "Label3", "Label6", "Label7"}) {
+        EXPECT_FALSE(Find<QLabel>(*form_, label)->isVisible()) << label;
+    }
+    Run("Command2");
+    for (const char* label : {"Label4", "Label3", "Label6", "Label7"}) {
+        EXPECT_TRUE(Find<QLabel>(*form_, label)->isVisible()) << label;
+    }
+    EXPECT_EQ(Find<QLabel>(*form_, "Label3")->palette().color(QPalette::Window), yellow);
+    EXPECT_EQ(Find<QLabel>(*form_, "Label7")->palette().color(QPalette::Window), lightRed);
+}
+
+TEST_F(ShowingEntries, TheCheckPaintsWhatMatches) {
+    Open();
+    Run("Command2");
+    const std::vector<QColor> lotto = {yellow, yellow, yellow, lightRed, yellow, white};
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(Entries().CellBackground(1, column), lotto[static_cast<std::size_t>(column - 1)])
+            << column;
+    }
+    EXPECT_FALSE(Entries().CellBackground(1, 7).isValid());
+    EXPECT_EQ(Entries().CellBackground(1, 8), white);
+    // The draw of the second entry is still to come.
+    for (int column = 0; column < 12; ++column) {
+        EXPECT_FALSE(Entries().CellBackground(2, column).isValid()) << column;
+    }
+    EXPECT_EQ(Entries().CellBackground(3, 8), lightRed);
+    EXPECT_EQ(Entries().CellColour(3, 8), QColor(160, 0, 0));
+}
+
+TEST_F(ShowingEntries, TheReportCountsByMatchClass) {
+    Open();
+    Run("Command2");
+    EXPECT_EQ(Report(), QStringLiteral(" 7-match = 0 times\n 6-match = 0 times\n"
+                                       " 5-match = 0 times\n 4-match = 0 times\n"
+                                       " 3-match = 0 times\n 2-match = 0 times\n"
+                                       " 1-match = 0 times\n 0-match = 0 times\n"
+                                       "\n"
+                                       " 5-match+bonus/pball = 0 times\n"
+                                       " 4-match+bonus/pball = 1 times\n"
+                                       " 3-match+bonus/pball = 0 times\n"
+                                       " 2-match+bonus/pball = 1 times\n"
+                                       " 1-match+bonus/pball = 0 times\n"
+                                       " 0-match+bonus/pball = 0 times\n"));
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(form_->focusWidget(), &Item());
+}
+
+TEST_F(ShowingEntries, WithoutAnyResultTheReportIsAllZeros) {
+    Open("02 Jun 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
+    Run("Command2");
+    EXPECT_TRUE(Report().startsWith(QStringLiteral(" 7-match = 0 times\n")));
+    EXPECT_FALSE(Report().contains(QStringLiteral("= 1 times")));
+}
+
+TEST_F(ShowingEntries, TheCheckSeesWhatIsNotSavedAndChangesNothing) {
+    Open("28 May 05,1,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
+    Enter(1, 1, "3");
+    Run("Command13");
+    Run("Command2");
+    EXPECT_TRUE(Report().contains(QStringLiteral(" 6-match = 1 times\n")));
+    Enter(1, 1, "2");
+    Run("Command2");
+    EXPECT_TRUE(Report().contains(QStringLiteral(" 5-match = 1 times\n")));
+    EXPECT_EQ(Entries().CellBackground(1, 1), white);
+    EXPECT_EQ(File(), "28 May 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
+    ExpectChanges();
+}
+
+TEST_F(ShowingEntries, ACheckIsNoChange) {
+    Open();
+    Run("Command2");
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, ColoursStayAtTheirCellsThroughASort) {
+    Open();
+    Run("Command2");
+    Run("Command3");
+    EXPECT_EQ(Players(), "Ann Bea Tom ");
+    EXPECT_EQ(Entries().CellBackground(1, 1), yellow);
+    EXPECT_FALSE(Entries().CellBackground(2, 1).isValid());
+}
+
+TEST_F(ShowingEntries, CheckingTwiceCountsAfresh) {
+    Open();
+    Run("Command2");
+    const QString report = Report();
+    Run("Command2");
+    EXPECT_EQ(Report(), report);
+}
+
+TEST_F(ShowingEntries, TheCheckReadsTheDatabaseAgain) {
+    Open();
+    Run("Command2");
+    AddLottery(test_.folder, "dbase101.txt", "UK Thunderball", "5,34,1,14,0",
+               {"01 Jun 05,4,9,15,27,30,0,0,6"});
+    Run("Command2");
+    EXPECT_EQ(Entries().CellBackground(2, 1), yellow);
+}
+
+TEST_F(ShowingEntries, TheCheckOfAnEmptyTableReportsForTheLastLottery) {
+    Open("");
+    test_.state.Picks = 2;
+    Run("Command2");
+    EXPECT_TRUE(
+        Report().endsWith(QStringLiteral("\n\n 2-match+bonus/pball = 0 times\n"
+                                         " 1-match+bonus/pball = 0 times\n"
+                                         " 0-match+bonus/pball = 0 times\n")));
+}
+
+TEST_F(ShowingEntries, TheCommandsRestWhileTheCheckRuns) {
+    Open();
+    bool looked = false;
+    QTimer::singleShot(0, form_.get(), [&] {
+        looked = true;
+        for (const char* command :
+             {"Command1", "Command2", "Command3", "Command4", "Command6", "Command7", "Command8",
+              "Command9", "Command10", "Command11", "Command12", "Command13"}) {
+            EXPECT_FALSE(Find<QPushButton>(*form_, command)->isEnabled()) << command;
+        }
+        QTest::keyClick(form_.get(), Qt::Key_Escape);
+        EXPECT_TRUE(form_->isVisible());
+        EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+    });
+    Find<QPushButton>(*form_, "Command2")->click();
+    EXPECT_TRUE(looked);
+    EXPECT_TRUE(Find<QPushButton>(*form_, "Command2")->isEnabled());
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ShowingEntries, ALongCheckScrollsAlong) {
+    Open(ManyEntries(300));
+    test_.tick = 1;
+    int furthest = 0;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, form_.get(),
+                     [&] { furthest = std::max(furthest, Entries().rowAt(0) + 1); });
+    watch.start(0);
+    Find<QPushButton>(*form_, "Command2")->click();
+    EXPECT_GT(furthest, 200);
+    EXPECT_EQ(Entries().rowAt(0), 0);
+}
+
+TEST_F(ShowingEntries, AMissingDatabaseEndsTheRun) {
+    Open();
+    test_.folder.Delete("dbase101.txt");
+    Run("Command2");
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("dbase101.txt"), std::string::npos) << *failure;
+    EXPECT_EQ(File(), threeEntries);
+}
+
+TEST_F(ShowingEntries, AnUnreadableDateEndsTheRunInTheCheck) {
+    Open();
+    Enter(2, 0, "someday");
+    Run("Command2");
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(*failure,
+              "MyLottery.txt, row 2 as shown: expected a date such as \"19-Nov-1994\", but "
+              "\"someday\" stands there.");
+}
+
+TEST_F(ShowingEntries, AFullDiskEndsTheRunAtEveryByteAndTheFileStays) {
+    Open();
+    Enter(1, 1, "33");
+    const auto before = test_.folder.Snapshot();
+    const std::size_t size = before.at("MyLottery.txt").size();
+    for (std::size_t bytes = 0; bytes <= size; bytes += 7) {
+        test_.folder.FailAfterBytes(bytes);
+        form_->show();
+        Run("Command13");
+        EXPECT_TRUE(TakeFailure()) << bytes;
+        ASSERT_EQ(test_.folder.Snapshot(), before) << bytes;
+    }
+}
+
+TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereverItWrites) {
+    for (const char* command : {"Command13", "Command9"}) {
+        test_.folder.FailAtOperation({});
+        Open();
+        const auto before = test_.folder.Snapshot();
+        test_.folder.FailAtOperation(0);
+        if (std::string(command) == "Command9") test_.messages.Expect(deleteAll);
+        Run(command);
+        EXPECT_TRUE(TakeFailure()) << command;
+        EXPECT_EQ(test_.folder.Snapshot(), before) << command;
+    }
+}
+
+TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereAnEmptyTableIsSaved) {
+    Open("28 May 05,1,2,3,4,5,6,,,UK Lotto,Ann,dbase100.txt\r\n");
+    test_.messages.Expect(deleteThis);
+    Run("Command7");
+    const auto before = test_.folder.Snapshot();
+    test_.folder.FailAtOperation(0);
+    Run("Command13");
+    EXPECT_TRUE(TakeFailure());
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+TEST_F(ShowingEntries, CopiesMarkedRowsWithTheirHeadings) {
+    Open();
+    test_.messages.Expect(deleteThis, Answer::Cancel);
+    Run("Command7");
+    QTest::keyClick(&Entries(), Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().section(QLatin1Char('\n'), 1, 1),
+              QStringLiteral("28-May-2005\t3\t17\t22\t9\t41\t40\t\t\tUK Lotto\tTom\tdbase100.txt"));
+}
+
+TEST_F(ShowingEntries, DeletingTheRowBelowAllOthersEndsTheRun) {
+    Open();
+    Entries().SetCurrentCell(500, 1);
+    test_.messages.Expect(deleteThis);
+    Run("Command7");
+    EXPECT_TRUE(TakeFailure());
+}
+
+TEST_F(ShowingEntries, DeletingAnEmptyRowChangesNoEntry) {
+    Open();
+    Entries().SetCurrentCell(40, 1);
+    test_.messages.Expect(deleteThis);
+    Run("Command7");
+    EXPECT_EQ(Players(), "Tom Ann Bea ");
+}
+
+}  // namespace
