@@ -24,8 +24,9 @@ struct Services {
                                                       ///< program's folder, without waiting.
     std::function<void(QWidget*, Grid&)> saveLines;   ///< Saves the lines of a grid.
     std::function<void(QWidget*, Grid&)> printLines;  ///< Prints them; none: not available yet.
-    std::function<void(QWidget&)> printForm = {};     ///< Prints a form as it stands, landscape;
-                                                      ///< none: not available yet.
+    std::function<void(QWidget*, Grid&)> printDraws = {};  ///< Prints draws; none: not yet.
+    std::function<void(QWidget&)> printForm = {};  ///< Prints a form as it stands, landscape;
+                                                   ///< none: not available yet.
 };
 
 /// What every form is given.

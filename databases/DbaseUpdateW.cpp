@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/DbaseUpdateW.h"
+
+#include <QLabel>
+#include <algorithm>
+
+#include "core/draw_database.h"
+#include "core/failure.h"
+#include "databases/draw_records.h"
+#include "platform/DatePicker.h"
+#include "platform/Lists.h"
+#include "platform/LotteryList.h"
+#include "platform/NumberBox.h"
+#include "platform/ShowTip.h"
+#include "platform/Text.h"
+
+void DbaseUpdateW::Load() {
+    Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {label5_},
+                                                   .body = {label11_},
+                                                   .small = {label8_, label4_, label6_, label7_},
+                                                   .status = {label13_}});
+    dtPicker1_->SetValue(services().today());
+    ListDatabases(program(), *list1_);
+    ChooseFirstLottery(*list1_);
+}
+
+void DbaseUpdateW::List1_Click() {
+    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    const NewestDraw newest = ReadNewestDraw(state(), folder());
+    label13_->setText(tr("Last update was") % ToQString(state().Crlf) % ToQString(newest.date));
+    for (std::size_t i = 0; i < text1_.size(); ++i) {
+        text1_[i]->clear();
+        text1_[i]->setVisible(newest.filled[i]);
+    }
+    label7_->clear();
+    if (state().HasBonus > 0) label7_->setText(tr("Bonus"));
+    if (state().MaxPball > 0) label7_->setText(tr("Powerball"));
+}
+
+bool DbaseUpdateW::NumbersAreValid() const {
+    const auto picks = static_cast<std::size_t>(std::max(state().Picks, 0));
+    if (picks > text1_.size()) {
+        throw FailureInFile(state().DbaseFile, 3,
+                            "expected at most " + std::to_string(text1_.size()) +
+                                " numbers to pick, but " + std::to_string(picks) +
+                                " stands there.");
+    }
+    return std::all_of(text1_.begin(), text1_.begin() + static_cast<std::ptrdiff_t>(picks),
+                       [this](const NumberBox* box) {
+                           return box->Value() >= 1 && box->Value() <= state().MaxNum;
+                       });
+}
+
+void DbaseUpdateW::Command1_Click() {
+    if (!NumbersAreValid()) {
+        ShowTip(services(), this, 6);
+        return;
+    }
+    std::array<std::string, 8> fields;
+    for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = FromQString(text1_[i]->text());
+    const DrawRecord draw = MakeDrawRecord(dtPicker1_->Value(), fields);
+    InsertDraw(state(), folder(), draw, {.region = services().region, .today = services().today()});
+    for (NumberBox* box : text1_) box->clear();
+    label13_->setText(ToQString(DrawDate(draw.date)));
+}
+
+void DbaseUpdateW::Command2_Click() { services().openPage(ToQString(state().LotteryURL)); }

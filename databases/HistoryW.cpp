@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/HistoryW.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+#include <QTimer>
+#include <algorithm>
+
+#include "core/draw_database.h"
+#include "databases/draw_records.h"
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "platform/Hourglass.h"
+#include "platform/LinesGrid.h"
+#include "platform/Lists.h"
+#include "platform/LotteryList.h"
+#include "platform/MessageBoxes.h"
+#include "platform/NumberBox.h"
+#include "platform/Text.h"
+
+void HistoryW::Load() {
+    Skinning(QStringLiteral("SkinDatabases.jpg"),
+             {.title = {label2_}, .body = {label4_}, .small = {label3_}, .status = {}});
+    ListDatabases(program(), *list1_);
+    if (list1_->count() > 0) {
+        ChooseFirstLottery(*list1_);
+        return;
+    }
+    services().messages.Show(this, {.title = tr("Error!"),
+                                    .text = tr("No lotteries to display!    "),
+                                    .sign = Sign::Exclamation});
+    timer1_->start();
+}
+
+void HistoryW::Timer1_Timer() {
+    timer1_->stop();
+    if (list1_->count() == 0) Unload();
+}
+
+void HistoryW::List1_Click() {
+    const Hourglass hourglass;
+    LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    label1_->setText(ToQString(state().LotteryName));
+    grid_->ClearCells();
+    ShowHeadings();
+    ShowDraws();
+    ShowBoxes();
+    sortedView_ = 0;
+    option1_->setChecked(true);
+    SelectRow(1);
+    grid_->ScrollToTop();
+    frame1_->setEnabled(true);
+}
+
+bool HistoryW::HasExtraColumn() const { return state().HasBonus == 1 || state().MaxPball > 0; }
+
+// A column is headed by the newest draw, whatever older draws hold in it.
+void HistoryW::ShowHeadings() {
+    grid_->SetCell(0, 0, tr("Date"));
+    for (int column = 1; column <= 7; ++column) {
+        const bool filled = state().Draws(1, column) > 0;
+        grid_->SetCell(0, column, filled ? tr("Num%1").arg(column) : QString());
+    }
+    grid_->SetCellColour(0, 8, ExtraBallColour());
+    grid_->SetCell(0, 8, QString());
+    if (state().HasBonus == 1) grid_->SetCell(0, 8, tr("Bonus"));
+    if (state().MaxPball > 0) grid_->SetCell(0, 8, tr("Pball"));
+}
+
+void HistoryW::ShowDraws() {
+    const bool extra = HasExtraColumn();
+    const State& shown = state();
+    int row = 0;
+    for (const std::string& date : StoredDates(shown, folder())) {
+        grid_->SetCell(++row, 0, ToQString(date));
+        for (int column = 1; column <= (extra ? 8 : 7); ++column) {
+            const int number = shown.Draws(row, column);
+            if (number > 0) grid_->SetCell(row, column, QString::number(number));
+        }
+        if (extra) grid_->SetCellColour(row, 8, ExtraBallColour());
+    }
+}
+
+void HistoryW::ShowBoxes() {
+    for (int index = 1; index <= 8; ++index) {
+        const bool filled = state().Draws(1, index) >= 1;
+        Text1(index)->setVisible(filled);
+        if (!filled) Text1(index)->clear();
+    }
+}
+
+void HistoryW::SelectRow(int row) {
+    grid_->SetCurrentCell(row, 0);
+    MSFlexGrid1_RowColChange();
+}
+
+void HistoryW::MSFlexGrid1_RowColChange() {
+    int row = grid_->CurrentRow();
+    while (grid_->Cell(row, 0).isEmpty()) --row;
+    const std::string where = state().DbaseFile + ", line " + std::to_string(std::max(row, 1) + 3);
+    dtPicker1_->SetValue(DateFromText(FromQString(grid_->Cell(row, 0)), services().region,
+                                      services().today(), where));
+    for (int index = 1; index <= 8; ++index) Text1(index)->setText(grid_->Cell(row, index));
+    grid_->ScrollToRow(row);
+    grid_->MarkRow(row);
+    // The last column is not shown, and the arrow keys start from a cell that is.
+    grid_->selectionModel()->setCurrentIndex(grid_->model()->index(row - 1, 8),
+                                             QItemSelectionModel::NoUpdate);
+}
+
+void HistoryW::Option2_Click() {
+    if (sortedView_ == -1) return;
+    const Hourglass hourglass;
+    frame1_->setEnabled(false);
+    const State& shown = state();
+    std::vector<int> numbers;
+    for (int row = 1; shown.Draws(row, 1) != 0; ++row) {
+        numbers.clear();
+        for (int column = 1; column <= shown.Picks; ++column) {
+            numbers.push_back(shown.Draws(row, column));
+        }
+        std::sort(numbers.begin(), numbers.end());
+        int column = 0;
+        for (const int number : numbers) grid_->SetCell(row, ++column, QString::number(number));
+    }
+    sortedView_ = -1;
+}
+
+void HistoryW::Option1_Click() {
+    if (sortedView_ == 0) return;
+    const Hourglass hourglass;
+    const State& shown = state();
+    for (int row = 1; shown.Draws(row, 1) != 0; ++row) {
+        for (int column = 1; column <= 8; ++column) {
+            const int number = shown.Draws(row, column);
+            if (number > 0) grid_->SetCell(row, column, QString::number(number));
+        }
+    }
+    SelectRow(1);
+    sortedView_ = 0;
+    frame1_->setEnabled(true);
+}
+
+void HistoryW::Command2_Click() {
+    const int row = grid_->CurrentRow();
+    grid_->SetCurrentCell(2, 0);
+    if (grid_->Cell(2, 0).isEmpty()) {
+        services().messages.Show(this, {.title = tr("Warning"),
+                                        .text = tr("Can't delete last line!    "),
+                                        .sign = Sign::Exclamation});
+        MSFlexGrid1_RowColChange();
+        return;
+    }
+    const Hourglass hourglass;
+    DeleteDraw(state(), folder(), row);
+    List1_Click();
+}
+
+void HistoryW::Command3_Click() {
+    const Hourglass hourglass;
+    std::array<std::string, 8> fields;
+    for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = FromQString(text1_[i]->text());
+    UpdateDraw(state(), folder(), grid_->CurrentRow(), MakeDrawRecord(dtPicker1_->Value(), fields),
+               {.region = services().region, .today = services().today()});
+    List1_Click();
+}
+
+void HistoryW::Command6_Click() {
+    services().printDraws(this, *grid_);
+    SelectRow(1);
+}

@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The controls of HistoryW and where they stand.
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include "databases/HistoryW.h"
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "platform/NumberBox.h"
+#include "platform/Widgets.h"
+
+namespace {
+
+constexpr int rowCount = 3000;
+constexpr int columnCount = 10;
+constexpr int closingDelay = 1000;  // milliseconds
+
+}  // namespace
+
+HistoryW::HistoryW(Program& program, QWidget* parent)
+    : Form(program, QStringLiteral("HistoryW"), tr("Lottery Draws History"), parent) {
+    MakeControls();
+    MakeGrid();
+    MakeEditPanel();
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(BuildHistory());
+    columns->addSpacing(16);
+    columns->addLayout(BuildChoices(), 1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 12, 16, 16);
+    layout->setSpacing(8);
+    layout->addWidget(label2_);
+    layout->addWidget(label4_);
+    layout->addSpacing(8);
+    layout->addLayout(columns, 1);
+    layout->addSpacing(8);
+    layout->addLayout(BuildActions());
+    TabInReadingOrder();
+    Connect();
+    SetCloseButton(command1_);
+    resize(sizeHint().width(), 660);
+}
+
+void HistoryW::MakeControls() {
+    label2_ = MakeTitle(QStringLiteral("Label2"), tr("Lottery draw results"));
+    label4_ = MakeBody(QStringLiteral("Label4"),
+                       tr("Select a lottery in the list on the right to view all the draw results. "
+                          "The numbers can be viewed in the order they were drawn or in ascending "
+                          "order."));
+    label1_ = MakeLabel(QStringLiteral("Label1"), QString());
+    QFont bold = label1_->font();
+    bold.setBold(true);
+    label1_->setFont(bold);
+    label3_ = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
+    list1_ = Named(new ListBox, QStringLiteral("List1"));
+    list1_->setAccessibleName(label3_->text());
+    label3_->setBuddy(list1_);
+    option1_ = Named(new QRadioButton(tr("Draw order")), QStringLiteral("Option1"));
+    option2_ = Named(new QRadioButton(tr("Ascending order")), QStringLiteral("Option2"));
+    option1_->setChecked(true);
+    timer1_ = Named(new QTimer(this), QStringLiteral("Timer1"));
+    timer1_->setInterval(closingDelay);
+    command6_ = MakeButton(QStringLiteral("Command6"), tr(" Print "));
+    command6_->setEnabled(services().printDraws != nullptr);
+    command1_ = MakeButton(QStringLiteral("Command1"), tr(" Close "));
+}
+
+void HistoryW::MakeGrid() {
+    grid_ = Named(new Grid(rowCount, columnCount), QStringLiteral("MSFlexGrid1"));
+    grid_->setAccessibleName(tr("Draws"));
+    const QFontMetrics metrics = grid_->fontMetrics();
+    const int number = metrics.horizontalAdvance(QStringLiteral("000000000"));
+    const int date = metrics.horizontalAdvance(QStringLiteral("00000000000000"));
+    // The last column has neither texts nor a heading and is not shown.
+    grid_->SetColumnWidths(
+        {date, number, number, number, number, number, number, number, number, 0});
+}
+
+void HistoryW::MakeEditPanel() {
+    frame1_ = Named(new QGroupBox, QStringLiteral("Frame1"));
+    frame1_->setFlat(true);
+    dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
+                       QStringLiteral("DTPicker1"));
+    dtPicker1_->setAccessibleName(tr("Date of the draw"));
+    dtPicker1_->setFixedWidth(grid_->columnWidth(0));
+    auto* boxes = new QHBoxLayout;
+    boxes->setSpacing(0);
+    boxes->addSpacing(grid_->frameWidth());
+    boxes->addWidget(dtPicker1_);
+    for (int index = 1; index <= 8; ++index) {
+        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), index));
+        box->setAccessibleName(index == 8 ? tr("Bonus or extra ball") : tr("Number %1").arg(index));
+        box->setAlignment(Qt::AlignCenter);
+        // A hidden box keeps its place, so that each stands under its column.
+        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        policy.setRetainSizeWhenHidden(true);
+        box->setSizePolicy(policy);
+        box->setFixedWidth(grid_->columnWidth(index));
+        text1_[static_cast<std::size_t>(index - 1)] = box;
+        boxes->addWidget(box);
+    }
+    boxes->addStretch(1);
+    command3_ = MakeButton(QStringLiteral("Command3"), tr("Update Draw"));
+    command3_->setToolTip(tr(" Update selected draw "));
+    command2_ = MakeButton(QStringLiteral("Command2"), tr("Delete Draw"));
+    command2_->setToolTip(tr(" Delete selected draw "));
+    auto* commands = new QHBoxLayout;
+    commands->addWidget(command3_);
+    commands->addWidget(command2_);
+    commands->addStretch(1);
+    // No margin of the panel may push the boxes away from their columns.
+    frame1_->setContentsMargins(0, frame1_->contentsMargins().top(), 0, 0);
+    auto* panel = new QVBoxLayout(frame1_);
+    panel->setContentsMargins(0, 8, 0, 0);
+    panel->addLayout(boxes);
+    panel->addLayout(commands);
+}
+
+QLayout* HistoryW::BuildHistory() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(label1_);
+    column->addWidget(grid_, 1);
+    column->addWidget(frame1_);
+    return column;
+}
+
+QLayout* HistoryW::BuildChoices() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(label3_);
+    column->addWidget(list1_, 1);
+    column->addSpacing(8);
+    column->addWidget(option1_);
+    column->addWidget(option2_);
+    return column;
+}
+
+QLayout* HistoryW::BuildActions() {
+    auto* row = new QHBoxLayout;
+    row->addWidget(command6_);
+    row->addStretch(1);
+    row->addWidget(command1_);
+    return row;
+}
+
+void HistoryW::Connect() {
+    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
+    // Enter updates only while the user edits: whoever just looks at draws changes none.
+    for (NumberBox* box : text1_) {
+        connect(box, &QLineEdit::returnPressed, command3_, &QPushButton::click);
+    }
+    connect(grid_, &Grid::cellClicked, this, [this] { MSFlexGrid1_RowColChange(); });
+    connect(option1_, &QRadioButton::toggled, this, [this](bool on) {
+        if (on) Option1_Click();
+    });
+    connect(option2_, &QRadioButton::toggled, this, [this](bool on) {
+        if (on) Option2_Click();
+    });
+    connect(timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    connect(command1_, &QPushButton::clicked, this, [this] { Unload(); });
+    connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
+    connect(command3_, &QPushButton::clicked, this, [this] { Command3_Click(); });
+    connect(command6_, &QPushButton::clicked, this, [this] { Command6_Click(); });
+}

@@ -1,0 +1,315 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/CreateDbase.h"
+
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include "core/failure.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+const Message incorrectDraw{.title = QStringLiteral("Oops!"),
+                            .text = QStringLiteral("Incorrect draw result...    "),
+                            .sign = Sign::Exclamation};
+
+const Message closeAndDiscard{.title = QStringLiteral("Are you sure?"),
+                              .text = QStringLiteral("Close and discard data?    "),
+                              .sign = Sign::Question,
+                              .buttons = Buttons::YesNo};
+
+class CreatingADatabase : public testing::Test {
+  protected:
+    CreatingADatabase() {
+        test_.folder.Write("LotteryTemplates.txt",
+                           "UK Lotto,6,49,0,0,http://one.example/a,b\r\n"
+                           "UK Thunderball,5,34,1,14,http://two.example\r\n"
+                           "UK Daily Play,7,27,0,0,\r\n");
+    }
+
+    void Open() {
+        form_ = std::make_unique<CreateDbase>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+    }
+
+    QString Text(const char* label) { return Find<QLabel>(*form_, label)->text(); }
+    QLineEdit& Line(const char* name) { return *Find<QLineEdit>(*form_, name); }
+    QScrollBar& Bar(const char* name) { return *Find<QScrollBar>(*form_, name); }
+    QRadioButton& Type(int index) {
+        return *Find<QRadioButton>(*form_, index == 0 ? "Option1(0)" : "Option1(1)");
+    }
+    QLineEdit& Box(int index) { return Line(("Text1(" + std::to_string(index) + ")").c_str()); }
+    bool Hidden(const char* name) { return Find<QWidget>(*form_, name)->isHidden(); }
+    void ChooseTemplate(int row) { Find<ListBox>(*form_, "List1")->SetIndex(row); }
+
+    int VisibleBoxes() {
+        int count = 0;
+        while (count < 7 && !Box(count).isHidden()) ++count;
+        for (int index = count; index < 7; ++index) EXPECT_TRUE(Box(index).isHidden()) << index;
+        return count;
+    }
+
+    void EnterDraw(const std::vector<int>& numbers) {
+        int index = 0;
+        for (const int number : numbers) Box(index++).setText(QString::number(number));
+    }
+
+    std::string Created() { return test_.folder.Read("dbase1.txt"); }
+
+    TestProgram test_;
+    std::unique_ptr<CreateDbase> form_;
+};
+
+TEST_F(CreatingADatabase, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Create Lottery Database"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label9", "Pick:"},
+        {"Label10", "From:"},
+        {"Label11", "Pick 1 from:"},
+        {"Label1", "Lottery name:"},
+        {"Label4", "Web site:"},
+        {"Label5", "Select draw date:"},
+        {"Label7", "Enter draw result:"},
+        {"Label3", "Lottery templates:"},
+        {"Label12", "Bonus"},
+        {"Label15", "Existing lottery databases:"},
+        {"Label17", "Create lottery database"},
+        {"Label16",
+         "Create a database to store lottery draw results, then you can analyse the data for "
+         "trends. You must enter one draw result to start off the database."},
+        {"Label18", "Pick a template or use the controls to define the type of lottery..."},
+        {"Label13", "Enter a lottery draw result to start off the database..."}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Text(name), QString::fromLatin1(text)) << name;
+    }
+    EXPECT_EQ(Type(0).text(), QStringLiteral("Standard lottery - pick x from y"));
+    EXPECT_EQ(Type(0).toolTip(), QStringLiteral(" Eg. pick 6 from 49 "));
+    EXPECT_EQ(Type(1).text(),
+              QStringLiteral("Powerball type - pick x from y, plus one extra from z"));
+    EXPECT_EQ(Type(1).toolTip(), QStringLiteral(" Eg. pick 5 from 34, then 1 from 14 "));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Save "));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->toolTip(),
+              QStringLiteral(" Start Internet Explorer and go to site "));
+    EXPECT_EQ(Find<QPushButton>(*form_, "CancelButton")->text(), QStringLiteral(" Cancel "));
+}
+
+TEST_F(CreatingADatabase, OpensOnSixOfFortyNine) {
+    Open();
+    EXPECT_EQ(Text("Label2"), QStringLiteral("6"));
+    EXPECT_EQ(Text("Label6"), QStringLiteral("49"));
+    EXPECT_EQ(Text("Label8"), QStringLiteral("14"));
+    EXPECT_EQ(Bar("HScroll1").minimum(), 4);
+    EXPECT_EQ(Bar("HScroll1").maximum(), 7);
+    EXPECT_EQ(Bar("HScroll2").minimum(), 10);
+    EXPECT_EQ(Bar("HScroll2").maximum(), 60);
+    EXPECT_EQ(Bar("HScroll3").minimum(), 2);
+    EXPECT_EQ(Bar("HScroll3").maximum(), 60);
+    EXPECT_TRUE(Type(0).isChecked());
+    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_TRUE(Hidden(name)) << name;
+    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://"));
+    EXPECT_EQ(Line("Text3").text(), QString());
+    EXPECT_EQ(VisibleBoxes(), 6);
+    const auto* date = Find<QDateEdit>(*form_, "DTPicker1");
+    EXPECT_EQ(date->date(), QDate(2005, 6, 1));
+    EXPECT_EQ(date->displayFormat(), QStringLiteral("ddd d MMM yyyy"));
+}
+
+TEST_F(CreatingADatabase, ListsTemplatesAndExistingDatabases) {
+    AddUkLotto(test_.folder);
+    Open();
+    const auto* templates = Find<ListBox>(*form_, "List1");
+    ASSERT_EQ(templates->count(), 3);
+    EXPECT_EQ(templates->item(2)->text(), QStringLiteral("UK Daily Play"));
+    EXPECT_EQ(templates->Index(), -1);
+    const auto* databases = Find<ListBox>(*form_, "List2");
+    ASSERT_EQ(databases->count(), 1);
+    EXPECT_EQ(databases->item(0)->text(), QStringLiteral("UK Lotto"));
+}
+
+TEST_F(CreatingADatabase, MovingABarShowsItsValueAndTheNumberOfNumbers) {
+    Open();
+    Bar("HScroll1").setValue(5);
+    EXPECT_EQ(Text("Label2"), QStringLiteral("5"));
+    EXPECT_EQ(Text("Label7"), QStringLiteral("Enter 5 numbers"));
+    EXPECT_EQ(VisibleBoxes(), 5);
+    Bar("HScroll2").setValue(34);
+    EXPECT_EQ(Text("Label6"), QStringLiteral("34"));
+    Bar("HScroll3").setValue(20);
+    EXPECT_EQ(Text("Label8"), QStringLiteral("20"));
+    EXPECT_EQ(Text("Label7"), QStringLiteral("Enter 5 numbers"));
+    Bar("HScroll1").setValue(7);
+    EXPECT_EQ(VisibleBoxes(), 7);
+}
+
+TEST_F(CreatingADatabase, ThePowerballTypeOffersTheExtraBall) {
+    Open();
+    Type(1).click();
+    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_FALSE(Hidden(name)) << name;
+    EXPECT_EQ(Text("Label12"), QStringLiteral("Powerball"));
+    Type(0).click();
+    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_TRUE(Hidden(name)) << name;
+    EXPECT_EQ(Text("Label12"), QStringLiteral("Bonus"));
+}
+
+TEST_F(CreatingADatabase, ATemplateFillsTheControlsAndEmptiesTheBoxes) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    Box(7).setText(QStringLiteral("9"));
+    ChooseTemplate(1);
+    EXPECT_EQ(Line("Text3").text(), QStringLiteral("UK Thunderball"));
+    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://two.example"));
+    EXPECT_EQ(Bar("HScroll1").value(), 5);
+    EXPECT_EQ(Bar("HScroll2").value(), 34);
+    EXPECT_EQ(Bar("HScroll3").value(), 14);
+    EXPECT_EQ(Text("Label2"), QStringLiteral("5"));
+    EXPECT_EQ(Text("Label6"), QStringLiteral("34"));
+    EXPECT_EQ(Text("Label8"), QStringLiteral("14"));
+    EXPECT_TRUE(Type(1).isChecked());
+    for (int index = 0; index <= 7; ++index) EXPECT_EQ(Box(index).text(), QString()) << index;
+}
+
+TEST_F(CreatingADatabase, ATemplateWithoutExtraBallSelectsTheStandardType) {
+    Open();
+    Type(1).click();
+    ChooseTemplate(2);
+    EXPECT_TRUE(Type(0).isChecked());
+    EXPECT_TRUE(Hidden("HScroll3"));
+    EXPECT_EQ(Text("Label12"), QStringLiteral("Bonus"));
+    EXPECT_EQ(VisibleBoxes(), 7);
+}
+
+TEST_F(CreatingADatabase, TheWebAddressOfATemplateMayHoldCommas) {
+    Open();
+    ChooseTemplate(0);
+    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://one.example/a,b"));
+    Click(*form_, "Command2");
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("http://one.example/a,b")});
+}
+
+TEST_F(CreatingADatabase, ATemplateBeyondTheBarsEndsTheRun) {
+    test_.folder.Write("LotteryTemplates.txt", "One,6,49,0,0,\r\nHuge,6,90,0,0,\r\n");
+    Open();
+    auto* templates = Find<ListBox>(*form_, "List1");
+    QTest::mouseClick(templates->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      templates->visualItemRect(templates->item(1)).center());
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(*failure,
+              "LotteryTemplates.txt, line 2: expected a number from 10 to 60 in field 3, but "
+              "\"90\" stands there.");
+}
+
+TEST_F(CreatingADatabase, BoxesDropEveryKeyButDigitsAndBackspace) {
+    Open();
+    QTest::keyClicks(&Box(0), QStringLiteral("1a-4.x,"));
+    QTest::keyClick(&Box(0), Qt::Key_Backspace);
+    EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
+}
+
+TEST_F(CreatingADatabase, SavesAStandardLotteryWithoutBonusAndCloses) {
+    Open();
+    Line("Text3").setText(QStringLiteral(" My lotto "));
+    EnterDraw({1, 2, 3, 4, 5, 49});
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(), " My lotto \r\nhttp://\r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,49,,\r\n");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(test_.messages.Shown(), 0);
+}
+
+TEST_F(CreatingADatabase, ANumberInTheBonusBoxMakesABonusLottery) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    Box(7).setText(QStringLiteral("60"));
+    Find<QDateEdit>(*form_, "DTPicker1")->setDate(QDate(1994, 11, 19));
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(), "\r\nhttp://\r\n6,49,1,0,1\r\n19 Nov 94,1,2,3,4,5,6,,60\r\n");
+}
+
+TEST_F(CreatingADatabase, APowerballTypeHasNoBonusWhateverItsBoxHolds) {
+    Open();
+    ChooseTemplate(1);
+    EnterDraw({1, 2, 3, 4, 5});
+    Box(7).setText(QStringLiteral("9"));
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(),
+              "UK Thunderball\r\nhttp://two.example\r\n5,34,1,14,0\r\n01 Jun 05,1,2,3,4,5,,,9\r\n");
+}
+
+TEST_F(CreatingADatabase, AHiddenBoxKeepsItsTextButIsWrittenEmpty) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    Bar("HScroll1").setValue(4);
+    EXPECT_EQ(Box(5).text(), QStringLiteral("6"));
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(), "\r\nhttp://\r\n4,49,1,0,0\r\n01 Jun 05,1,2,3,4,,,,\r\n");
+}
+
+TEST_F(CreatingADatabase, RefusesANumberOutsideTheFieldAndStaysOpen) {
+    Open();
+    const auto before = test_.folder.Snapshot();
+    for (const char* bad : {"0", "50", ""}) {
+        EnterDraw({1, 2, 3, 4, 5, 6});
+        Box(5).setText(QString::fromLatin1(bad));
+        test_.messages.Expect(incorrectDraw);
+        Click(*form_, "Command1");
+        EXPECT_TRUE(form_->isVisible());
+        EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
+        EXPECT_EQ(test_.folder.Snapshot(), before);
+    }
+}
+
+TEST_F(CreatingADatabase, TakesRepeats) {
+    Open();
+    EnterDraw({7, 7, 7, 7, 7, 7});
+    Click(*form_, "Command1");
+    EXPECT_TRUE(test_.folder.Exists("dbase1.txt"));
+}
+
+TEST_F(CreatingADatabase, TakesTheFirstFreeNumber) {
+    AddLottery(test_.folder, "dbase1.txt", "One", "6,49,0,0,0");
+    AddLottery(test_.folder, "dbase3.txt", "Three", "6,49,0,0,0");
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    Click(*form_, "Command1");
+    EXPECT_TRUE(test_.folder.Exists("dbase2.txt"));
+}
+
+TEST_F(CreatingADatabase, EveryWayToCloseAsksFirst) {
+    Open();
+    for (int way = 0; way < 3; ++way) {
+        test_.messages.Expect(closeAndDiscard, Answer::No);
+        if (way == 0) Click(*form_, "CancelButton");
+        if (way == 1) QTest::keyClick(form_.get(), Qt::Key_Escape);
+        if (way == 2) form_->close();
+        EXPECT_TRUE(form_->isVisible());
+    }
+    test_.messages.Expect(closeAndDiscard, Answer::Yes);
+    Click(*form_, "CancelButton");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_FALSE(test_.folder.Exists("dbase1.txt"));
+}
+
+TEST_F(CreatingADatabase, WithoutTheTemplatesEndsTheRun) {
+    test_.folder.Delete("LotteryTemplates.txt");
+    EXPECT_THROW(Open(), Failure);
+}
+
+TEST_F(CreatingADatabase, AFullDiskEndsTheRunAndWritesNothing) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    const auto before = test_.folder.Snapshot();
+    test_.folder.FailAfterBytes(20);
+    Click(*form_, "Command1");
+    EXPECT_TRUE(TakeFailure());
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+}  // namespace

@@ -1,0 +1,455 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/HistoryW.h"
+
+#include <QDateEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <algorithm>
+
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/real_histories.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+const Message cannotDeleteLastLine{.title = QStringLiteral("Warning"),
+                                   .text = QStringLiteral("Can't delete last line!    "),
+                                   .sign = Sign::Exclamation};
+
+class DrawsHistory : public testing::Test {
+  protected:
+    DrawsHistory() {
+        AddLottery(test_.folder, "dbase100.txt", "UK Lotto", "6,49,0,0,1",
+                   {"28 May 05,34,17,22,3,48,41,0,9", "25-May-2005,46,2,13,24,35,1,0,7",
+                    "21 May 05,8,9,10,11,12,13,0,14"});
+        AddThunderball(test_.folder);
+    }
+
+    void Open() {
+        form_ = std::make_unique<HistoryW>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+        QApplication::processEvents();
+    }
+
+    void OpenOn(const std::string& rules, const std::vector<std::string>& draws) {
+        AddLottery(test_.folder, "dbase1.txt", "Mine", rules, draws);
+        Open();
+    }
+
+    Grid& Draws() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+    bool CanEdit() { return Find<QGroupBox>(*form_, "Frame1")->isEnabled(); }
+    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+    void ShowAscending() { Find<QRadioButton>(*form_, "Option2")->click(); }
+    void ShowInDrawOrder() { Find<QRadioButton>(*form_, "Option1")->click(); }
+
+    QLineEdit& Box(int index) {
+        return *Find<QLineEdit>(*form_, ("Text1(" + std::to_string(index) + ")").c_str());
+    }
+
+    QDate PickedDate() { return Find<QDateEdit>(*form_, "DTPicker1")->date(); }
+
+    std::string Row(int row) {
+        QStringList fields;
+        for (int column = 0; column < 9; ++column) fields << Draws().Cell(row, column);
+        return fields.join(QLatin1Char(',')).toStdString();
+    }
+
+    void ClickRow(int row) {
+        Draws().ScrollToRow(row);
+        const QModelIndex index = Draws().model()->index(row - 1, 3);
+        QTest::mouseClick(Draws().viewport(), Qt::LeftButton, Qt::NoModifier,
+                          Draws().visualRect(index).center());
+    }
+
+    void ExpectMarked(int row) {
+        EXPECT_EQ(Draws().CurrentRow(), row);
+        const auto rows = Draws().selectionModel()->selectedRows();
+        ASSERT_EQ(rows.size(), 1);
+        EXPECT_EQ(rows.first().row(), row - 1);
+    }
+
+    void Update(const QDate& date) {
+        Find<QDateEdit>(*form_, "DTPicker1")->setDate(date);
+        Click(*form_, "Command3");
+    }
+
+    std::string Database(const char* file = "dbase100.txt") { return test_.folder.Read(file); }
+
+    TestProgram test_;
+    std::unique_ptr<HistoryW> form_;
+};
+
+TEST_F(DrawsHistory, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Lottery Draws History"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label2", "Lottery draw results"},
+        {"Label3", "Select a lottery:"},
+        {"Label1", "UK Lotto"},
+        {"Label4",
+         "Select a lottery in the list on the right to view all the draw results. The numbers can "
+         "be viewed in the order they were drawn or in ascending order."}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    const std::vector<std::pair<const char*, const char*>> captions = {
+        {"Option1", "Draw order"},   {"Option2", "Ascending order"}, {"Command3", "Update Draw"},
+        {"Command2", "Delete Draw"}, {"Command6", " Print "},        {"Command1", " Close "}};
+    for (const auto& [name, text] : captions) {
+        EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+    EXPECT_EQ(Find<QWidget>(*form_, "Command3")->toolTip(),
+              QStringLiteral(" Update selected draw "));
+    EXPECT_EQ(Find<QWidget>(*form_, "Command2")->toolTip(),
+              QStringLiteral(" Delete selected draw "));
+    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->displayFormat(), QStringLiteral("dd MMM yy"));
+    EXPECT_EQ(Draws().RowCount(), 3000);
+    EXPECT_EQ(Draws().ColumnCount(), 10);
+}
+
+TEST_F(DrawsHistory, ShowsTheFirstLotteryInDrawOrder) {
+    Open();
+    EXPECT_EQ(Row(0), "Date,Num1,Num2,Num3,Num4,Num5,Num6,,Bonus");
+    EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,48,41,,9");
+    EXPECT_EQ(Row(2), "25-May-2005,46,2,13,24,35,1,,7");
+    EXPECT_EQ(Row(4), ",,,,,,,,");
+    EXPECT_EQ(Draws().CellColour(0, 8), QColor(160, 0, 0));
+    EXPECT_EQ(Draws().CellColour(3, 8), QColor(160, 0, 0));
+    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1")->isChecked());
+    EXPECT_TRUE(CanEdit());
+    ExpectMarked(1);
+}
+
+TEST_F(DrawsHistory, ChoosingAnotherLotteryShowsItsDrawsAlone) {
+    Open();
+    ChooseLottery(1);
+    EXPECT_EQ(Find<QLabel>(*form_, "Label1")->text(), QStringLiteral("UK Thunderball"));
+    EXPECT_EQ(Row(0), "Date,Num1,Num2,Num3,Num4,Num5,,,Pball");
+    EXPECT_EQ(Row(1), "28 May 05,4,9,15,27,30,,,6");
+    EXPECT_EQ(Row(2), ",,,,,,,,");
+    EXPECT_FALSE(Draws().CellColour(2, 8).isValid());
+    EXPECT_EQ(test_.state.Draws(1, 1), 4);
+}
+
+TEST_F(DrawsHistory, HeadsTheLastColumnPballWhereThereIsABonusBallToo) {
+    OpenOn("5,34,1,14,1", {"28 May 05,1,2,3,4,5,0,0,6"});
+    EXPECT_EQ(Draws().Cell(0, 8), QStringLiteral("Pball"));
+}
+
+TEST_F(DrawsHistory, WithoutBonusAndExtraBallTheLastColumnStaysEmpty) {
+    OpenOn("6,49,1,0,0", {"28 May 05,1,2,3,4,5,6,0,7"});
+    EXPECT_EQ(Row(0), "Date,Num1,Num2,Num3,Num4,Num5,Num6,,");
+    EXPECT_EQ(Row(1), "28 May 05,1,2,3,4,5,6,,");
+}
+
+TEST_F(DrawsHistory, TheNewestDrawHeadsTheColumns) {
+    OpenOn("6,49,0,0,0", {"28 May 05,1,2,3,4,5,6,0,0", "25 May 05,1,2,3,4,5,6,7,0"});
+    EXPECT_EQ(Draws().Cell(0, 7), QString());
+    EXPECT_EQ(Draws().Cell(2, 7), QStringLiteral("7"));
+    EXPECT_TRUE(Box(7).isHidden());
+}
+
+TEST_F(DrawsHistory, AClickTakesTheDrawIntoTheBoxes) {
+    Open();
+    ClickRow(2);
+    ExpectMarked(2);
+    EXPECT_EQ(PickedDate(), QDate(2005, 5, 25));
+    EXPECT_EQ(Box(1).text(), QStringLiteral("46"));
+    EXPECT_EQ(Box(7).text(), QString());
+    EXPECT_EQ(Box(8).text(), QStringLiteral("7"));
+}
+
+TEST_F(DrawsHistory, AClickBelowTheDrawsSelectsTheLastOne) {
+    Open();
+    ClickRow(9);
+    ExpectMarked(3);
+    EXPECT_EQ(PickedDate(), QDate(2005, 5, 21));
+}
+
+TEST_F(DrawsHistory, TheArrowKeysMoveFromDrawToDraw) {
+    Open();
+    QTest::keyClick(&Draws(), Qt::Key_Down);
+    ExpectMarked(2);
+    EXPECT_EQ(Box(1).text(), QStringLiteral("46"));
+    QTest::keyClick(&Draws(), Qt::Key_Down);
+    QTest::keyClick(&Draws(), Qt::Key_Down);
+    ExpectMarked(3);
+    QTest::keyClick(&Draws(), Qt::Key_Up);
+    ExpectMarked(2);
+}
+
+TEST_F(DrawsHistory, OffersTheBoxesThatTheNewestDrawFills) {
+    Open();
+    std::vector<int> boxes;
+    for (int index = 1; index <= 8; ++index) {
+        if (!Box(index).isHidden()) boxes.push_back(index);
+    }
+    EXPECT_EQ(boxes, (std::vector<int>{1, 2, 3, 4, 5, 6, 8}));
+}
+
+TEST_F(DrawsHistory, EachBoxStandsUnderItsColumn) {
+    Open();
+    for (const int column : {1, 6, 8}) {
+        const int cell = Draws()
+                             .viewport()
+                             ->mapTo(form_.get(), QPoint(Draws().columnViewportPosition(column), 0))
+                             .x();
+        EXPECT_EQ(Box(column).mapTo(form_.get(), QPoint()).x(), cell) << column;
+    }
+}
+
+TEST_F(DrawsHistory, BoxesDropEveryKeyButDigitsAndBackspace) {
+    Open();
+    Box(1).clear();
+    QTest::keyClicks(&Box(1), QStringLiteral("1a-4.x,"));
+    EXPECT_EQ(Box(1).text(), QStringLiteral("14"));
+}
+
+TEST_F(DrawsHistory, AscendingOrderSortsTheMainNumbersAndBarsEdits) {
+    Open();
+    ShowAscending();
+    EXPECT_EQ(Row(1), "28 May 05,3,17,22,34,41,48,,9");
+    EXPECT_EQ(Row(2), "25-May-2005,1,2,13,24,35,46,,7");
+    EXPECT_FALSE(CanEdit());
+    EXPECT_EQ(test_.state.Draws(1, 1), 34);
+}
+
+TEST_F(DrawsHistory, AscendingOrderTwiceInARowDoesNothingTheSecondTime) {
+    Open();
+    ShowAscending();
+    Draws().SetCell(1, 1, QStringLiteral("mark"));
+    ShowAscending();
+    EXPECT_EQ(Draws().Cell(1, 1), QStringLiteral("mark"));
+}
+
+TEST_F(DrawsHistory, AscendingOrderOfHotPicksLeavesTheFifthAndSixthBall) {
+    OpenOn("4,49,0,0,0", {"28 May 05,40,30,20,10,5,3,0,0"});
+    ShowAscending();
+    EXPECT_EQ(Row(1), "28 May 05,10,20,30,40,5,3,,");
+}
+
+TEST_F(DrawsHistory, DrawOrderComesBackWithTheFirstDrawSelected) {
+    Open();
+    ShowAscending();
+    ClickRow(3);
+    ShowInDrawOrder();
+    EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,48,41,,9");
+    EXPECT_EQ(Row(2), "25-May-2005,46,2,13,24,35,1,,7");
+    EXPECT_TRUE(CanEdit());
+    ExpectMarked(1);
+    EXPECT_EQ(Box(1).text(), QStringLiteral("34"));
+}
+
+TEST_F(DrawsHistory, EveryChoiceOfALotteryReturnsToDrawOrder) {
+    Open();
+    ShowAscending();
+    ChooseLottery(1);
+    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1")->isChecked());
+    EXPECT_FALSE(Find<QRadioButton>(*form_, "Option2")->isChecked());
+    EXPECT_TRUE(CanEdit());
+}
+
+TEST_F(DrawsHistory, DeleteRemovesTheSelectedDrawWithoutAQuestion) {
+    Open();
+    const std::string before = Database();
+    ClickRow(2);
+    Click(*form_, "Command2");
+    EXPECT_EQ(Database(),
+              "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
+              "28 May 05,34,17,22,3,48,41,0,9\r\n"
+              "21 May 05,8,9,10,11,12,13,0,14\r\n");
+    EXPECT_EQ(Database("temp.txt"), before);
+    EXPECT_EQ(Row(2), "21 May 05,8,9,10,11,12,13,,14");
+    EXPECT_EQ(Row(3), ",,,,,,,,");
+    EXPECT_EQ(test_.state.Draws(2, 1), 8);
+    ExpectMarked(1);
+}
+
+TEST_F(DrawsHistory, TheLastDrawIsNotDeleted) {
+    Open();
+    ChooseLottery(1);
+    const auto before = test_.folder.Snapshot();
+    test_.messages.Expect(cannotDeleteLastLine);
+    Click(*form_, "Command2");
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+    ExpectMarked(1);
+}
+
+TEST_F(DrawsHistory, AnUpdateOfNumbersKeepsThePlaceAndReturnsToTheFirstRow) {
+    Open();
+    ClickRow(2);
+    Box(1).setText(QStringLiteral("45"));
+    Click(*form_, "Command3");
+    EXPECT_EQ(Database(),
+              "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
+              "28 May 05,34,17,22,3,48,41,0,9\r\n"
+              "25 May 05,45,2,13,24,35,1,,7\r\n"
+              "21 May 05,8,9,10,11,12,13,0,14\r\n");
+    EXPECT_EQ(test_.state.Draws(2, 1), 45);
+    ExpectMarked(1);
+}
+
+TEST_F(DrawsHistory, AnUpdateOfTheDateMovesTheDraw) {
+    Open();
+    ClickRow(3);
+    Update(QDate(2005, 6, 1));
+    EXPECT_EQ(Row(1), "01 Jun 05,8,9,10,11,12,13,,14");
+    Update(QDate(2005, 5, 1));
+    EXPECT_EQ(Row(3), "01 May 05,8,9,10,11,12,13,,14");
+}
+
+TEST_F(DrawsHistory, AnUpdateToTheDateOfAnotherDrawGoesInFrontOfIt) {
+    Open();
+    Update(QDate(2005, 5, 21));
+    EXPECT_EQ(Row(2), "21 May 05,34,17,22,3,48,41,,9");
+    EXPECT_EQ(Row(3), "21 May 05,8,9,10,11,12,13,,14");
+}
+
+TEST_F(DrawsHistory, TheOnlyDrawCanBeUpdated) {
+    Open();
+    ChooseLottery(1);
+    Box(8).setText(QStringLiteral("14"));
+    Update(QDate(2005, 6, 1));
+    EXPECT_EQ(Database("dbase101.txt"),
+              "UK Thunderball\r\n\r\n5,34,1,14,0\r\n01 Jun 05,4,9,15,27,30,,,14\r\n");
+    EXPECT_EQ(Database("temp.txt"), Database("dbase101.txt"));
+}
+
+TEST_F(DrawsHistory, AnUpdateChecksNoNumbers) {
+    Open();
+    Box(1).setText(QStringLiteral("99"));
+    Box(2).clear();
+    Click(*form_, "Command3");
+    EXPECT_EQ(Row(1), "28 May 05,99,,22,3,48,41,,9");
+}
+
+TEST_F(DrawsHistory, EnterInABoxUpdatesAndElsewhereChangesNothing) {
+    Open();
+    const auto before = test_.folder.Snapshot();
+    QTest::keyClick(&Draws(), Qt::Key_Return);
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+    Box(1).setText(QStringLiteral("45"));
+    QTest::keyClick(&Box(1), Qt::Key_Return);
+    EXPECT_EQ(test_.state.Draws(1, 1), 45);
+}
+
+TEST_F(DrawsHistory, PrintIsDisabledUntilThereIsPrinting) {
+    Open();
+    EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
+}
+
+TEST_F(DrawsHistory, PrintTakesTheGridAndReturnsToTheFirstRow) {
+    const Grid* printed = nullptr;
+    test_.services.printDraws = [&](QWidget*, Grid& grid) { printed = &grid; };
+    Open();
+    ClickRow(3);
+    Click(*form_, "Command6");
+    EXPECT_EQ(printed, &Draws());
+    ExpectMarked(1);
+}
+
+TEST_F(DrawsHistory, WithoutALotterySaysSoAndClosesWhenTheTimerTicks) {
+    for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
+    test_.messages.Expect({.title = QStringLiteral("Error!"),
+                           .text = QStringLiteral("No lotteries to display!    "),
+                           .sign = Sign::Exclamation});
+    Open();
+    EXPECT_TRUE(form_->isVisible());
+    auto* timer = form_->findChild<QTimer*>(QStringLiteral("Timer1"));
+    ASSERT_NE(timer, nullptr);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 1000);
+    QTimerEvent tick(timer->timerId());
+    QApplication::sendEvent(timer, &tick);
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(DrawsHistory, WithLotteriesTheTimerRests) {
+    Open();
+    EXPECT_FALSE(form_->findChild<QTimer*>(QStringLiteral("Timer1"))->isActive());
+}
+
+TEST_F(DrawsHistory, ADatabaseWithoutDrawsEndsTheRun) {
+    AddDailyPlay(test_.folder);
+    Open();
+    const auto before = test_.folder.Snapshot();
+    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("dbase102.txt, line 4"), std::string::npos) << *failure;
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+TEST_F(DrawsHistory, ADateThatCannotBeReadEndsTheRunWhenItsDrawIsChosen) {
+    OpenOn("5,49,0,0,0", {"28 May 05,1,2,3,4,5,,,", "someday,1,2,3,4,5,,,"});
+    ClickRow(2);
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("dbase1.txt, line 5"), std::string::npos) << *failure;
+    EXPECT_NE(failure->find("someday"), std::string::npos);
+}
+
+std::vector<std::string> ManyDraws(int count) {
+    return std::vector<std::string>(static_cast<std::size_t>(count), "28 May 05,1,2,3,4,5,6,0,7");
+}
+
+TEST_F(DrawsHistory, ShowsAsManyDrawsAsEveryRoutineCanWalk) {
+    OpenOn("6,49,0,0,1", ManyDraws(2999));
+    EXPECT_EQ(Row(2999), "28 May 05,1,2,3,4,5,6,,7");
+    ShowAscending();
+    ClickRow(2999);
+    ExpectMarked(2999);
+}
+
+TEST_F(DrawsHistory, OneDrawMoreEndsTheRun) {
+    AddLottery(test_.folder, "dbase999.txt", "Full", "6,49,0,0,1", ManyDraws(3000));
+    Open();
+    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
+    EXPECT_TRUE(TakeFailure());
+}
+
+TEST_F(DrawsHistory, AFullDiskEndsTheRunAndLosesNoDraw) {
+    Open();
+    const std::string before = Database();
+    for (const char* command : {"Command2", "Command3"}) {
+        for (const std::size_t room : {std::size_t{0}, before.size(), before.size() + 20}) {
+            test_.folder.FailAfterBytes(room);
+            ClickRow(1);
+            Click(*form_, command);
+            EXPECT_TRUE(TakeFailure()) << command << room;
+            EXPECT_EQ(Database(), before) << command << room;
+        }
+    }
+}
+
+TEST_F(DrawsHistory, ALockedDatabaseEndsTheRun) {
+    Open();
+    test_.folder.Lock("dbase101.txt");
+    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_Down);
+    EXPECT_TRUE(TakeFailure());
+}
+
+TEST_F(DrawsHistory, RealHistoriesStandInTheGridAsInTheirFiles) {
+    if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no real histories on this machine";
+    test_.today = std::chrono::year(2026) / 8 / 1;
+    Open();
+    const auto* lotteries = Find<ListBox>(*form_, "List1");
+    for (int lottery = 0; lottery < lotteries->count(); ++lottery) {
+        ChooseLottery(lottery);
+        const std::string bytes = Database(test_.state.DbaseFile.c_str());
+        int row = 1;
+        while (row < 3000 && !Draws().Cell(row, 0).isEmpty()) ++row;
+        EXPECT_EQ(row - 1, std::count(bytes.begin(), bytes.end(), '\n') - 3) << lottery;
+        EXPECT_EQ(test_.state.Draws(row - 1, 1), Draws().Cell(row - 1, 1).toInt());
+    }
+}
+
+}  // namespace

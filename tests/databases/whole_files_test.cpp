@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The two small forms that act on a whole draw database.
+#include <QLabel>
+#include <QPushButton>
+
+#include "databases/DeleteDbaseW.h"
+#include "databases/OpenDbase.h"
+#include "databases/new_database.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+const Message areYouSure{.title = QStringLiteral("Delete database"),
+                         .text = QStringLiteral("  Are you sure?    \r\n"),
+                         .sign = Sign::Question,
+                         .buttons = Buttons::YesNo};
+
+template <typename FormType>
+class WholeFiles : public testing::Test {
+  protected:
+    WholeFiles() {
+        AddUkLotto(test_.folder);
+        AddThunderball(test_.folder);
+        test_.state.DbaseFile = "before.txt";
+        form_ = std::make_unique<FormType>(test_.program, nullptr);
+        form_->Load();
+        form_->show();
+    }
+
+    ListBox& Lotteries() { return *Find<ListBox>(*form_, "List1"); }
+
+    void DoubleClick(int index) {
+        const QPoint place = Lotteries().visualItemRect(Lotteries().item(index)).center();
+        QTest::mouseClick(Lotteries().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(Lotteries().viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    }
+
+    TestProgram test_;
+    std::unique_ptr<FormType> form_;
+};
+
+using OpeningADatabase = WholeFiles<OpenDbase>;
+using DeletingADatabase = WholeFiles<DeleteDbaseW>;
+
+TEST_F(OpeningADatabase, BearsItsWordsAndListsTheLotteriesWithNoneChosen) {
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Open lottery database"));
+    EXPECT_EQ(Find<QLabel>(*form_, "Label3")->text(), QStringLiteral("Select a lottery:"));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->text(), QStringLiteral(" Open database "));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Cancel "));
+    ASSERT_EQ(Lotteries().count(), 2);
+    EXPECT_EQ(Lotteries().item(1)->text(), QStringLiteral("UK Thunderball"));
+    EXPECT_EQ(Lotteries().Index(), -1);
+}
+
+TEST_F(OpeningADatabase, OpensTheFileInTheEditorAndCloses) {
+    Lotteries().SetIndex(1);
+    Click(*form_, "Command2");
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("dbase101.txt")});
+    EXPECT_EQ(test_.state.DbaseFile, "dbase101.txt");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(OpeningADatabase, ADoubleClickOpensAtOnce) {
+    DoubleClick(0);
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("dbase100.txt")});
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(OpeningADatabase, LeavesTheDrawsInMemory) {
+    test_.state.Draws(1, 1) = 33;
+    Lotteries().SetIndex(0);
+    Click(*form_, "Command2");
+    EXPECT_EQ(test_.state.Draws(1, 1), 33);
+}
+
+TEST_F(OpeningADatabase, WithoutASelectionEndsTheRun) {
+    Click(*form_, "Command2");
+    EXPECT_TRUE(TakeFailure());
+    EXPECT_TRUE(test_.pages.empty());
+}
+
+TEST_F(OpeningADatabase, CancelOpensNothing) {
+    Lotteries().SetIndex(0);
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_TRUE(test_.pages.empty());
+    EXPECT_EQ(test_.state.DbaseFile, "before.txt");
+}
+
+TEST_F(DeletingADatabase, BearsItsWordsAndListsTheLotteriesWithNoneChosen) {
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Delete lottery database"));
+    EXPECT_EQ(Find<QLabel>(*form_, "Label3")->text(), QStringLiteral("Select a lottery:"));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->toolTip(),
+              QStringLiteral(" Delete database "));
+    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Close "));
+    EXPECT_EQ(Lotteries().count(), 2);
+    EXPECT_EQ(Lotteries().Index(), -1);
+}
+
+TEST_F(DeletingADatabase, WithoutASelectionDoesNothing) {
+    Click(*form_, "Command2");
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(test_.messages.Shown(), 0);
+}
+
+TEST_F(DeletingADatabase, DeletesTheFileAfterAQuestionAndCloses) {
+    Lotteries().SetIndex(1);
+    test_.messages.Expect(areYouSure, Answer::Yes);
+    Click(*form_, "Command2");
+    EXPECT_FALSE(test_.folder.Exists("dbase101.txt"));
+    EXPECT_TRUE(test_.folder.Exists("dbase100.txt"));
+    EXPECT_EQ(test_.state.DbaseFile, "dbase101.txt");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(DeletingADatabase, KeepsTheFileOnNo) {
+    Lotteries().SetIndex(1);
+    test_.messages.Expect(areYouSure, Answer::No);
+    Click(*form_, "Command2");
+    EXPECT_TRUE(test_.folder.Exists("dbase101.txt"));
+    EXPECT_EQ(test_.state.DbaseFile, "before.txt");
+    EXPECT_TRUE(form_->isVisible());
+}
+
+TEST_F(DeletingADatabase, ADoubleClickAsksTheSameQuestion) {
+    test_.messages.Expect(areYouSure, Answer::Yes);
+    DoubleClick(0);
+    EXPECT_FALSE(test_.folder.Exists("dbase100.txt"));
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(DeletingADatabase, FreesItsNumberForTheNextNewOne) {
+    test_.folder.Write("dbase1.txt", "First\r\n\r\n6,49,0,0,0\r\n");
+    EXPECT_EQ(FirstFreeDatabase(test_.folder), "dbase2.txt");
+    test_.folder.Delete("dbase1.txt");
+    EXPECT_EQ(FirstFreeDatabase(test_.folder), "dbase1.txt");
+}
+
+TEST_F(DeletingADatabase, AFileThatCannotBeDeletedEndsTheRunAndStays) {
+    Lotteries().SetIndex(0);
+    const auto before = test_.folder.Snapshot();
+    test_.folder.Lock("dbase100.txt");
+    test_.messages.Expect(areYouSure, Answer::Yes);
+    Click(*form_, "Command2");
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_NE(failure->find("dbase100.txt"), std::string::npos);
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+TEST_F(DeletingADatabase, CloseDeletesNothing) {
+    const auto before = test_.folder.Snapshot();
+    Lotteries().SetIndex(0);
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(test_.folder.Snapshot(), before);
+}
+
+}  // namespace
