@@ -6,7 +6,13 @@
 #include <array>
 
 #include "analysis/ACommonNumbers.h"
+#include "databases/CreateDbase.h"
+#include "databases/DbaseUpdateW.h"
+#include "databases/DeleteDbaseW.h"
+#include "databases/HistoryW.h"
+#include "databases/OpenDbase.h"
 #include "entries/SaveEntries.h"
+#include "entries/ShowMyDrawsW.h"
 #include "entries/StoreMyDrawsW.h"
 #include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
@@ -27,18 +33,30 @@ void SelectSecondOption(Form& form) {
 
 constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "FileBackup", .form = "Backup", .changesDatabases = true},
-    {.menuEntry = "FileDelete", .form = "DeleteDbaseW", .changesDatabases = true},
-    {.menuEntry = "FileOpen", .form = "OpenDbase"},
+    {.menuEntry = "FileDelete",
+     .form = "DeleteDbaseW",
+     .make = Make<DeleteDbaseW>,
+     .changesDatabases = true},
+    {.menuEntry = "FileOpen", .form = "OpenDbase", .make = Make<OpenDbase>},
     {.menuEntry = "FilePreferences", .form = "Preferences", .changesSettings = true},
     {.menuEntry = "FilePrintSetup", .form = "PrintSetup"},
 
-    {.menuEntry = "DatabasesCreate", .form = "CreateDbase", .changesDatabases = true},
-    {.menuEntry = "wUpdateDbase", .form = "DbaseUpdateW"},
-    {.menuEntry = "wDatabaseView", .form = "HistoryW"},
+    {.menuEntry = "DatabasesCreate",
+     .form = "CreateDbase",
+     .make = Make<CreateDbase>,
+     .changesDatabases = true},
+    {.menuEntry = "wUpdateDbase", .form = "DbaseUpdateW", .make = Make<DbaseUpdateW>},
+    {.menuEntry = "wDatabaseView", .form = "HistoryW", .make = Make<HistoryW>},
     {.menuEntry = "DatabaseUS", .form = "DbaseUpdateUS", .changesDatabases = true},
     {.menuEntry = "DatabaseUpdate", .form = "DbaseUpdate", .changesDatabases = true},
-    {.menuEntry = "DatabaseCheck", .form = "ShowMyDrawsW", .needsSavedEntries = true},
-    {.menuEntry = "DatabaseViewCheck", .form = "ShowMyDrawsW", .needsSavedEntries = true},
+    {.menuEntry = "DatabaseCheck",
+     .form = "ShowMyDrawsW",
+     .make = Make<ShowMyDrawsW>,
+     .needsSavedEntries = true},
+    {.menuEntry = "DatabaseViewCheck",
+     .form = "ShowMyDrawsW",
+     .make = Make<ShowMyDrawsW>,
+     .needsSavedEntries = true},
     {.menuEntry = "DatabaseStoreDrawsW", .form = "StoreMyDrawsW", .make = Make<StoreMyDrawsW>},
 
     {.menuEntry = "AnalysisCommon", .form = "ACommonNumbers", .make = Make<ACommonNumbers>},

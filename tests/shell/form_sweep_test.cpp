@@ -26,11 +26,12 @@ std::string TestName(const testing::TestParamInfo<CatalogueEntry>& form) {
 class EveryForm : public testing::TestWithParam<CatalogueEntry> {
   protected:
     void SetUp() override {
-        std::string database = "Sample\r\n\r\n6\r\n49\r\n0\r\n0\r\n1\r\n";
+        std::string database = "Sample\r\n\r\n6,49,0,0,1\r\n";
         for (int draw = 0; draw < 12; ++draw) {
             database += "01 Jun 05," + std::to_string(draw + 1) + ",12,23,34,45,49,0,7\r\n";
         }
         program.folder.Write("dbase1.txt", database);
+        program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
         program.tick = 0.001;
         MakeDefaultSettings(program.state, program.folder);
     }
@@ -129,6 +130,13 @@ TEST_P(EveryForm, FitsASmallScreen) {
 
 TEST_P(EveryForm, ClosesOnEsc) {
     Open();
+    if (std::string(GetParam().form) == "CreateDbase") {
+        program.messages.Expect({.title = QStringLiteral("Are you sure?"),
+                                 .text = QStringLiteral("Close and discard data?    "),
+                                 .sign = Sign::Question,
+                                 .buttons = Buttons::YesNo},
+                                Answer::Yes);
+    }
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
 }
@@ -143,8 +151,9 @@ TEST_P(EveryForm, OpensAHelpPageOnF1) {
 }
 
 TEST_P(EveryForm, TakesTheBackgroundColourOfTheSettings) {
-    // The dialog that saves entries wears no skin.
-    if (std::string(GetParam().form) == "SaveEntries") return;
+    // Small dialogs wear no skin.
+    const std::set<std::string> plain = {"DeleteDbaseW", "OpenDbase", "SaveEntries"};
+    if (plain.contains(GetParam().form)) return;
     program.state.Settings(10) = "2";
     program.state.Settings(5) = "&HC0FFC0";
     Open();
