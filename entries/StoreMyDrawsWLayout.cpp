@@ -35,6 +35,7 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
     layout->addWidget(grid_, 1);
     layout->addLayout(BuildActions());
     Connect();
+    SetOpeningSize({sizeHint().width(), 620});
     SetCloseButton(command1_);
 }
 

@@ -7,11 +7,14 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <vector>
 
 #include "platform/Skin.h"
 
 namespace {
+
+constexpr int titleBarRoom = 64;
 
 /// The widgets of a layout that take the focus, in the order in which they stand in it.
 void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
@@ -43,11 +46,19 @@ void Form::CloseAsTheUserDoes() {
     }
 }
 
+void Form::TakeOpeningSize() {
+    if (openingSize_.isEmpty()) return;
+    const QSize room = screen()->availableSize() - QSize(16, titleBarRoom);
+    resize(openingSize_.boundedTo(room).expandedTo(sizeHint().boundedTo(room)));
+    openingSize_ = {};
+}
+
 // Qt would make a default button of the first one in the dialog, and of any that has the focus.
 void Form::setVisible(bool visible) {
     if (visible) {
         const auto buttons = findChildren<QPushButton*>();
         for (QPushButton* button : buttons) button->setAutoDefault(false);
+        TakeOpeningSize();
     }
     QDialog::setVisible(visible);
 }

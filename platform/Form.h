@@ -50,6 +50,9 @@ class Form : public QDialog {
     /// The button that Esc and the cross stand for.
     void SetCloseButton(QAbstractButton* button) { closeButton_ = button; }
 
+    /// The size in which the form opens, where the screen has the room; never less than it needs.
+    void SetOpeningSize(const QSize& size) { openingSize_ = size; }
+
     /// The page that F1 opens; "help.html" where none is set.
     void SetHelpPage(const QString& page) { helpPage_ = page; }
 
@@ -61,10 +64,12 @@ class Form : public QDialog {
     void Skinning(const QString& pictureFile, const SkinLabels& labels);
 
   private:
+    void TakeOpeningSize();
     void CloseAsTheUserDoes();
 
     Program& program_;
     QString helpPage_;
+    QSize openingSize_;
     QAbstractButton* closeButton_ = nullptr;
     QPixmap picture_;
     bool unloading_ = false;

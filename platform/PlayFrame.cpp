@@ -46,6 +46,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButto
     layout->addLayout(middle, 1);
     layout->addLayout(foot_);
     layout->addLayout(BuildActions(names.help));
+    SetOpeningSize({sizeHint().width(), 600});
     Connect();
     SetCloseButton(command1_);
     SetHelpPage(QStringLiteral("helpplay.html"));
@@ -55,6 +56,7 @@ QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
     label1_ = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
     list1_ = Named(new ListBox, QStringLiteral("List1"));
     list1_->setAccessibleName(label1_->text());
+    list1_->setMinimumWidth(240);
     auto* column = new QVBoxLayout;
     column->addWidget(label1_);
     column->addWidget(list1_, 1);

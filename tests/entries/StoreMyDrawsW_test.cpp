@@ -198,6 +198,14 @@ TEST_F(StoringEntries, ANumberOutsideTheFieldIsRefusedAndNothingIsLost) {
     }
 }
 
+TEST_F(StoringEntries, EnterInANumberBoxAddsAndGoesBackToTheFirstBox) {
+    Open();
+    for (int index = 1; index <= 6; ++index) Box(index).setText(QString::number(index));
+    QTest::keyClick(&Box(6), Qt::Key_Return);
+    EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
+    EXPECT_EQ(form_->focusWidget(), &Box(1));
+}
+
 TEST_F(StoringEntries, RepeatsWithinAnEntryAreTaken) {
     Open();
     Add({7, 7, 7, 7, 7, 7});
