@@ -73,6 +73,7 @@ void DbaseUpdateW::MakeButtons() {
     command1_->setDefault(true);
     command2_ = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
     command2_->setToolTip(tr(" Start Intenet Explorer "));
+    command2_->setMinimumWidth(112);
     cancelButton_ = MakeButton(QStringLiteral("CancelButton"), tr(" Close "));
     connect(command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
     connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });

@@ -20,6 +20,13 @@ namespace {
 constexpr int rowCount = 3000;
 constexpr int columnCount = 10;
 constexpr int closingDelay = 1000;  // milliseconds
+constexpr int commandWidth = 112;
+
+/// A panel without a line around it, so that its boxes seem to belong to the columns above.
+class PlainPanel final : public QGroupBox {
+  protected:
+    void paintEvent(QPaintEvent*) override {}
+};
 
 }  // namespace
 
@@ -83,8 +90,7 @@ void HistoryW::MakeGrid() {
 }
 
 void HistoryW::MakeEditPanel() {
-    frame1_ = Named(new QGroupBox, QStringLiteral("Frame1"));
-    frame1_->setFlat(true);
+    frame1_ = Named<QGroupBox>(new PlainPanel, QStringLiteral("Frame1"));
     dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
                        QStringLiteral("DTPicker1"));
     dtPicker1_->setAccessibleName(tr("Date of the draw"));
@@ -110,14 +116,15 @@ void HistoryW::MakeEditPanel() {
     command3_->setToolTip(tr(" Update selected draw "));
     command2_ = MakeButton(QStringLiteral("Command2"), tr("Delete Draw"));
     command2_->setToolTip(tr(" Delete selected draw "));
+    for (QPushButton* command : {command3_, command2_}) command->setMinimumWidth(commandWidth);
     auto* commands = new QHBoxLayout;
     commands->addWidget(command3_);
     commands->addWidget(command2_);
     commands->addStretch(1);
     // No margin of the panel may push the boxes away from their columns.
-    frame1_->setContentsMargins(0, frame1_->contentsMargins().top(), 0, 0);
+    frame1_->setContentsMargins(0, 0, 0, 0);
     auto* panel = new QVBoxLayout(frame1_);
-    panel->setContentsMargins(0, 8, 0, 0);
+    panel->setContentsMargins(0, 4, 0, 0);
     panel->addLayout(boxes);
     panel->addLayout(commands);
 }
