@@ -30,13 +30,9 @@ void CheckIndex(const QObject& chart, const char* what, int index, int count) {
 }  // namespace
 
 Chart::Chart(int rowCount, int columnCount, QWidget* parent)
-    : QWidget(parent),
-      figures_(rowCount, columnCount),
-      plot_(std::make_unique<ChartPlot>(figures_, *this)) {
-    plot_->Widget().installEventFilter(this);
+    : QWidget(parent), figures_(rowCount, columnCount) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
-    layout->addWidget(&plot_->Widget());
     setFocusPolicy(Qt::StrongFocus);
     setAutoFillBackground(true);
     setMinimumSize(240, 150);
@@ -47,14 +43,30 @@ Chart::Chart(int rowCount, int columnCount, QWidget* parent)
 
 Chart::~Chart() = default;
 
+// The drawing is made when somebody is to see it: the main window starts without its chart.
+ChartPlot& Chart::Plot() {
+    if (plot_ == nullptr) {
+        plot_ = std::make_unique<ChartPlot>(figures_, *this);
+        plot_->Widget().installEventFilter(this);
+        layout()->addWidget(&plot_->Widget());
+        plot_->Draw();
+        copyPicture_->setIcon(ThemeIcon(QStringLiteral("image-x-generic")));
+        copyTable_->setIcon(ThemeIcon(QStringLiteral("edit-copy")));
+    }
+    return *plot_;
+}
+
+bool Chart::event(QEvent* event) {
+    if (event->type() == QEvent::Polish) Plot();
+    return QWidget::event(event);
+}
+
 void Chart::BuildMenu() {
-    auto* copyPicture = Named(new QAction(tr("Copy picture"), this), QStringLiteral("CopyPicture"));
-    auto* copyTable = Named(new QAction(tr("Copy table"), this), QStringLiteral("CopyTable"));
-    copyPicture->setIcon(ThemeIcon(QStringLiteral("image-x-generic")));
-    copyTable->setIcon(ThemeIcon(QStringLiteral("edit-copy")));
-    connect(copyPicture, &QAction::triggered, this, [this] { CopyPicture(); });
-    connect(copyTable, &QAction::triggered, this, [this] { CopyTable(); });
-    addActions({copyPicture, copyTable});
+    copyPicture_ = Named(new QAction(tr("Copy picture"), this), QStringLiteral("CopyPicture"));
+    copyTable_ = Named(new QAction(tr("Copy table"), this), QStringLiteral("CopyTable"));
+    connect(copyPicture_, &QAction::triggered, this, [this] { CopyPicture(); });
+    connect(copyTable_, &QAction::triggered, this, [this] { CopyTable(); });
+    addActions({copyPicture_, copyTable_});
     setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
@@ -84,7 +96,7 @@ double Chart::value(int row, int column) const {
     return figures_.Value(row, column);
 }
 
-QStringList Chart::shownLabels() const { return plot_->ShownLabels(); }
+QStringList Chart::shownLabels() { return Plot().ShownLabels(); }
 
 QColor Chart::patternColour() const {
     return figures_.pattern ? figures_.pattern->color() : fillColour();
@@ -127,14 +139,12 @@ void Chart::SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor&
 void Chart::SetRange(double lowest, double highest) { figures_.range = {lowest, highest}; }
 
 void Chart::Refresh() {
-    plot_->Draw();
+    if (plot_ != nullptr) plot_->Draw();
     NameItself();
     setAccessibleDescription(figures_.Description());
 }
 
-void Chart::Paint(QPainter& painter, const QRectF& rectangle) const {
-    plot_->Paint(painter, rectangle);
-}
+void Chart::Paint(QPainter& painter, const QRectF& rectangle) { Plot().Paint(painter, rectangle); }
 
 /// By its title, unless the form has found a name of its own for it.
 void Chart::NameItself() {
@@ -144,8 +154,8 @@ void Chart::NameItself() {
     setAccessibleName(givenName_);
 }
 
-void Chart::CopyPicture() const {
-    QGuiApplication::clipboard()->setPixmap(plot_->Picture(size(), copiedScale));
+void Chart::CopyPicture() {
+    QGuiApplication::clipboard()->setPixmap(Plot().Picture(size(), copiedScale));
 }
 
 void Chart::CopyTable() const { QGuiApplication::clipboard()->setText(figures_.Table()); }
@@ -180,7 +190,7 @@ void Chart::focusOutEvent(QFocusEvent* event) {
 
 void Chart::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    plot_->FitToWidget();
+    if (plot_ != nullptr) plot_->FitToWidget();
 }
 
 /// The margin of one pixel around the plot is the frame.

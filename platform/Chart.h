@@ -9,6 +9,7 @@
 #include "platform/ChartFigures.h"
 
 class ChartPlot;
+class QAction;
 class QPainter;
 
 /// A chart of bars or lines whose figures can be read: by tests, by screen readers, by resting the
@@ -35,7 +36,7 @@ class Chart final : public QWidget {
 
     /// The labels below the axis at the chart's present width: all of them, unless it is so narrow
     /// that even staggered ones would overlap.
-    Q_INVOKABLE QStringList shownLabels() const;
+    Q_INVOKABLE QStringList shownLabels();
 
     /// The colours of the first series: of its pattern, and of what lies below the pattern. Without
     /// a pattern both are the colour of the series.
@@ -67,26 +68,30 @@ class Chart final : public QWidget {
     void Refresh();
 
     /// Draws the chart into a rectangle of a page, a picture or whatever `painter` paints on.
-    void Paint(QPainter& painter, const QRectF& rectangle) const;
+    void Paint(QPainter& painter, const QRectF& rectangle);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    ChartPlot& Plot();
     void BuildMenu();
     void CheckRow(int row) const;
     void CheckColumn(int column) const;
-    void CopyPicture() const;
+    void CopyPicture();
     void CopyTable() const;
     void NameItself();
     void ShowFocus(bool focused);
 
     ChartFigures figures_;
-    std::unique_ptr<ChartPlot> plot_;
+    std::unique_ptr<ChartPlot> plot_;  // none before the chart is seen
+    QAction* copyPicture_;
+    QAction* copyTable_;
     QString givenName_;  // the accessible name that the chart gave itself
 };
