@@ -32,6 +32,7 @@ class ShowMyDrawsW final : public Form {
     void MakeCommands();
     QLayout* BuildCommands();
     QLayout* BuildCheck();
+    QLayout* BuildReport();
     QLayout* BuildColourKey();
     QLayout* BuildActions();
     void Connect();

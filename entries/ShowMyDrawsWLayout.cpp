@@ -58,6 +58,7 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
     below->setSpacing(32);
     below->addLayout(BuildCommands());
     below->addLayout(BuildCheck(), 1);
+    below->addLayout(BuildReport());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 12, 16, 16);
     layout->setSpacing(8);
@@ -78,6 +79,8 @@ void ShowMyDrawsW::MakeLabels() {
                         tr("To play the same lottery entry in future draw, select the row and "
                            "update the draw date below. Numbers and names can be changed too. "
                            "Click any item and use the edit box below."));
+    // Two lines, which a layout does not count in its smallest height.
+    label10_->setMinimumHeight(2 * label10_->fontMetrics().lineSpacing());
     label5_ = MakeLabel(QStringLiteral("Label5"), tr("   Your lottery entries"));
     label2_ = MakeLabel(QStringLiteral("Label2"), tr("Item:"));
     label1_ = MakeLabel(QStringLiteral("Label1"), tr("Date:"));
@@ -108,8 +111,8 @@ void ShowMyDrawsW::MakeGrid() {
     const int number = widthOf("---NUM----");
     grid_->SetColumnWidths({widthOf("------DATE--------"), number, number, number, number, number,
                             number, number, number, widthOf("--------LOTTERY NAME---------"),
-                            widthOf("-----PLAYER NAME---------"), widthOf("--dbase000.txt--")});
-    grid_->setMinimumHeight(180);
+                            widthOf("-----PLAYER NAME---------"), widthOf("----dbase000.txt----")});
+    grid_->setMinimumHeight(240);
 }
 
 void ShowMyDrawsW::MakeInputs() {
@@ -175,35 +178,36 @@ QLayout* ShowMyDrawsW::BuildCommands() {
 }
 
 QLayout* ShowMyDrawsW::BuildCheck() {
-    auto* help = new QHBoxLayout;
-    help->setSpacing(16);
-    help->addWidget(command2_, 0, Qt::AlignTop);
-    help->addWidget(label9_, 1);
+    auto* check = new QVBoxLayout;
+    check->setSpacing(12);
+    check->addWidget(command2_, 0, Qt::AlignLeft);
+    check->addWidget(label9_);
+    check->addLayout(BuildColourKey());
+    check->addStretch(1);
+    return check;
+}
+
+QLayout* ShowMyDrawsW::BuildReport() {
+    // As high as the report of a lottery of seven numbers, and its margins.
+    text2_->setFixedHeight(18 * text2_->fontMetrics().lineSpacing() + 12);
+    text2_->setMinimumWidth(text2_->fontMetrics().averageCharWidth() * 36);
     auto* report = new QVBoxLayout;
     report->setSpacing(4);
     report->addWidget(label14_);
-    report->addWidget(text2_, 1);
-    auto* result = new QHBoxLayout;
-    result->setSpacing(24);
-    result->addLayout(report, 1);
-    result->addLayout(BuildColourKey());
-    auto* check = new QVBoxLayout;
-    check->setSpacing(8);
-    check->addLayout(help);
-    check->addLayout(result, 1);
-    return check;
+    report->addWidget(text2_);
+    report->addStretch(1);
+    return report;
 }
 
 QLayout* ShowMyDrawsW::BuildColourKey() {
     auto* key = new QGridLayout;
     key->setHorizontalSpacing(8);
     key->setVerticalSpacing(8);
-    key->setRowMinimumHeight(0, fontMetrics().height());
-    key->addWidget(label4_, 1, 0);
-    key->addWidget(label3_, 1, 1);
-    key->addWidget(label6_, 2, 0);
-    key->addWidget(label7_, 2, 1);
-    key->setRowStretch(3, 1);
+    key->addWidget(label4_, 0, 0);
+    key->addWidget(label3_, 0, 1);
+    key->addWidget(label6_, 1, 0);
+    key->addWidget(label7_, 1, 1);
+    key->setColumnStretch(2, 1);
     for (QLabel* label : {label4_, label3_, label6_, label7_}) HideInPlace(label);
     return key;
 }

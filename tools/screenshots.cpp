@@ -94,6 +94,9 @@ void WriteUserFiles(State& state, DiskFolder& folder) {
     folder.Write(
         "MyLottery.txt",
         "28-Dec-2024,7,14,17,21,30,38,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n"
+        "28-Dec-2024,5,12,20,29,35,42,,,Demo Lotto (sample draws),Tom,dbasedemo1.txt\r\n"
+        "27-Dec-2024,1,9,11,30,42,,,7,Demo Five and Extra (sample draws),Anna,dbasedemo2.txt\r\n"
+        "25-Dec-2024,5,13,14,25,37,48,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n"
         "04-Jan-2025,3,11,19,27,34,48,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n");
 }
 
@@ -134,7 +137,7 @@ void TypeEntry(Form& form, const QStringList& numbers) {
 }
 
 /// Works in the form as its user does, where it would look empty otherwise.
-void Use(Form& form) {
+void Use(Form& form, bool hasSamples) {
     const QString name = form.objectName();
     if (name == QLatin1String("PLuckyDip")) {
         Find<QAbstractButton>(form, QStringLiteral("Check1"))->click();
@@ -147,6 +150,8 @@ void Use(Form& form) {
         Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));
         TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));
         TypeEntry(form, QStringLiteral("8 15 22 29 36 43").split(QLatin1Char(' ')));
+    } else if (name == QLatin1String("ShowMyDrawsW") && hasSamples) {
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     }
 }
 
@@ -178,7 +183,8 @@ bool SaveForm(const CatalogueEntry& entry, Program& program, QWidget& window, co
     form->Load();
     for (int run = 0; run < entry.messageRuns; ++run) QCoreApplication::processEvents();
     if (entry.prepare != nullptr) entry.prepare(*form);
-    Use(*form);
+    // The sample entries are of the sample databases.
+    Use(*form, program.folder.Exists("dbasedemo1.txt"));
     return Save(*form, path);
 }
 
