@@ -135,6 +135,7 @@ void Quillon::SkinPicture() {
 }
 
 void Quillon::CompletePainting() {
+    toolbar_->LoadPictures();
     SkinPicture();
     ShowWelcome(!panels_->Shown());
 }
@@ -280,7 +281,7 @@ void Quillon::mouseMoveEvent(QMouseEvent* event) {
 void Quillon::paintEvent(QPaintEvent* event) {
     QMainWindow::paintEvent(event);
     if (!painted_) {
-        // Menu and toolbar are there at once; the large picture and the welcome follow them.
+        // The frame is there at once; the pictures and the welcome follow it.
         painted_ = true;
         QMetaObject::invokeMethod(this, &Quillon::CompletePainting, Qt::QueuedConnection);
     }

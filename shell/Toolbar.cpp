@@ -43,8 +43,6 @@ constexpr std::array<PictureText, Toolbar::pictureCount> pictureTexts = {{
 ToolbarPicture::ToolbarPicture(int index, const QString& toolTip, QWidget* parent)
     : QToolButton(parent) {
     setObjectName(Member(QStringLiteral("Image1"), index));
-    setIcon(
-        QIcon(QStringLiteral(":/icons/icons/toolbar%1.svg").arg(index, 2, 10, QLatin1Char('0'))));
     setFixedSize(pictureSize, pictureSize);
     setAutoRaise(true);
     setMouseTracking(true);
@@ -125,6 +123,13 @@ Toolbar::Toolbar(QWidget* parent) : QLabel(parent) {
     // A label asks for the room of its text alone, so the pictures' room is set here.
     setFixedHeight(layout->sizeHint().height());
     setMinimumWidth(layout->sizeHint().width());
+}
+
+void Toolbar::LoadPictures() {
+    for (int i = 0; i < pictureCount; ++i) {
+        Picture(i)->setIcon(
+            QIcon(QStringLiteral(":/icons/icons/toolbar%1.svg").arg(i, 2, 10, QLatin1Char('0'))));
+    }
 }
 
 void Toolbar::ClearBorders() {

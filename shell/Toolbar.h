@@ -49,6 +49,9 @@ class Toolbar final : public QLabel {
         return pictures_.at(static_cast<std::size_t>(index));
     }
 
+    /// Gives the pictures what they show; until then their places are empty.
+    void LoadPictures();
+
     /// Takes the border from every picture.
     void ClearBorders();
 
