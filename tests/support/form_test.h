@@ -18,8 +18,8 @@
 #include "platform/MessageBoxes.h"
 #include "platform/Services.h"
 
-/// Answers to the messages that a test expects, in their order. A message that nobody prepared and an
-/// answer left over both fail the test.
+/// Answers to the messages that a test expects, in their order. A message that nobody prepared and
+/// an answer left over both fail the test.
 class FakeMessages final : public MessageBoxes {
   public:
     ~FakeMessages() override;
@@ -32,15 +32,15 @@ class FakeMessages final : public MessageBoxes {
     int shown_ = 0;
 };
 
-/// A program with its folder in memory, a clock that stands still unless told otherwise, a fixed day
-/// (Wednesday 1 June 2005), and a fixed seed. Every page opened is recorded.
+/// A program with its folder in memory, a clock that stands still unless told otherwise, a fixed
+/// day (Wednesday 1 June 2005), and a fixed seed. Every page opened is recorded.
 struct TestProgram {
     TestProgram();
 
     State state;
     MemoryFolder folder;
-    double now = 0;       ///< What the clock says.
-    double tick = 0;      ///< What each look at the clock adds to it.
+    double now = 0;   ///< What the clock says.
+    double tick = 0;  ///< What each look at the clock adds to it.
     Date today;
     std::uint64_t seed = 1;
     Random random;
@@ -72,6 +72,7 @@ void Click(const QObject& parent, const char* name);
 /// Replaces the text of a box by typing.
 void Type(const QObject& parent, const char* name, const QString& text);
 
-/// Runs `open`, which is to show a modal dialog, and `drive` inside it; whatever `drive` leaves open is
-/// closed, and a step that fails does not hang the run. Fails the test where no dialog appears.
+/// Runs `open`, which is to show a modal dialog, and `drive` inside it; whatever `drive` leaves
+/// open is closed, and a step that fails does not hang the run. Fails the test where no dialog
+/// appears.
 void InDialog(const std::function<void()>& open, const std::function<void(QDialog&)>& drive);
