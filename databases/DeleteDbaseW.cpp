@@ -1,56 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "databases/DeleteDbaseW.h"
 
-#include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "platform/Lists.h"
-#include "platform/LotteryList.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Text.h"
 #include "platform/Widgets.h"
 
 DeleteDbaseW::DeleteDbaseW(Program& program, QWidget* parent)
-    : Form(program, QStringLiteral("DeleteDbaseW"), tr("Delete lottery database"), parent) {
-    auto* label3 = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label3->text());
-    label3->setBuddy(list1_);
-    auto* command2 = MakeIconButton(QStringLiteral("Command2"), QStringLiteral("edit-delete"),
-                                    tr(" Delete database "));
-    command2->setDefault(true);
-    auto* command1 = MakeButton(QStringLiteral("Command1"), tr(" Close "));
-    SetCloseButton(command1);
-
-    auto* actions = new QHBoxLayout;
-    actions->addWidget(command2);
-    actions->addStretch(1);
-    actions->addWidget(command1);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
-    layout->addWidget(label3);
-    layout->addWidget(list1_, 1);
-    layout->addLayout(actions);
-    resize(360, 320);
-
-    connect(list1_, &ListBox::doubleClicked, this, [this] { Command2_Click(); });
-    connect(command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    connect(command1, &QPushButton::clicked, this, [this] { Unload(); });
-}
-
-void DeleteDbaseW::Load() { ListDatabases(program(), *list1_); }
+    : DatabaseListForm(program, QStringLiteral("DeleteDbaseW"), tr("Delete lottery database"),
+                       MakeIconButton(QStringLiteral("Command2"), QStringLiteral("edit-delete"),
+                                      tr(" Delete database ")),
+                       tr(" Close "), parent) {}
 
 void DeleteDbaseW::Command2_Click() {
-    if (list1_->Index() < 0) return;
+    if (List1().Index() < 0) return;
     const Answer answer =
         services().messages.Show(this, {.title = tr("Delete database"),
                                         .text = tr("  Are you sure?    ") % ToQString(state().Crlf),
                                         .sign = Sign::Question,
                                         .buttons = Buttons::YesNo});
     if (answer == Answer::No) return;
-    state().DbaseFile = state().DbaseFiles(list1_->Index());
+    state().DbaseFile = state().DbaseFiles(List1().Index());
     folder().Delete(state().DbaseFile);
     Unload();
 }

@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Form.h"
-
-class ListBox;
+#include "databases/DatabaseListForm.h"
 
 /// Opens the file of a draw database in the desktop's text editor.
-class OpenDbase final : public Form {
+class OpenDbase final : public DatabaseListForm {
     Q_OBJECT
   public:
     OpenDbase(Program& program, QWidget* parent);
 
-    void Load() override;
-
-  private:
-    void Command2_Click();
-
-    ListBox* list1_;
+  protected:
+    void Command2_Click() override;
 };
