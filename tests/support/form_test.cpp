@@ -11,6 +11,7 @@
 namespace {
 
 std::optional<std::string> lastFailure;
+bool failureLeftThroughQt = false;
 
 /// Records a failure where the program would report it and end.
 class TestApplication final : public QApplication {
@@ -22,6 +23,7 @@ class TestApplication final : public QApplication {
             return QApplication::notify(receiver, event);
         } catch (const Failure& failure) {
             lastFailure = failure.what();
+            failureLeftThroughQt = true;
             CloseDialogs();
             return true;
         }
@@ -51,6 +53,12 @@ void PrintMessage(const char* what, const Message& message) {
 }
 
 }  // namespace
+
+/// Asked by the leak checker at the end. What a failure meets on its way out of Qt's event handling
+/// is not cleaned up, as Qt's libraries expect no exceptions; the program would end there, and a
+/// test program can no longer tell such leaks from real ones.
+extern "C" int __lsan_is_turned_off();
+extern "C" int __lsan_is_turned_off() { return failureLeftThroughQt ? 1 : 0; }
 
 FakeMessages::~FakeMessages() {
     for (const auto& [message, answer] : expected_) {
