@@ -3,6 +3,8 @@
 
 #include <QMessageBox>
 
+#include "platform/Hourglass.h"
+
 namespace {
 
 QMessageBox::Icon IconOf(Sign sign) {
@@ -53,6 +55,7 @@ Answer AnswerOf(int button) {
 }  // namespace
 
 Answer DesktopMessageBoxes::Show(QWidget* parent, const Message& message) {
+    const NormalPointer pointer;
     QMessageBox box(parent);
     box.setWindowTitle(message.title);
     box.setTextFormat(Qt::PlainText);

@@ -12,6 +12,9 @@ namespace {
 
 constexpr int mostLines = 30;
 
+// Below this many seconds nobody has had the time to click anywhere.
+constexpr double patience = 0.25;
+
 QCheckBox* MakeCondition(const QString& name, const QString& caption) {
     return Named(new QCheckBox(caption), name);
 }
@@ -69,6 +72,7 @@ void PlayForm::Generate() {
     const Conditions conditions{.oddEven = check1_->isChecked(),
                                 .highLow = check2_->isChecked(),
                                 .history = check3_->isChecked()};
+    const double start = services().seconds();
     GenerateLines(state(), services().random, conditions, Style(),
                   {.playLotto = [this] { PlayLotto(); },
                    .paintStatus =
@@ -78,4 +82,5 @@ void PlayForm::Generate() {
                        },
                    .showLines = [this] { ShowResult(); },
                    .seconds = services().seconds});
+    if (services().seconds() - start > patience) DropWaitingInput();
 }

@@ -15,19 +15,13 @@
 #include "platform/LotteryList.h"
 #include "platform/Widgets.h"
 
-namespace {
-
-// Below this many seconds nobody has had the time to click anywhere.
-constexpr double patience = 0.25;
-
-}  // namespace
-
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
                      int mostLines, QWidget* parent)
     : Form(program, text.name, text.caption, parent),
       label2_(MakeBody(QStringLiteral("Label2"), text.body)),
       label7_(MakeTitle(QStringLiteral("Label7"), text.heading)),
       grid_(Named(new Grid(mostLines + 2, 9), QStringLiteral("MSFlexGrid1"))),
+      besideList_(new QVBoxLayout),
       column_(new QVBoxLayout),
       foot_(new QVBoxLayout) {
     grid_->SizeColumns();
@@ -57,9 +51,12 @@ QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
     list1_ = Named(new ListBox, QStringLiteral("List1"));
     list1_->setAccessibleName(label1_->text());
     list1_->setMinimumWidth(240);
+    auto* lotteries = new QHBoxLayout;
+    lotteries->addWidget(list1_, 1);
+    lotteries->addLayout(besideList_);
     auto* column = new QVBoxLayout;
     column->addWidget(label1_);
-    column->addWidget(list1_, 1);
+    column->addLayout(lotteries, 1);
     column->addSpacing(8);
     column->addLayout(column_);
     column->addSpacing(8);
@@ -111,10 +108,10 @@ void PlayFrame::Connect() {
     connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
     connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
     connect(command6_, &QPushButton::clicked, this, [this] {
-        if (state().Busy == 0) services().printLines(this, *grid_);
+        if (Lets(busyRules_.printAndSaveWait)) services().printLines(this, *grid_);
     });
     connect(command7_, &QPushButton::clicked, this, [this] {
-        if (state().Busy == 0) services().saveLines(this, *grid_);
+        if (Lets(busyRules_.printAndSaveWait)) services().saveLines(this, *grid_);
     });
     connect(help_, &QPushButton::clicked, this,
             [this] { services().openPage(QStringLiteral("helpplay.html")); });
@@ -123,7 +120,7 @@ void PlayFrame::Connect() {
 
 void PlayFrame::ConnectFilter(QPushButton* button, void (*prune)(State&)) {
     connect(button, &QPushButton::clicked, this, [this, prune] {
-        if (state().Busy != 0) return;
+        if (!Lets(busyRules_.filtersWait)) return;
         prune(state());
         ShowResult();
     });
@@ -132,14 +129,22 @@ void PlayFrame::ConnectFilter(QPushButton* button, void (*prune)(State&)) {
 void PlayFrame::Load() {
     TabInReadingOrder();
     state().Busy = 0;
-    SkinLabels labels{.title = {label7_}, .body = {label2_}, .small = {label1_}, .status = {}};
-    if (statusLabel_ != nullptr) labels.status.push_back(statusLabel_);
-    Skinning(QStringLiteral("SkinPlay.jpg"), labels);
+    Skinning(QStringLiteral("SkinPlay.jpg"), SkinnedLabels());
     ListDatabases(program(), *list1_);
     ChooseFirstLottery(*list1_);
 }
 
+SkinLabels PlayFrame::SkinnedLabels() const {
+    SkinLabels labels{.title = {label7_}, .body = {label2_}, .small = {label1_}, .status = {}};
+    if (statusLabel_ != nullptr) labels.status.push_back(statusLabel_);
+    return labels;
+}
+
+bool PlayFrame::Lets(bool waits) const { return !waits || state().Busy == 0; }
+
 void PlayFrame::ShowResult() { ShowLines(state(), *grid_); }
+
+void PlayFrame::DropWaitingInput() { InputDropper::Run(*command1_); }
 
 void PlayFrame::List1_Click() {
     if (state().Busy != 0) return;
@@ -148,29 +153,31 @@ void PlayFrame::List1_Click() {
         state().Busy = -1;
         ClearLinesGrid(*grid_);
         LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+        DatabaseLoaded();
     }
     state().Busy = 0;
     LotteryChosen();
 }
 
 void PlayFrame::Command2_Click() {
-    if (state().Busy != 0) return;
+    if (!Lets(busyRules_.generateWaits)) return;
+    if (!busyRules_.generateSets) {
+        Generate();
+        return;
+    }
     {
         const Hourglass hourglass;
         state().Busy = -1;
-        const double start = services().seconds();
         Generate();
-        if (services().seconds() - start > patience) InputDropper::Run(*command1_);
     }
     state().Busy = 0;
     if (closeWanted_) Unload();
 }
 
 void PlayFrame::Command1_Click() {
+    const bool busy = state().Busy != 0;
+    if (busy && busyRules_.close == CloseWhileBusy::Ignored) return;
     // A click that waited while a generator ran closes the form as soon as it is through.
-    if (state().Busy != 0) {
-        closeWanted_ = true;
-        return;
-    }
-    Unload();
+    closeWanted_ = busy && busyRules_.close == CloseWhileBusy::Waits;
+    if (!closeWanted_) Unload();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/busy_rules.h"
 #include "platform/Form.h"
 
 class Grid;
@@ -32,7 +33,8 @@ struct PlayButtonNames {
 /// What all forms that make lines have in common: lottery list, filter buttons, grid, and the
 /// buttons to generate, print, save, help and close, with what they do.
 ///
-/// A form on this frame tells `Generate` and adds its own controls to `Column()` and `Foot()`.
+/// A form on this frame tells `Generate` and adds its own controls to `BesideList()`, `Column()`
+/// and `Foot()`.
 class PlayFrame : public Form {
     Q_OBJECT
   public:
@@ -43,14 +45,30 @@ class PlayFrame : public Form {
     PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
               int mostLines, QWidget* parent);
 
-    /// Makes the lines and shows them; `Busy` and the hourglass are set around it.
+    /// Makes the lines and shows them; `Busy` and the hourglass are set around it where the form's
+    /// rules say so.
     virtual void Generate() = 0;
+
+    /// A form's own steps with the lottery just loaded, `Busy` and the hourglass still set.
+    virtual void DatabaseLoaded() {}
 
     /// What follows a choice of lottery once it is loaded: a first set of lines.
     virtual void LotteryChosen() { Command2_Click(); }
 
+    /// The labels that take the skin's colours.
+    virtual SkinLabels SkinnedLabels() const;
+
+    /// Takes other rules about `Busy` than the usual ones.
+    void SetBusyRules(const BusyRules& rules) { busyRules_ = rules; }
+
     /// Shows `state().Lines` in the grid.
     void ShowResult();
+
+    /// Throws away what was clicked and typed during long work, but for the close button.
+    void DropWaitingInput();
+
+    /// The place to the right of the lottery list.
+    QVBoxLayout& BesideList() { return *besideList_; }
 
     /// The column of inputs between the lottery list and the filter buttons.
     QVBoxLayout& Column() { return *column_; }
@@ -75,6 +93,10 @@ class PlayFrame : public Form {
     void ConnectFilter(QPushButton* button, void (*prune)(State&));
     void Command1_Click();
 
+    /// Whether a button may act that waits for `Busy` to fall, or does not.
+    bool Lets(bool waits) const;
+
+    BusyRules busyRules_;
     ListBox* list1_;
     QLabel* label1_;
     QLabel* label2_;
@@ -86,6 +108,7 @@ class PlayFrame : public Form {
     QPushButton* command7_;
     QPushButton* help_;
     Grid* grid_;
+    QVBoxLayout* besideList_;
     QVBoxLayout* column_;
     QVBoxLayout* foot_;
     bool closeWanted_ = false;
