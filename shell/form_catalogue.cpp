@@ -16,6 +16,8 @@
 #include "entries/StoreMyDrawsW.h"
 #include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
+#include "wheels/PWheel2.h"
+#include "wheels/PWheel3.h"
 
 namespace {
 
@@ -95,8 +97,8 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "PlayGuaranteed", .form = "PGuaranteed"},
     {.menuEntry = "PlayHotWheels", .form = "PHotWheels"},
     {.menuEntry = "PlayWheel49", .form = "Wheel49"},
-    {.menuEntry = "PlayWheel2", .form = "PWheel2"},
-    {.menuEntry = "PlayWheel3", .form = "PWheel3"},
+    {.menuEntry = "PlayWheel2", .form = "PWheel2", .make = Make<PWheel2>},
+    {.menuEntry = "PlayWheel3", .form = "PWheel3", .make = Make<PWheel3>},
     {.menuEntry = "PlayStarSign", .form = "PStarSign"},
     {.menuEntry = "PlayLucky", .form = "PLuckyNumbers"},
 

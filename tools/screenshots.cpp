@@ -144,6 +144,10 @@ void Use(Form& form, bool hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Check3"))->click();
         Find<QScrollBar>(form, QStringLiteral("HScroll1"))->setValue(12);
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+    } else if (name == QLatin1String("PWheel2") || name == QLatin1String("PWheel3")) {
+        Find<QAbstractButton>(form, QStringLiteral("Option1(2)"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     } else if (name == QLatin1String("SaveEntries")) {
         Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
     } else if (name == QLatin1String("StoreMyDrawsW")) {

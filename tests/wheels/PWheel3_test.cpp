@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wheels/PWheel3.h"
+
+#include <QPushButton>
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "tests/support/real_histories.h"
+#include "tests/wheels/wheel_form.h"
+
+namespace {
+
+constexpr int boxCount = 24;
+
+class WheelingTriplets : public WheelFormTest {
+  protected:
+    void Open() { ShowForm(std::make_unique<PWheel3>(test_.program, nullptr)); }
+};
+
+TEST_F(WheelingTriplets, BearsItsWords) {
+    Open();
+    EXPECT_EQ(form_->windowTitle(), QStringLiteral("Wheeling triplets"));
+    const std::vector<std::pair<const char*, const char*>> labels = {
+        {"Label7", "Wheeling triplets"},
+        {"Label2",
+         "This method of selecting Lotto entries tries to increase your chance of winning the "
+         "smaller prizes by placing numbers into groups of three. Each group is played with every "
+         "other group. Pick up to 8 groups of three numbers."},
+        {"Label1", "Select a lottery:"},
+        {"Label6", "Filters"},
+        {"Label8", "   Enter 9 different numbers in groups of three, starting with group A:"}};
+    for (const auto& [name, text] : labels) {
+        EXPECT_EQ(Text(name), QString::fromLatin1(text)) << name;
+    }
+    for (int group = 0; group < 8; ++group) {
+        const std::string name = "Label1(" + std::to_string(group + 1) + ")";
+        EXPECT_EQ(Text(name.c_str()), QString(QChar('A' + group)));
+    }
+    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Label1(9)")), nullptr);
+    const std::vector<std::pair<const char*, const char*>> buttons = {
+        {"Option1(0)", "Wheel   9 numbers in   3 lines"},
+        {"Option1(1)", "Wheel 12 numbers in   6 lines"},
+        {"Option1(2)", "Wheel 15 numbers in 10 lines"},
+        {"Option1(3)", "Wheel 18 numbers in 15 lines"},
+        {"Option1(4)", "Wheel 21 numbers in 21 lines"},
+        {"Option1(5)", "Wheel 24 numbers in 28 lines"},
+        {"Command12", "Random selection"},
+        {"Command8", "Random order"},
+        {"Command3", " Help "}};
+    for (const int lottery : {Lotto, Five}) {
+        ChooseLottery(lottery);
+        for (const auto& [name, text] : buttons) {
+            EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text))
+                << name;
+        }
+    }
+}
+
+TEST_F(WheelingTriplets, OpensWithNineEmptyWhiteBoxesAndMakesNothing) {
+    Open();
+    EXPECT_EQ(test_.state.LotteryName, "Lotto");
+    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
+    for (int index = 0; index < boxCount; ++index) {
+        EXPECT_EQ(Background(index), index < 9 ? white : grey) << index;
+        EXPECT_TRUE(Box(index).isEnabled());
+        EXPECT_TRUE(Box(index).text().isEmpty());
+    }
+    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Text1(24)")), nullptr);
+    EXPECT_EQ(ShownLines(), 0);
+}
+
+TEST_F(WheelingTriplets, SaysWhichLotteriesTheMethodSuits) {
+    AddLottery(test_.folder, "dbase7.txt", "Three", "3,49,0,0,0");
+    Open();
+    constexpr int three = 6;
+    const std::vector<std::pair<int, const char*>> advice = {
+        {Four, "4-pick lotteries are not ideal for this method."},
+        {Five, "5-pick lotteries are not ideal for this method."},
+        {Lotto, "6-pick lotteries are OK with Wheeling Triplets."},
+        {Seven, "7-pick lotteries are not ideal for this method."},
+        {three, "7-pick lotteries are not ideal for this method."}};
+    EXPECT_EQ(Text("Label4"), QStringLiteral("6-pick lotteries are OK with Wheeling Triplets."));
+    for (const auto& [lottery, text] : advice) {
+        ChooseLottery(lottery);
+        EXPECT_EQ(Text("Label4"), QString::fromLatin1(text)) << test_.state.LotteryName;
+    }
+}
+
+TEST_F(WheelingTriplets, KeepsTheTextsOfBoxesThatASmallerSizePutsOutOfUse) {
+    Open();
+    ChooseSize(5);
+    for (int index = 0; index < boxCount; ++index) TypeBox(index, QStringLiteral("7"));
+    for (int option = 5; option >= 0; --option) {
+        ChooseSize(option);
+        const int count = 3 * option + 9;
+        EXPECT_EQ(Text("Label8"), QStringLiteral("   Enter %1 different numbers in groups of three,"
+                                                 " starting with group A:")
+                                      .arg(count));
+        for (int index = 0; index < boxCount; ++index) {
+            EXPECT_EQ(Background(index), index < count ? white : grey) << index;
+            EXPECT_EQ(Box(index).text(), QStringLiteral("7")) << index;
+            EXPECT_TRUE(Box(index).isEnabled()) << index;
+        }
+    }
+    Click(*form_, "Command2");
+    for (int index = 0; index < boxCount; ++index) {
+        EXPECT_EQ(Box(index).text(), index < 9 ? QStringLiteral("7") : QString()) << index;
+    }
+}
+
+TEST_F(WheelingTriplets, MixesNumbersLeftInGreyBoxesIn) {
+    Open();
+    ChooseSize(1);
+    TypeCounting(12);
+    ChooseSize(0);
+    bool mixedIn = false;
+    for (int time = 0; time < 20 && !mixedIn; ++time) {
+        Click(*form_, "Command8");
+        QStringList texts = BoxTexts(12);
+        EXPECT_EQ(QSet<QString>(texts.begin(), texts.end()).size(), 12);
+        const QStringList inUse = texts.mid(0, 9);
+        mixedIn = inUse.contains(QStringLiteral("10")) || inUse.contains(QStringLiteral("11"));
+    }
+    EXPECT_TRUE(mixedIn);
+    Click(*form_, "Command2");
+    EXPECT_EQ(BoxTexts(12).mid(9), QStringList(3));
+    EXPECT_EQ(ShownLines(), 3);
+}
+
+TEST_F(WheelingTriplets, PlaysAWholeGroupWithTheFirstOfTheOtherForFourPicks) {
+    Open();
+    ChooseLottery(Four);
+    TypeCounting(9);
+    Click(*form_, "Command2");
+    EXPECT_EQ(Rows(8),
+              (std::vector<std::vector<int>>{
+                  {1, 2, 3, 4, 0, 0, 0, 0}, {1, 2, 3, 7, 0, 0, 0, 0}, {4, 5, 6, 7, 0, 0, 0, 0}}));
+}
+
+TEST_F(WheelingTriplets, PlaysTheFirstTwoOfTheOtherForFivePicksWithTheExtraBall) {
+    Open();
+    ChooseLottery(Five);
+    TypeCounting(9);
+    Click(*form_, "Command2");
+    EXPECT_EQ(Rows(5),
+              (std::vector<std::vector<int>>{{1, 2, 3, 4, 5}, {1, 2, 3, 7, 8}, {4, 5, 6, 7, 8}}));
+    for (const auto& row : Rows(8)) EXPECT_TRUE(row[7] >= 1 && row[7] <= 14) << row[7];
+}
+
+TEST_F(WheelingTriplets, PlaysBothGroupsForSixPicks) {
+    Open();
+    TypeCounting(9);
+    Click(*form_, "Command2");
+    EXPECT_EQ(Rows(8),
+              (std::vector<std::vector<int>>{
+                  {1, 2, 3, 4, 5, 6, 0, 0}, {1, 2, 3, 7, 8, 9, 0, 0}, {4, 5, 6, 7, 8, 9, 0, 0}}));
+}
+
+TEST_F(WheelingTriplets, AddsARandomNumberToBothGroupsForSevenPicks) {
+    Open();
+    ChooseLottery(Seven);
+    TypeCounting(9);
+    for (test_.seed = 1; test_.seed <= 20; ++test_.seed) {
+        Click(*form_, "Command2");
+        const auto rows = Rows(8);
+        ASSERT_EQ(rows.size(), 3U);
+        for (const auto& row : rows) {
+            EXPECT_EQ(std::set<int>(row.begin(), row.begin() + 7).size(), 7U);
+            EXPECT_TRUE(std::ranges::is_sorted(row.begin(), row.begin() + 7));
+            EXPECT_TRUE(row[7] >= 1 && row[7] <= 9) << row[7];
+        }
+        EXPECT_TRUE(std::ranges::includes(rows[0], std::array{1, 2, 3, 4, 5, 6}));
+    }
+}
+
+TEST_F(WheelingTriplets, MakesAsManyLinesAsEachCaptionSays) {
+    Open();
+    for (const int lottery : {Lotto, Five, Four, Seven}) {
+        ChooseLottery(lottery);
+        for (int option = 0; option < 6; ++option) {
+            ChooseSize(option);
+            Click(*form_, "Command12");
+            Click(*form_, "Command2");
+            const std::array lines = {3, 6, 10, 15, 21, 28};
+            EXPECT_EQ(ShownLines(), lines[static_cast<std::size_t>(option)]);
+        }
+    }
+}
+
+TEST_F(WheelingTriplets, AnswersANumberThatCannotBeFoundWithTheTip) {
+    AddLottery(test_.folder, "dbase0.txt", "Tiny", "7,6,0,0,0");
+    Open();
+    for (int index = 0; index < 9; ++index) TypeBox(index, QString::number(index % 6 + 1));
+    ExpectInputTip();
+    Click(*form_, "Command2");
+    EXPECT_EQ(test_.messages.Shown(), 1);
+    EXPECT_EQ(ShownLines(), 0);
+    EXPECT_EQ(test_.state.Lines(1, 1), 0);
+}
+
+TEST_F(WheelingTriplets, GivesColourFourOfTheSkinToTheAdvice) {
+    test_.state.Settings(10) = "2";
+    const std::array colours = {"&H000001", "&H000002", "&H000003", "&H000004", "&H202020"};
+    for (int slot = 1; slot <= 5; ++slot) {
+        test_.state.Settings(slot) = colours[static_cast<std::size_t>(slot) - 1];
+    }
+    Open();
+    const auto colourOf = [this](const char* name) {
+        return Find<QLabel>(*form_, name)->palette().color(QPalette::WindowText);
+    };
+    EXPECT_EQ(colourOf("Label7"), QColor(1, 0, 0));
+    EXPECT_EQ(colourOf("Label2"), QColor(2, 0, 0));
+    EXPECT_EQ(colourOf("Label4"), QColor(4, 0, 0));
+    EXPECT_EQ(colourOf("Label1"), form_->palette().color(QPalette::WindowText));
+}
+
+TEST_F(WheelingTriplets, WheelsTheNumbersOfRealLotteries) {
+    test_.folder = MemoryFolder();
+    if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no folder of real histories";
+    Open();
+    ChooseSize(5);
+    for (int index = 0; index < Find<ListBox>(*form_, "List1")->count(); ++index) {
+        ChooseLottery(index);
+        Click(*form_, "Command12");
+        Click(*form_, "Command2");
+        EXPECT_EQ(ShownLines(), 28) << test_.state.LotteryName;
+        for (const auto& row : Rows(8)) {
+            const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
+            EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
+            EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
+        }
+    }
+}
+
+}  // namespace

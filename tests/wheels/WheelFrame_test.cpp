@@ -1,0 +1,431 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the wheel forms with number boxes have in common, and in what their rules tell them apart.
+#include "wheels/WheelFrame.h"
+
+#include <QPushButton>
+
+#include "core/failure.h"
+#include "tests/wheels/wheel_form.h"
+#include "wheels/PWheel2.h"
+#include "wheels/PWheel3.h"
+
+namespace {
+
+struct BoxForm {
+    const char* name;
+    int boxCount;
+    int firstSize;
+    std::unique_ptr<Form> (*make)(Program&);
+};
+
+void PrintTo(const BoxForm& form, std::ostream* out) { *out << form.name; }
+
+class EachWheelForm : public WheelFormTest, public testing::WithParamInterface<BoxForm> {
+  protected:
+    void Open() { ShowForm(GetParam().make(test_.program)); }
+
+    int Size() const { return GetParam().firstSize; }
+
+    void ExpectRefusal() {
+        ExpectInputTip();
+        const int before = test_.messages.Shown();
+        Click(*form_, "Command2");
+        EXPECT_EQ(test_.messages.Shown(), before + 1);
+    }
+};
+
+TEST_P(EachWheelForm, TakesThreeDigitsInTheMiddleOfABoxAndNothingElse) {
+    Open();
+    for (const int index : {0, Size() - 1, Size()}) {
+        TypeBox(index, QStringLiteral("-1a .2x3e4"));
+        EXPECT_EQ(Box(index).text(), QStringLiteral("123")) << "grey boxes take keys too";
+        QTest::keyClick(&Box(index), Qt::Key_Backspace);
+        EXPECT_EQ(Box(index).text(), QStringLiteral("12"));
+        EXPECT_EQ(Box(index).maxLength(), 3);
+        EXPECT_EQ(Box(index).alignment(), Qt::AlignCenter);
+    }
+}
+
+TEST_P(EachWheelForm, MakesNothingOnEnterInABoxAndStaysThere) {
+    Open();
+    TypeCounting(Size());
+    form_->activateWindow();
+    Box(2).setFocus();
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        QTest::keyClick(&Box(2), key);
+        EXPECT_EQ(ShownLines(), 0);
+        EXPECT_EQ(form_->focusWidget(), &Box(2));
+        EXPECT_EQ(Box(2).text(), QStringLiteral("3"));
+    }
+    QTest::keyClick(form_.get(), Qt::Key_Return);
+    EXPECT_GT(ShownLines(), 0) << "elsewhere Enter generates";
+}
+
+TEST_P(EachWheelForm, RefusesABoxThatIsEmptyZeroOrTooHigh) {
+    Open();
+    TypeCounting(Size());
+    Click(*form_, "Command2");
+    const QStringList before = Texts();
+    for (const char* wrong : {"", "0", "000", "50", "999"}) {
+        TypeBox(3, QString::fromLatin1(wrong));
+        test_.state.Lines(1, 1) = 7;
+        ExpectRefusal();
+        EXPECT_EQ(Texts(), before) << "the grid keeps what it showed";
+        EXPECT_EQ(test_.state.Lines(1, 1), 0) << "the lines are gone";
+        EXPECT_EQ(test_.state.Busy, 0);
+        EXPECT_EQ(form_->focusWidget(), &Box(3)) << "where the input has to be mended";
+        EXPECT_EQ(Box(3).text(), QString::fromLatin1(wrong)) << "as typed";
+    }
+    Click(*form_, "Command13");
+    EXPECT_EQ(ShownLines(), 0) << "a filter shows that there are none";
+}
+
+TEST_P(EachWheelForm, TakesTheHighestNumberOfTheLottery) {
+    Open();
+    TypeCounting(Size());
+    TypeBox(0, QStringLiteral("49"));
+    Click(*form_, "Command2");
+    EXPECT_GT(ShownLines(), 0);
+}
+
+TEST_P(EachWheelForm, EmptiesGreyBoxesAndNeverRefusesThem) {
+    Open();
+    TypeCounting(Size());
+    TypeBox(Size(), QStringLiteral("99"));
+    TypeBox(Size() + 1, QStringLiteral("0"));
+    Click(*form_, "Command2");
+    EXPECT_GT(ShownLines(), 0);
+    EXPECT_EQ(Box(Size()).text(), QString());
+    EXPECT_EQ(Box(Size() + 1).text(), QString());
+}
+
+TEST_P(EachWheelForm, EmptiesGreyBoxesInARefusalToo) {
+    Open();
+    TypeBox(Size(), QStringLiteral("9"));
+    ExpectRefusal();
+    EXPECT_EQ(Box(Size()).text(), QString());
+}
+
+TEST_P(EachWheelForm, EmptiesTheBoxesThatTheNextLotteryHasNoNumberFor) {
+    Open();
+    const QStringList typed = {QStringLiteral("05"), QStringLiteral("40"), QStringLiteral("41"),
+                               QStringLiteral("0"),  QStringLiteral("49"), QStringLiteral("007")};
+    for (int index = 0; index < typed.size(); ++index) TypeBox(index, typed[index]);
+    TypeBox(GetParam().boxCount - 1, QStringLiteral("45"));
+    const QString prompt = Text("Label8");
+    ChooseLottery(Six40);
+    EXPECT_EQ(BoxTexts(6), (QStringList{QStringLiteral("05"), QStringLiteral("40"), QString(),
+                                        QString(), QString(), QStringLiteral("007")}));
+    EXPECT_EQ(Box(GetParam().boxCount - 1).text(), QString()) << "grey boxes too";
+    EXPECT_EQ(Text("Label8"), prompt);
+}
+
+TEST_P(EachWheelForm, ClearsTheGridButNotTheLinesOnAChangeOfLottery) {
+    Open();
+    TypeCounting(Size());
+    Click(*form_, "Command2");
+    test_.state.Pool(100) = 33;
+    ChooseLottery(Four);
+    EXPECT_EQ(ShownLines(), 0);
+    EXPECT_EQ(Lines().Cell(0, 1), QStringLiteral("Num1"));
+    EXPECT_EQ(test_.state.Lines(1, 1), 1);
+    EXPECT_EQ(test_.state.Pool(100), 33);
+}
+
+TEST_P(EachWheelForm, FillsTheBoxesInUseWithDifferentNumbersOfTheLottery) {
+    Open();
+    for (int time = 0; time < 10; ++time) {
+        TypeBox(Size(), QStringLiteral("9"));
+        Click(*form_, "Command12");
+        QStringList texts = BoxTexts(Size());
+        EXPECT_EQ(QSet<QString>(texts.begin(), texts.end()).size(), Size());
+        for (const QString& text : texts) EXPECT_TRUE(text.toInt() >= 1 && text.toInt() <= 49);
+        EXPECT_EQ(Box(Size()).text(), QStringLiteral("9")) << "grey boxes stay";
+    }
+}
+
+TEST_P(EachWheelForm, DrawsEachSelectionFromWhereTheLastOneStopped) {
+    Open();
+    Click(*form_, "Command12");
+    const QStringList first = BoxTexts(Size());
+    Click(*form_, "Command12");
+    EXPECT_NE(BoxTexts(Size()), first) << "the clock would give the same seed again";
+}
+
+TEST_P(EachWheelForm, MixesTheNumbersAndWritesThemPlain) {
+    Open();
+    TypeCounting(Size());
+    TypeBox(4, QStringLiteral("005"));
+    QStringList before = BoxTexts(Size());
+    Click(*form_, "Command8");
+    QStringList after = BoxTexts(Size());
+    EXPECT_NE(after, before);
+    before[4] = QStringLiteral("5");
+    std::ranges::sort(before);
+    std::ranges::sort(after);
+    EXPECT_EQ(after, before);
+}
+
+TEST_P(EachWheelForm, MixesNoughtsIntoEmptyBoxes) {
+    Open();
+    TypeBox(0, QStringLiteral("0"));
+    TypeBox(5, QStringLiteral("8"));
+    Click(*form_, "Command8");
+    QStringList texts = BoxTexts(GetParam().boxCount);
+    EXPECT_EQ(texts.count(QStringLiteral("8")), 1);
+    EXPECT_EQ(texts.count(QString()), GetParam().boxCount - 1);
+}
+
+TEST_P(EachWheelForm, LeavesFiltersPrintSaveAndTheListAloneWhileBusy) {
+    Open();
+    TypeCounting(Size());
+    Click(*form_, "Command2");
+    const QStringList before = Texts();
+    for (int row = 1; row <= 3; ++row) test_.state.Lines(row, 1) = 2;
+    test_.state.Busy = -1;
+    for (const char* name : {"Command13", "Command14", "Command15", "Command9", "Command7"}) {
+        Click(*form_, name);
+    }
+    ChooseLottery(Four);
+    EXPECT_EQ(Texts(), before);
+    EXPECT_EQ(saves_, 0);
+    EXPECT_EQ(test_.state.LotteryName, "Lotto");
+    test_.state.Busy = 0;
+    Click(*form_, "Command7");
+    EXPECT_EQ(saves_, 1);
+}
+
+TEST_P(EachWheelForm, GeneratesSelectsAndMixesEvenWhileBusy) {
+    Open();
+    test_.state.Busy = -1;
+    Click(*form_, "Command12");
+    EXPECT_NE(Box(0).text(), QString());
+    TypeCounting(Size());
+    Click(*form_, "Command8");
+    EXPECT_NE(BoxTexts(Size()).first(3),
+              (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
+    Click(*form_, "Command2");
+    EXPECT_GT(ShownLines(), 0);
+    EXPECT_EQ(test_.state.Busy, 0);
+}
+
+TEST_P(EachWheelForm, WaitsWithItsCloseUntilBusyFalls) {
+    Open();
+    TypeCounting(Size());
+    test_.state.Busy = -1;
+    Click(*form_, "Command1");
+    EXPECT_TRUE(form_->isVisible());
+    Click(*form_, "Command2");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_P(EachWheelForm, RemovesLinesByTheFiltersAndMakesNoOthers) {
+    const std::vector<std::pair<const char*, std::vector<int>>> failing = {
+        {"Command13", {2, 4, 6, 8, 10, 12}},
+        {"Command14", {31, 33, 36, 38, 40, 41}},
+        {"Command15", {1, 2, 3, 4, 20, 40}},
+        {"Command9", {3, 17, 22, 34, 41, 48}}};
+    Open();
+    for (const auto& [button, numbers] : failing) {
+        TypeCounting(Size());
+        Click(*form_, "Command2");
+        for (int pick = 1; pick <= 6; ++pick) {
+            test_.state.Lines(1, pick) =
+                static_cast<std::int16_t>(numbers[static_cast<std::size_t>(pick) - 1]);
+        }
+        test_.state.Lines(2, 1) = 0;
+        Click(*form_, button);
+        EXPECT_EQ(ShownLines(), 0) << button;
+    }
+}
+
+TEST_P(EachWheelForm, OpensTheHelpPageAndCloses) {
+    Open();
+    Click(*form_, "Command3");
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
+    Click(*form_, "Command1");
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_P(EachWheelForm, EndsInTheReportWithoutALottery) {
+    test_.folder = MemoryFolder();
+    EXPECT_THROW(Open(), Failure);
+}
+
+const std::vector<BoxForm> boxForms = {
+    {"PWheel2", 18, 8,
+     [](Program& program) -> std::unique_ptr<Form> {
+         return std::make_unique<PWheel2>(program, nullptr);
+     }},
+    {"PWheel3", 24, 9, [](Program& program) -> std::unique_ptr<Form> {
+         return std::make_unique<PWheel3>(program, nullptr);
+     }}};
+
+INSTANTIATE_TEST_SUITE_P(Forms, EachWheelForm, testing::ValuesIn(boxForms),
+                         [](const auto& form) { return std::string(form.param.name); });
+
+/// A form under another form's rules, with as many boxes in use as a test asks for.
+class RuledForm final : public WheelFrame {
+  public:
+    RuledForm(Program& program, const QString& rules)
+        : WheelFrame(program, {.name = rules, .caption = rules, .heading = rules, .body = {}},
+                     WheelButtonNames(QStringLiteral("Command4")), {}, 20, nullptr) {}
+
+    using WheelFrame::UseBoxes;
+
+  protected:
+    void SizeChosen() override { UseBoxes(8); }
+    wheels::Outcome MakeLines(wheels::Boxes&) override {
+        state().Lines(1, 1) = 7;
+        state().Lines(2, 1) = 0;
+        return wheels::Outcome::Done;
+    }
+};
+
+class WheelRules : public WheelFormTest {
+  protected:
+    void Open(const char* rules) {
+        ShowForm(std::make_unique<RuledForm>(test_.program, QString::fromLatin1(rules)));
+    }
+
+    RuledForm& Ruled() { return static_cast<RuledForm&>(*form_); }
+};
+
+TEST_F(WheelRules, DisableAndEmptyTheBoxesOutOfUse) {
+    for (const char* rules : {"PBudgetWheel", "PDIYWheels", "PThreeMatch"}) {
+        Open(rules);
+        Ruled().UseBoxes(12);
+        for (int index = 0; index < 12; ++index) TypeBox(index, QStringLiteral("7"));
+        Ruled().UseBoxes(10);
+        for (int index = 0; index < 12; ++index) {
+            EXPECT_EQ(Box(index).isEnabled(), index < 10) << rules << index;
+            EXPECT_EQ(Background(index), index < 10 ? white : grey) << rules << index;
+            EXPECT_EQ(Box(index).text(), index < 10 ? QStringLiteral("7") : QString());
+        }
+    }
+}
+
+TEST_F(WheelRules, LeadEnterOnToTheNextBoxInUse) {
+    for (const char* rules : {"PDIYWheels", "PThreeMatch"}) {
+        Open(rules);
+        Box(6).setFocus();
+        QTest::keyClick(&Box(6), Qt::Key_Return);
+        EXPECT_EQ(form_->focusWidget(), &Box(7)) << rules;
+        QTest::keyClick(&Box(7), Qt::Key_Return);
+        EXPECT_EQ(form_->focusWidget(), &Box(7)) << "the next one is disabled";
+        Ruled().UseBoxes(20);
+        Box(19).setFocus();
+        QTest::keyClick(&Box(19), Qt::Key_Enter);
+        EXPECT_EQ(form_->focusWidget(), &Box(19)) << "there is no next one";
+        EXPECT_EQ(ShownLines(), 0);
+        TypeBox(0, QStringLiteral("a1"));
+        EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
+    }
+}
+
+TEST_F(WheelRules, LetAnyTextIntoTheBoxesOfBudgetWheels) {
+    Open("PBudgetWheel");
+    TypeBox(0, QStringLiteral("1a-9"));
+    EXPECT_EQ(Box(0).text(), QStringLiteral("1a-"));
+    QTest::keyClick(&Box(0), Qt::Key_Return);
+    EXPECT_EQ(ShownLines(), 0);
+    TypeBox(0, QStringLiteral("3"));
+    TypeBox(2, QStringLiteral("5"));
+    Click(*form_, "Command8");
+    QStringList texts = BoxTexts(4);
+    std::ranges::sort(texts);
+    EXPECT_EQ(texts, (QStringList{QString(), QStringLiteral("0"), QStringLiteral("3"),
+                                  QStringLiteral("5")}));
+}
+
+TEST_F(WheelRules, SelectFromTheStartOfThePool) {
+    for (const char* rules : {"PBudgetWheel", "PDIYWheels", "PThreeMatch"}) {
+        Open(rules);
+        Click(*form_, "Command12");
+        for (int index = 0; index < 8; ++index) {
+            EXPECT_EQ(Box(index).text().toInt(), test_.state.Pool(index)) << rules;
+        }
+        EXPECT_EQ(Box(8).text(), QString());
+    }
+    ShowForm(std::make_unique<PWheel2>(test_.program, nullptr));
+    Click(*form_, "Command12");
+    for (int index = 0; index < 8; ++index) {
+        EXPECT_EQ(Box(index).text().toInt(), test_.state.Pool(index + 1));
+    }
+}
+
+TEST_F(WheelRules, IgnoreTheCloseOfABusyBudgetWheelAndLetItFilter) {
+    Open("PBudgetWheel");
+    Click(*form_, "Command2");
+    test_.state.Lines(1, 1) = 8;
+    test_.state.Busy = -1;
+    Click(*form_, "Command1");
+    EXPECT_TRUE(form_->isVisible());
+    Click(*form_, "Command7");
+    EXPECT_EQ(saves_, 0);
+    Click(*form_, "Command15");
+    EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << "the filters do not wait";
+    Click(*form_, "Command2");
+    EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << "generate does";
+    test_.state.Busy = 0;
+    Click(*form_, "Command2");
+    EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7"));
+    EXPECT_TRUE(form_->isVisible()) << "the ignored click is not made up for";
+}
+
+TEST_F(WheelRules, LetMatchAndOwnWheelsDoEverythingWhileBusy) {
+    for (const char* rules : {"PDIYWheels", "PThreeMatch"}) {
+        Open(rules);
+        saves_ = 0;
+        test_.state.Busy = -1;
+        Click(*form_, "Command2");
+        EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7")) << rules;
+        EXPECT_EQ(test_.state.Busy, -1) << "generate leaves it alone";
+        test_.state.Lines(1, 1) = 8;
+        Click(*form_, "Command15");
+        EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << rules;
+        Click(*form_, "Command7");
+        EXPECT_EQ(saves_, 1) << rules;
+        Click(*form_, "Command1");
+        EXPECT_FALSE(form_->isVisible()) << rules;
+        test_.state.Busy = 0;
+    }
+}
+
+TEST_F(WheelRules, KnowAllEightForms) {
+    std::vector<std::string> forms;
+    for (const wheels::WheelFormRules& rules : wheels::WheelForms()) forms.emplace_back(rules.form);
+    std::ranges::sort(forms);
+    EXPECT_EQ(forms,
+              (std::vector<std::string>{"PBudgetWheel", "PDIYWheels", "PGuaranteed", "PHotWheels",
+                                        "PThreeMatch", "PWheel2", "PWheel3", "Wheel49"}));
+    EXPECT_THROW(wheels::RulesOf("PLuckyDip"), Failure);
+}
+
+TEST_F(WheelRules, ColourTheLabelsOfEachForm) {
+    using Names = std::array<std::string_view, 4>;
+    const std::vector<std::tuple<const char*, Names, Names>> slots = {
+        {"PWheel2", {}, {}},
+        {"PWheel3", {}, {"Label4"}},
+        {"PBudgetWheel", {"Label1"}, {}},
+        {"PDIYWheels", {"Label1", "Label9", "Label10", "Label5"}, {}},
+        {"PHotWheels", {"Label1", "Label9", "Label5", "Label4"}, {}},
+        {"PThreeMatch", {"Label1", "Label5"}, {}},
+        {"PGuaranteed", {"Label5"}, {"Label10"}},
+        {"Wheel49", {"Label1"}, {"Label5"}}};
+    for (const auto& [form, small, status] : slots) {
+        EXPECT_EQ(wheels::RulesOf(form).skin.small, small) << form;
+        EXPECT_EQ(wheels::RulesOf(form).skin.status, status) << form;
+    }
+}
+
+TEST_F(WheelRules, WaitForBusyInTheFormsWithoutBoxes) {
+    for (const char* form : {"PHotWheels", "PGuaranteed", "Wheel49"}) {
+        const BusyRules& busy = wheels::RulesOf(form).busy;
+        EXPECT_TRUE(busy.filtersWait && busy.printAndSaveWait && busy.generateWaits) << form;
+        EXPECT_EQ(busy.close, CloseWhileBusy::Waits) << form;
+        EXPECT_EQ(wheels::RulesOf(form).boxes.count, 0) << form;
+    }
+}
+
+}  // namespace

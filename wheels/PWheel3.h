@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "wheels/WheelFrame.h"
+
+/// Wheeling triplets: up to eight groups of three of the user's numbers, each played with the
+/// others.
+class PWheel3 final : public WheelFrame {
+    Q_OBJECT
+  public:
+    PWheel3(Program& program, QWidget* parent);
+
+  protected:
+    void SizeChosen() override;
+    void ShowLottery() override;
+    wheels::Outcome MakeLines(wheels::Boxes& boxes) override;
+
+  private:
+    QLabel* label4_;
+};

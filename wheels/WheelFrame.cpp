@@ -1,0 +1,240 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wheels/WheelFrame.h"
+
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <algorithm>
+
+#include "core/text.h"
+#include "platform/NumberBox.h"
+#include "platform/ShowTip.h"
+#include "platform/Text.h"
+#include "platform/Widgets.h"
+
+namespace {
+
+constexpr int longestNumber = 3;
+constexpr int boxHeight = 24;
+constexpr int inputTip = 6;
+
+const QColor white(255, 255, 255);
+const QColor grey(192, 192, 192);
+
+/// The colour of a box says whether it is in use, so it is the same whatever skin or theme.
+void Paint(QLineEdit& box, const QColor& background) {
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, background);
+    for (const auto role : {QPalette::Text, QPalette::WindowText}) {
+        palette.setColor(role, Qt::black);
+    }
+    box.setPalette(palette);
+}
+
+QLabel* MakeLetter(int group) {
+    QLabel* letter =
+        MakeLabel(Member(QStringLiteral("Label1"), group + 1), QString(QChar('A' + group)));
+    QFont font = letter->font();
+    font.setBold(true);
+    letter->setFont(font);
+    letter->setMinimumWidth(letter->fontMetrics().horizontalAdvance(QLatin1Char('W')));
+    letter->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return letter;
+}
+
+/// "A 2" for the second box of a group with a letter, "Number 2" without.
+QString SpokenName(const BoxGrouping& grouping, int index) {
+    if (!grouping.letters) return WheelFrame::tr("Number %1").arg(index + 1);
+    return QStringLiteral("%1 %2")
+        .arg(QChar('A' + index / grouping.boxesInGroup))
+        .arg(index % grouping.boxesInGroup + 1);
+}
+
+std::vector<QLabel*> LabelsOf(const QWidget& form, const std::array<std::string_view, 4>& names) {
+    std::vector<QLabel*> labels;
+    for (const std::string_view name : names) {
+        auto* label = form.findChild<QLabel*>(ToQString(std::string(name)));
+        if (!name.empty() && label != nullptr) labels.push_back(label);
+    }
+    return labels;
+}
+
+}  // namespace
+
+PlayButtonNames WheelButtonNames(const QString& help) {
+    PlayButtonNames names;
+    names.help = help;
+    names.filtersLabel = QStringLiteral("Label6");
+    return names;
+}
+
+WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+                       const BoxGrouping& grouping, int mostLines, QWidget* parent)
+    : PlayFrame(program, text, names, mostLines, parent),
+      rules_(wheels::RulesOf(FromQString(text.name))),
+      label8_(MakeLabel(QStringLiteral("Label8"), QString())) {
+    SetBusyRules(rules_.busy);
+    Column().addWidget(label8_);
+    Column().addLayout(BuildBoxes(grouping));
+    Column().addSpacing(4);
+    Column().addLayout(BuildRandomButtons());
+}
+
+QLayout* WheelFrame::BuildBoxes(const BoxGrouping& grouping) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(16);
+    for (int first = 0; first < rules_.boxes.count; first += grouping.boxesInGroup) {
+        const int group = first / grouping.boxesInGroup;
+        auto* row = new QHBoxLayout;
+        row->setSpacing(4);
+        if (grouping.letters) row->addWidget(MakeLetter(group));
+        for (int index = first; index < first + grouping.boxesInGroup; ++index) {
+            QLineEdit* box = BuildBox(index);
+            box->setAccessibleName(SpokenName(grouping, index));
+            row->addWidget(box, 1);
+        }
+        grid->addLayout(row, group / grouping.groupsInRow, group % grouping.groupsInRow);
+    }
+    return grid;
+}
+
+QLineEdit* WheelFrame::BuildBox(int index) {
+    const bool any = rules_.boxes.keys == wheels::BoxKeys::Any;
+    auto* box = Named(any ? new QLineEdit : new NumberBox, Member(QStringLiteral("Text1"), index));
+    box->setMaxLength(longestNumber);
+    box->setAlignment(Qt::AlignCenter);
+    box->setMinimumHeight(boxHeight);
+    box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
+    box->installEventFilter(this);
+    text1_.push_back(box);
+    return box;
+}
+
+QLayout* WheelFrame::BuildRandomButtons() {
+    QPushButton* selection = MakeButton(QStringLiteral("Command12"), tr("Random selection"));
+    QPushButton* order = MakeButton(QStringLiteral("Command8"), tr("Random order"));
+    connect(selection, &QPushButton::clicked, this, [this] { Change(rules_.boxes.select); });
+    connect(order, &QPushButton::clicked, this, [this] { Change(rules_.boxes.mix); });
+    auto* row = new QHBoxLayout;
+    row->addWidget(selection);
+    row->addWidget(order);
+    return row;
+}
+
+void WheelFrame::AddSizes(const QStringList& captions) {
+    for (const QString& caption : captions) {
+        const auto option = static_cast<int>(sizes_.size());
+        auto* size = Named(new QRadioButton(caption), Member(QStringLiteral("Option1"), option));
+        size->setChecked(option == 0);
+        connect(size, &QRadioButton::clicked, this, [this] { SizeChosen(); });
+        connect(size, &QRadioButton::toggled, this, [this](bool chosen) {
+            if (chosen) SizeChosen();
+        });
+        sizes_.push_back(size);
+        BesideList().addWidget(size);
+    }
+    BesideList().addStretch(1);
+}
+
+int WheelFrame::Size() const {
+    int option = 0;
+    while (!sizes_.at(static_cast<std::size_t>(option))->isChecked()) ++option;
+    return option;
+}
+
+void WheelFrame::Load() {
+    SizeChosen();
+    PlayFrame::Load();
+}
+
+SkinLabels WheelFrame::SkinnedLabels() const {
+    SkinLabels labels = PlayFrame::SkinnedLabels();
+    labels.small = LabelsOf(*this, rules_.skin.small);
+    labels.status = LabelsOf(*this, rules_.skin.status);
+    return labels;
+}
+
+void WheelFrame::UseBoxes(int count) {
+    wheels::Boxes boxes = Read();
+    wheels::ChooseSize(boxes, count, rules_.boxes.unusedTexts);
+    boxesInUse_ = count;
+    Write(boxes);
+}
+
+void WheelFrame::SetPrompt(const std::string& text) { label8_->setText(ToQString(text)); }
+
+wheels::Boxes WheelFrame::Read() const {
+    wheels::Boxes boxes;
+    for (const QLineEdit* box : text1_) {
+        const bool inUse = static_cast<int>(boxes.size()) < boxesInUse_;
+        boxes.push_back({.text = FromQString(box->text()), .inUse = inUse});
+    }
+    return boxes;
+}
+
+void WheelFrame::Write(const wheels::Boxes& boxes) {
+    for (std::size_t i = 0; i < boxes.size(); ++i) {
+        QLineEdit& box = *text1_[i];
+        const QString text = ToQString(boxes[i].text);
+        if (box.text() != text) box.setText(text);
+        Paint(box, boxes[i].inUse ? white : grey);
+        box.setEnabled(boxes[i].inUse || !rules_.boxes.unusedDisabled);
+    }
+}
+
+void WheelFrame::Change(void (*change)(State&, Random&, wheels::Boxes&)) {
+    wheels::Boxes boxes = Read();
+    change(state(), services().random, boxes);
+    Write(boxes);
+}
+
+void WheelFrame::DatabaseLoaded() {
+    ShowLottery();
+    wheels::Boxes boxes = Read();
+    wheels::EmptyInvalid(boxes, state().MaxNum);
+    Write(boxes);
+}
+
+void WheelFrame::Generate() {
+    wheels::Boxes boxes = Read();
+    const wheels::Outcome outcome = MakeLines(boxes);
+    Write(boxes);
+    if (outcome == wheels::Outcome::Done) {
+        ShowResult();
+        return;
+    }
+    ShowTip(services(), this, inputTip);
+    if (outcome == wheels::Outcome::CheckInput) FocusWrongBox();
+}
+
+// The message does not say which number it means; the cursor does.
+void WheelFrame::FocusWrongBox() {
+    const auto inUse = text1_.begin() + boxesInUse_;
+    const auto wrong = std::find_if(text1_.begin(), inUse, [this](const QLineEdit* box) {
+        const int number = LeadingWhole(FromQString(box->text()));
+        return number < 1 || number > state().MaxNum;
+    });
+    if (wrong == inUse) return;
+    (*wrong)->setFocus();
+    (*wrong)->selectAll();
+}
+
+void WheelFrame::MoveOn(const QObject* from) {
+    const auto box = std::find(text1_.begin(), text1_.end(), from);
+    if (box == text1_.end() || box + 1 == text1_.end()) return;
+    if ((*(box + 1))->isEnabled()) (*(box + 1))->setFocus();
+}
+
+// Enter in a box starts nothing, as it would in the rest of the form.
+bool WheelFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            if (rules_.boxes.keys == wheels::BoxKeys::DigitsAndEnter) MoveOn(watched);
+            return true;
+        }
+    }
+    return PlayFrame::eventFilter(watched, event);
+}

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+
+#include "platform/PlayFrame.h"
+#include "wheels/expansion.h"
+#include "wheels/number_boxes.h"
+#include "wheels/wheel_forms.h"
+
+class QLineEdit;
+class QRadioButton;
+
+/// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
+PlayButtonNames WheelButtonNames(const QString& help);
+
+/// How the number boxes of a form stand.
+struct BoxGrouping {
+    int boxesInGroup = 1;  ///< Boxes that stand close together.
+    int groupsInRow = 10;
+    bool letters = false;  ///< Whether "A", "B", ... stand before the groups, in `Label1(1)` on.
+};
+
+/// What the wheel forms with number boxes share, on the play frame: the boxes, in use and grey,
+/// their keys, random selection and random order, and a generate that reads and writes them. In
+/// what they differ stands in the form's row of `wheels/wheel_forms.h`.
+///
+/// A form on this frame tells `SizeChosen` and `MakeLines`. Choosing a lottery makes no lines, as
+/// the numbers are the user's.
+class WheelFrame : public PlayFrame {
+    Q_OBJECT
+  public:
+    void Load() override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    /// `text.name` finds the form's row of rules.
+    WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+               const BoxGrouping& grouping, int mostLines, QWidget* parent);
+
+    /// A size was chosen, or the form is loading: puts boxes to use and sets the prompt.
+    virtual void SizeChosen() = 0;
+
+    /// The form's own step with a lottery just loaded, before numbers that it does not have leave
+    /// their boxes.
+    virtual void ShowLottery() {}
+
+    /// Makes `state().Lines` from the boxes, whose texts and use are then shown as they were left.
+    virtual wheels::Outcome MakeLines(wheels::Boxes& boxes) = 0;
+
+    void Generate() override;
+    void DatabaseLoaded() override;
+    void LotteryChosen() override {}
+    SkinLabels SkinnedLabels() const override;
+
+    /// Adds the sizes `Option1(0)` onward beside the lottery list, the first one chosen. A choice,
+    /// by the user or in code, and a click on the one chosen already run `SizeChosen`.
+    void AddSizes(const QStringList& captions);
+
+    /// The first size that is chosen.
+    int Size() const;
+
+    QRadioButton& SizeOption(int option) { return *sizes_.at(static_cast<std::size_t>(option)); }
+
+    /// Puts the first `count` boxes to use.
+    void UseBoxes(int count);
+
+    /// The text of `Label8`, leading blanks and all.
+    void SetPrompt(const std::string& text);
+
+  private:
+    QLayout* BuildBoxes(const BoxGrouping& grouping);
+    QLineEdit* BuildBox(int index);
+    QLayout* BuildRandomButtons();
+    wheels::Boxes Read() const;
+    void Write(const wheels::Boxes& boxes);
+    void Change(void (*change)(State&, Random&, wheels::Boxes&));
+    void MoveOn(const QObject* from);
+    void FocusWrongBox();
+
+    const wheels::WheelFormRules& rules_;
+    QLabel* label8_;
+    std::vector<QLineEdit*> text1_;
+    std::vector<QRadioButton*> sizes_;
+    int boxesInUse_ = 0;
+};
