@@ -4,8 +4,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <string>
 
 #include "core/draw_database.h"
+#include "core/failure.h"
 #include "entries/saved_entries.h"
 #include "platform/DatePicker.h"
 #include "platform/Grid.h"
@@ -24,6 +26,8 @@ namespace {
 // The last grid row is the parking place of the current row: there, no row is chosen.
 constexpr int parkingRow = 99;
 constexpr int lastColumn = 11;
+constexpr int boxCount = 8;
+constexpr int extraBallBox = 8;
 
 // Rows move without their database file: a moved row takes the file name of its new place.
 constexpr int lastMovedColumn = 10;
@@ -49,11 +53,22 @@ void StoreMyDrawsW::Load() {
 void StoreMyDrawsW::List1_Click() {
     const Hourglass hourglass;
     LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
-    for (int index = 1; index <= 7; ++index) Text1(index)->setVisible(index <= state().Picks);
-    const bool hasExtraBall = state().MaxPball > 0;
-    Text1(8)->setVisible(hasExtraBall);
-    label2_->setVisible(hasExtraBall);
+    ShowBoxes();
     grid_->SetCurrentCell(parkingRow, 0);
+}
+
+void StoreMyDrawsW::ShowBoxes() {
+    if (state().Picks > boxCount) {
+        throw Failure(state().DbaseFile + ": an entry has " + std::to_string(boxCount) +
+                      " boxes for its numbers, but the lottery has " +
+                      std::to_string(state().Picks) + " numbers in a line.");
+    }
+    const bool hasExtraBall = state().MaxPball > 0;
+    for (int index = 1; index <= boxCount; ++index) {
+        const bool isExtraBall = hasExtraBall && index == extraBallBox;
+        Text1(index)->setVisible(index <= state().Picks || isExtraBall);
+    }
+    label2_->setVisible(hasExtraBall);
 }
 
 bool StoreMyDrawsW::NumbersAreValid() const {
@@ -65,7 +80,7 @@ bool StoreMyDrawsW::NumbersAreValid() const {
         if (!valid(index)) return false;
     }
     // The extra ball is held against the highest main number too.
-    return state().MaxPball <= 0 || valid(8);
+    return state().MaxPball <= 0 || valid(extraBallBox);
 }
 
 int StoreMyDrawsW::FirstEmptyRow() const {

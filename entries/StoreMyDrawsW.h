@@ -40,6 +40,7 @@ class StoreMyDrawsW final : public Form {
     void Command1_Click();
     void MSFlexGrid1_Click();
 
+    void ShowBoxes();
     bool NumbersAreValid() const;
     int FirstEmptyRow() const;
     void WriteEntry(int row);

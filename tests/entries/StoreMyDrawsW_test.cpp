@@ -8,6 +8,7 @@
 
 #include "platform/Grid.h"
 #include "platform/Lists.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -137,6 +138,26 @@ TEST_F(StoringEntries, ShowsTheBoxesThatTheLotteryFills) {
     EXPECT_FALSE(Find<QLabel>(*form_, "Label2")->isHidden());
     ChooseLottery(2);
     EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 6, 7}));
+}
+
+TEST_F(StoringEntries, TheEighthBoxTakesTheEighthNumberOfALotteryOfEight) {
+    AddLottery(test_.folder, "dbase103.txt", "Eight", "8,20,0,0,0");
+    Open();
+    ChooseLottery(3);
+    EXPECT_FALSE(Box(8).isHidden());
+    EXPECT_TRUE(Find<QLabel>(*form_, "Label2")->isHidden());
+    Add({1, 2, 3, 4, 5, 6, 7, 8});
+    EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,7,8,Eight,,dbase103.txt");
+    ChooseLottery(0);
+    EXPECT_TRUE(Box(8).isHidden());
+}
+
+TEST_F(StoringEntries, ALotteryOfNineNumbersEndsTheRun) {
+    AddLottery(test_.folder, "dbase103.txt", "Nine", "9,20,0,0,0");
+    Open();
+    EXPECT_EQ(FailureOf([this] { ChooseLottery(3); }),
+              "dbase103.txt: an entry has 8 boxes for its numbers, but the lottery has 9 numbers "
+              "in a line.");
 }
 
 TEST_F(StoringEntries, ChoosingALotteryReadsItsHeaderOnly) {
