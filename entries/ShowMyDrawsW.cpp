@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/ShowMyDrawsW.h"
 
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -137,7 +138,9 @@ void ShowMyDrawsW::Command6_Click() {
 
 void ShowMyDrawsW::Command7_Click() {
     const int row = grid_->CurrentRow();
-    grid_->MarkRow(row);
+    // The current cell stays where it is, as the edit box shows it.
+    grid_->selectionModel()->select(
+        grid_->currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (!Confirmed(tr("Delete this lottery entry?   "))) return;
     DeleteRow(entryTable_, static_cast<std::int16_t>(row));
     DisplayMyDraws();

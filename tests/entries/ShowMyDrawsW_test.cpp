@@ -203,6 +203,19 @@ TEST_F(ShowingEntries, ShowsTheFileAndStandsInItsFirstNumber) {
     EXPECT_EQ(date->date(), QDate(2005, 6, 1));
 }
 
+TEST_F(ShowingEntries, MakesItsColumnsAsWideAsTheTextsTheyAreMeantFor) {
+    Open();
+    const auto widthOf = [this](const char* text) {
+        return Entries().fontMetrics().horizontalAdvance(QString::fromLatin1(text));
+    };
+    EXPECT_EQ(Entries().columnWidth(0), widthOf("------DATE--------"));
+    for (int column = 1; column <= 8; ++column) {
+        EXPECT_EQ(Entries().columnWidth(column), widthOf("---NUM----")) << column;
+    }
+    EXPECT_EQ(Entries().columnWidth(9), widthOf("--------LOTTERY NAME---------"));
+    EXPECT_EQ(Entries().columnWidth(10), widthOf("-----PLAYER NAME---------"));
+}
+
 TEST_F(ShowingEntries, HalfARecordEndsTheRunAndTheFileStays) {
     test_.folder.Write("MyLottery.txt", "28 May 05,3,17\r\n");
     form_ = std::make_unique<ShowMyDrawsW>(test_.program, nullptr);
@@ -305,6 +318,7 @@ TEST_F(ShowingEntries, NeverChangesALottery) {
 TEST_F(ShowingEntries, LeavesAnEmptyCellEmpty) {
     Open();
     Enter(1, 7, "12");
+    Enter(1, 7, "99");
     Enter(4, 0, "28 May 05");
     EXPECT_EQ(Row(1), "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt");
     EXPECT_EQ(Row(4), ",,,,,,,,,,,");
@@ -392,6 +406,18 @@ TEST_F(ShowingEntries, ACancelledDeletionIsNoChange) {
     test_.messages.Expect(deleteThis, Answer::Cancel);
     Run("Command7");
     ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, ACancelledDeletionLeavesTheCurrentCellInTheEditBox) {
+    Open();
+    ClickCell(2, 4);
+    test_.messages.Expect(deleteThis, Answer::Cancel);
+    Run("Command7");
+    EXPECT_EQ(Entries().CurrentRow(), 2);
+    EXPECT_EQ(Entries().currentIndex().data().toString(), Item().text());
+    Item().setText(QStringLiteral("33"));
+    Run("Command10");
+    EXPECT_EQ(Row(2), "01-Jun-2005,4,9,15,33,30,,,6,UK Thunderball,Ann,dbase101.txt");
 }
 
 TEST_F(ShowingEntries, DeletesEntriesOfBeforeYesterday) {
