@@ -28,7 +28,8 @@ SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::str
 
 }  // namespace
 
-void SaveLines(Program& program, QWidget* form, const Grid& grid) {
+void SaveLines(Program& program, QWidget* form, Grid& grid) {
+    grid.SetCurrentCell(1, 1);
     if (grid.Cell(1, 1).isEmpty()) return;
     SaveEntries dialog(program, form);
     dialog.Load();

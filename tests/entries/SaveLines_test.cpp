@@ -48,6 +48,20 @@ TEST_F(SavingLines, DoesNothingWithAnEmptyGrid) {
     EXPECT_EQ(test_.messages.Shown(), 0);
 }
 
+TEST_F(SavingLines, LeavesTheFirstNumberCurrent) {
+    for (const int lines : {0, 3}) {
+        ShowSomeLines(lines);
+        grid_.SetCurrentCell(2, 5);
+        if (lines == 0) {
+            SaveLines(test_.program, nullptr, grid_);
+        } else {
+            Save([](QDialog& dialog) { Click(dialog, "Command7"); });
+        }
+        EXPECT_EQ(grid_.CurrentRow(), 1) << lines;
+        EXPECT_EQ(grid_.currentIndex().column(), 1) << lines;
+    }
+}
+
 TEST_F(SavingLines, BearsItsWords) {
     ShowSomeLines(1);
     Save([](QDialog& dialog) {

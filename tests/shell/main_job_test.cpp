@@ -26,7 +26,7 @@ struct ProgramRun {
         : folder(path),
           program{.state = test.state, .folder = folder, .services = test.services},
           window(program) {
-        test.services.saveLines = [this](QWidget* form, const Grid& grid) {
+        test.services.saveLines = [this](QWidget* form, Grid& grid) {
             SaveLines(program, form, grid);
         };
         window.Load();
