@@ -10,13 +10,12 @@
 #include "core/text.h"
 #include "entries/saved_entries.h"
 #include "platform/DatePicker.h"
-#include "platform/NumberBox.h"
 #include "platform/Text.h"
 #include "platform/Widgets.h"
 
 SaveEntries::SaveEntries(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("SaveEntries"), tr("Save lottery entries"), parent),
-      text1_(Named(new NumberBox, QStringLiteral("Text1"))),
+      text1_(Named(new QLineEdit, QStringLiteral("Text1"))),
       text2_(Named(new QLineEdit, QStringLiteral("Text2"))),
       dtPicker1_(Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
                        QStringLiteral("DTPicker1"))),
@@ -80,7 +79,7 @@ void SaveEntries::SetLineCount(int count) {
     text1_->selectAll();
 }
 
-int SaveEntries::LineCount() const { return text1_->Value(); }
+int SaveEntries::LineCount() const { return LeadingWhole(FromQString(text1_->text())); }
 
 std::string SaveEntries::PlayerName() const { return FromQString(text2_->text()); }
 

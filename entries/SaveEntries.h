@@ -4,8 +4,6 @@
 #include "platform/Form.h"
 
 class DatePicker;
-class NumberBox;
-class QFormLayout;
 class QLineEdit;
 class QPushButton;
 
@@ -21,6 +19,8 @@ class SaveEntries final : public Form {
     void Load() override;
 
     void SetLineCount(int count);
+
+    /// The number at the head of its box; 0 where there is none.
     int LineCount() const;
 
     /// The name as it stands in its box, in the encoding of the files.
@@ -31,7 +31,7 @@ class SaveEntries final : public Form {
     void Command7_Click();
     void Command1_Click();
 
-    NumberBox* text1_;
+    QLineEdit* text1_;
     QLineEdit* text2_;
     DatePicker* dtPicker1_;
     QPushButton* command7_;

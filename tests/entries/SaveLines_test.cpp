@@ -122,6 +122,21 @@ TEST_F(SavingLines, SavesAllWhereMoreAreAskedFor) {
     EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 3);
 }
 
+TEST_F(SavingLines, SavesAsManyAsTheNumberAtTheHeadOfTheBoxSays) {
+    const std::vector<std::pair<const char*, int>> records = {
+        {"2 of them", 2}, {" 1.8", 2}, {"two", 0}, {"-1", 1}};
+    for (const auto& [text, count] : records) {
+        test_.folder.Write("MyLottery.txt", "");
+        ShowSomeLines(5);
+        Save([box = text](QDialog& dialog) {
+            Type(dialog, "Text1", QString::fromLatin1(box));
+            Click(dialog, "Command7");
+        });
+        const std::string saved = Saved();
+        EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), count) << text;
+    }
+}
+
 TEST_F(SavingLines, SavesWhatTheGridShowsNotTheLinesBehindIt) {
     ShowSomeLines(1);
     test_.state.Lines(1, 1) = 49;
@@ -139,6 +154,7 @@ TEST_F(SavingLines, KeepsTheNameTrimmedAndTheDateInTheSettings) {
     });
     EXPECT_EQ(test_.state.Settings(17), "Ann");
     EXPECT_EQ(test_.state.Settings(18), "18-Jun-2005");
+    EXPECT_FALSE(test_.folder.Exists("quillon.ini"));
     EXPECT_EQ(Saved(), "18-Jun-2005,2,3,4,5,6,7,,,UK Lotto, Ann ,dbase100.txt\r\n");
 }
 
