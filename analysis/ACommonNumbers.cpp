@@ -109,7 +109,9 @@ void ACommonNumbers::DrawMainChart(const Counts& counts) {
     ShowCounts(*chart1_, counts, state().MaxNum);
 }
 
+// A header below zero tells of a ball but not of which: what the chart shows stays.
 void ACommonNumbers::DrawExtraChart(const Counts& counts) {
+    if (state().HasBonus <= 0 && state().MaxPball <= 0) return;
     const QString mode = coldMode_ ? tr("frequency (cold nums) ") : tr("frequency (hot nums) ");
     if (state().HasBonus > 0) chart2_->SetTitle(tr(" Bonus ") + mode);
     if (state().MaxPball > 0) chart2_->SetTitle(tr(" Powerball ") + mode);

@@ -175,6 +175,25 @@ TEST_F(CommonNumbersForm, ChartsTheExtraBallOfALotteryThatHasBoth) {
     EXPECT_EQ(ExtraChart().value(3, 1), 1);
 }
 
+TEST_F(CommonNumbersForm, LeavesTheSecondChartAsItIsWhereAFieldBelowZeroTellsOfABall) {
+    AddLottery(test_.folder, "dbase103.txt", "Odd", "2,9,1,-1,0", {"28 May 05,1,2,0,0,0,0,0,3"});
+    Open();
+    Choose(3);
+    EXPECT_EQ(MainChart().rowCount(), 9);
+    EXPECT_TRUE(ExtraChart().isVisible());
+    EXPECT_EQ(ExtraChart().title(), QStringLiteral(" Bonus frequency (hot nums) "));
+    EXPECT_EQ(ExtraChart().rowCount(), 49);
+}
+
+TEST_F(CommonNumbersForm, NamesTheSecondChartForTheBonusUntilALotteryFillsIt) {
+    for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
+    AddDailyPlay(test_.folder);
+    Open();
+    EXPECT_FALSE(ExtraChart().isVisible());
+    EXPECT_EQ(ExtraChart().title(), QStringLiteral("Bonus number frequency"));
+    EXPECT_EQ(ExtraChart().rowCount(), 0);
+}
+
 TEST_F(CommonNumbersForm, ShowsOneWideChartForALotteryWithNeither) {
     Open();
     const int beside = MainChart().width();
