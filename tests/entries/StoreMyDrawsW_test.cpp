@@ -248,6 +248,14 @@ TEST_F(StoringEntries, SaveAppendsTheGridAndClosesWithoutAQuestion) {
               "01 Jun 05,1,2,3,4,5,,,14,UK Thunderball,,dbase101.txt\r\n");
 }
 
+TEST_F(StoringEntries, SavingAnEmptyGridMakesAnEmptyFile) {
+    Open();
+    test_.messages.Expect(entriesSaved);
+    Click(*form_, "Command3");
+    EXPECT_FALSE(form_->isVisible());
+    EXPECT_EQ(test_.folder.Read("MyLottery.txt"), "");
+}
+
 TEST_F(StoringEntries, NothingReachesTheFileBeforeSave) {
     Open();
     Add({3, 17, 22, 34, 41, 48});
@@ -349,6 +357,22 @@ TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
     EXPECT_FALSE(TakeFailure());
     Add({1, 2, 3, 4, 5, 6});
     EXPECT_TRUE(TakeFailure());
+}
+
+TEST_F(StoringEntries, RowsMoveDownAsFarAsRow98) {
+    Open();
+    for (int entry = 1; entry <= 99; ++entry) {
+        Type(*form_, "TextPName", QString::number(entry));
+        Add({1, 2, 3, 4, 5, 6});
+    }
+    ClickRow(97);
+    Click(*form_, "Command6");
+    EXPECT_EQ(Entries().CurrentRow(), 98);
+    EXPECT_EQ(Entries().Cell(98, 10), QStringLiteral("97"));
+    Click(*form_, "Command6");
+    EXPECT_EQ(Entries().CurrentRow(), 98);
+    EXPECT_EQ(Entries().Cell(98, 10), QStringLiteral("97"));
+    EXPECT_EQ(Entries().Cell(99, 10), QStringLiteral("99"));
 }
 
 TEST_F(StoringEntries, ALockedDatabaseEndsTheRunAndNothingIsWritten) {

@@ -54,6 +54,7 @@ class HotNumbersForm : public testing::Test {
     TestProgram test_;
     std::unique_ptr<PHotNumbers> form_;
     int saves_ = 0;
+    int prints_ = 0;
 };
 
 TEST_F(HotNumbersForm, OpensWithTheWordsOfItsDesign) {
@@ -67,6 +68,7 @@ TEST_F(HotNumbersForm, OpensWithTheWordsOfItsDesign) {
     EXPECT_EQ(Text("Label1"), QStringLiteral("Select a lottery:"));
     EXPECT_EQ(Text("Label7"), QStringLiteral("Hot numbers"));
     EXPECT_EQ(Text("Label8"), QStringLiteral("Hot numbers"));
+    EXPECT_EQ(Text("Label6"), QStringLiteral("Filters"));
     const std::vector<std::pair<const char*, const char*>> buttons = {
         {"Option1(0)", "Hot numbers"},  {"Option1(1)", "Cold numbers"}, {"Command8", "Odd/even"},
         {"Command9", "High/low"},       {"Command10", "Long runs"},     {"Command4", " Help "},
@@ -179,19 +181,22 @@ TEST_F(HotNumbersForm, GeneratesAnewWithTheSeedOfTheClock) {
 }
 
 TEST_F(HotNumbersForm, DoesNothingWhileBusy) {
+    test_.services.printLines = [this](QWidget*, Grid&) { ++prints_; };
     Open();
     const QStringList before = Texts();
     test_.seed = 3;
     test_.state.Busy = -1;
-    for (const char* name :
-         {"Command2", "Command7", "Command8", "Command9", "Command10", "Command11"}) {
+    for (const char* name : {"Command2", "Command6", "Command7", "Command8", "Command9",
+                             "Command10", "Command11", "Option1(1)"}) {
         Click(*form_, name);
     }
     Find<ListBox>(*form_, "List1")->SetIndex(1);
     EXPECT_EQ(Texts(), before);
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
-    EXPECT_EQ(saves_, 0);
+    EXPECT_EQ(saves_ + prints_, 0);
     test_.state.Busy = 0;
+    Click(*form_, "Command6");
+    EXPECT_EQ(prints_, 1);
 }
 
 TEST_F(HotNumbersForm, FiltersTheLinesShown) {
