@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What every form keeps to, walked over the form catalogue.
 #include <QAccessible>
+#include <QBuffer>
+#include <QImage>
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "core/settings.h"
@@ -21,6 +24,42 @@ std::vector<CatalogueEntry> ExistingForms() {
 
 std::string TestName(const testing::TestParamInfo<CatalogueEntry>& form) {
     return std::string(form.param.form) + "_" + form.param.menuEntry;
+}
+
+const std::map<std::string, Qt::GlobalColor> pictures = {
+    {"SkinMain.jpg", Qt::red},        {"SkinPlay.jpg", Qt::green},
+    {"SkinDatabases.jpg", Qt::blue},  {"SkinAnalyse.jpg", Qt::cyan},
+    {"SkinFile.jpg", Qt::magenta},    {"SkinSyndicates.jpg", Qt::yellow},
+    {"SkinHelp.jpg", Qt::darkMagenta}};
+
+/// The background picture that the form wears; none where it is a small dialog.
+std::string PictureOf(const std::string& form) {
+    static const std::map<std::string, std::string> byForm = {
+        {"DeleteDbaseW", ""},
+        {"OpenDbase", ""},
+        {"SaveEntries", ""},
+        {"CreateDbase", "SkinDatabases.jpg"},
+        {"DbaseUpdateW", "SkinDatabases.jpg"},
+        {"HistoryW", "SkinDatabases.jpg"},
+        {"StoreMyDrawsW", "SkinDatabases.jpg"},
+        {"ShowMyDrawsW", "SkinDatabases.jpg"}};
+    const auto found = byForm.find(form);
+    if (found != byForm.end()) return found->second;
+    const bool ofFamily = form.size() > 1 && form[1] >= 'A' && form[1] <= 'Z';
+    if (ofFamily && form[0] == 'P') return "SkinPlay.jpg";
+    if (ofFamily && form[0] == 'A') return "SkinAnalyse.jpg";
+    if (ofFamily && form[0] == 'S') return "SkinSyndicates.jpg";
+    ADD_FAILURE() << "which picture does " << form << " wear?";
+    return {};
+}
+
+std::string PictureIn(const QColor& colour) {
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(colour);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    image.save(&buffer, "PNG");
+    return bytes.toStdString();
 }
 
 class EveryForm : public testing::TestWithParam<CatalogueEntry> {
@@ -151,13 +190,24 @@ TEST_P(EveryForm, OpensAHelpPageOnF1) {
 }
 
 TEST_P(EveryForm, TakesTheBackgroundColourOfTheSettings) {
-    // Small dialogs wear no skin.
-    const std::set<std::string> plain = {"DeleteDbaseW", "OpenDbase", "SaveEntries"};
-    if (plain.contains(GetParam().form)) return;
+    if (PictureOf(GetParam().form).empty()) return;
     program.state.Settings(10) = "2";
     program.state.Settings(5) = "&HC0FFC0";
     Open();
     EXPECT_EQ(form->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
+}
+
+TEST_P(EveryForm, WearsThePictureOfItsFamily) {
+    const std::string picture = PictureOf(GetParam().form);
+    program.state.Settings(10) = "1";
+    for (const auto& [name, colour] : pictures) {
+        program.folder.Write(name, PictureIn(colour));
+    }
+    Open();
+    const QColor corner = form->grab().toImage().pixelColor(1, 1);
+    for (const auto& [name, colour] : pictures) {
+        EXPECT_EQ(corner == QColor(colour), picture == name) << name;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, EveryForm, testing::ValuesIn(ExistingForms()), TestName);
