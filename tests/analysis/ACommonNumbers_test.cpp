@@ -10,6 +10,7 @@
 #include "platform/Chart.h"
 #include "platform/Lists.h"
 #include "tests/support/form_test.h"
+#include "tests/support/hourglass_watch.h"
 #include "tests/support/real_histories.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -242,6 +243,14 @@ TEST_F(CommonNumbersForm, ReadsTheDatabaseAgainOnAChangeOfMode) {
                {"01 Jun 05,40,41,42,43,44,45,0,9"});
     Click(*form_, "Option1(0)");
     EXPECT_EQ(Text("Label3"), QStringLiteral("40, 41, 42, 43, 44, 45, 1, 1, 1, 1"));
+}
+
+TEST_F(CommonNumbersForm, ShowsTheHourglassWhileALotteryIsLoadedAndCharted) {
+    Open();
+    const HourglassWatch watch(ExtraChart(), QEvent::HideToParent);
+    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    EXPECT_EQ(watch.UnderHourglass(), 1);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(CommonNumbersForm, LeavesNoFiguresOfTheLotteryBefore) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <algorithm>
 
 #include "entries/SaveEntries.h"
@@ -156,6 +157,16 @@ TEST_F(SavingLines, KeepsTheNameTrimmedAndTheDateInTheSettings) {
     EXPECT_EQ(test_.state.Settings(18), "18-Jun-2005");
     EXPECT_FALSE(test_.folder.Exists("quillon.ini"));
     EXPECT_EQ(Saved(), "18-Jun-2005,2,3,4,5,6,7,,,UK Lotto, Ann ,dbase100.txt\r\n");
+}
+
+TEST_F(SavingLines, LetsMessagesRunOnceTheDialogIsHidden) {
+    SaveEntries dialog(test_.program, nullptr);
+    dialog.Load();
+    dialog.show();
+    bool hidden = false;
+    QTimer::singleShot(0, &dialog, [&] { hidden = !dialog.isVisible(); });
+    Find<QPushButton>(dialog, "Command7")->click();
+    EXPECT_TRUE(hidden);
 }
 
 TEST_F(SavingLines, OffersTheLastNameAndTheNextDrawDate) {

@@ -10,6 +10,7 @@
 #include "platform/Lists.h"
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
+#include "tests/support/hourglass_watch.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
@@ -167,6 +168,14 @@ TEST_F(StoringEntries, ChoosingALotteryReadsItsHeaderOnly) {
     EXPECT_EQ(test_.state.LotteryName, "UK Thunderball");
     EXPECT_EQ(test_.state.MaxPball, 14);
     EXPECT_EQ(test_.state.Draws(1, 1), 33);
+}
+
+TEST_F(StoringEntries, ChoosingALotteryShowsTheHourglass) {
+    Open();
+    const HourglassWatch watch(*Find<QLabel>(*form_, "Label2"), QEvent::ShowToParent);
+    ChooseLottery(1);
+    EXPECT_EQ(watch.UnderHourglass(), 1);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(StoringEntries, BoxesDropEveryKeyButDigitsAndBackspace) {
@@ -340,6 +349,22 @@ TEST_F(StoringEntries, TheFirstRowDoesNotMoveUpNorTheLastDown) {
     EXPECT_EQ(Entries().CurrentRow(), 1);
 }
 
+TEST_F(StoringEntries, ARowMovesDownOnlyOverOneThatHasAFirstNumber) {
+    AddLottery(test_.folder, "dbase103.txt", "None", "0,20,0,0,0");
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    ChooseLottery(3);
+    Add({});
+    EXPECT_EQ(Row(2), "01 Jun 05,,,,,,,,,None,,dbase103.txt");
+    ClickRow(1);
+    Click(*form_, "Command6");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("1"));
+    ClickRow(2);
+    Click(*form_, "Command5");
+    EXPECT_EQ(Entries().Cell(2, 1), QStringLiteral("1"));
+}
+
 TEST_F(StoringEntries, RowCommandsDoNothingWhileNoRowIsChosen) {
     Open();
     Add({1, 2, 3, 4, 5, 6});
@@ -354,6 +379,8 @@ TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
     Open();
     for (int entry = 1; entry <= 99; ++entry) Add({1, 2, 3, 4, 5, 6});
     EXPECT_EQ(Entries().Cell(99, 1), QStringLiteral("1"));
+    const QRect added = Entries().visualRect(Entries().model()->index(98, 1));
+    EXPECT_TRUE(Entries().viewport()->rect().contains(added));
     EXPECT_FALSE(TakeFailure());
     Add({1, 2, 3, 4, 5, 6});
     EXPECT_TRUE(TakeFailure());

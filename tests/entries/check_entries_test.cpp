@@ -88,6 +88,13 @@ TEST_F(CheckingEntries, CountsABonusBallBesideTheMainNumbers) {
     EXPECT_EQ(Filled(check.Counts()), (Counted{{13, 1}}));
 }
 
+TEST_F(CheckingEntries, TakesABonusBelowZeroForNone) {
+    AddLottery(folder, "dbase1.txt", "None", "6,49,0,0,-1", {"28 May 05,1,2,3,10,11,12,0,4"});
+    const auto match = Check(Entry("28 May 05", {1, 2, 3, 4, 5, 6}, "dbase1.txt"));
+    EXPECT_EQ(Marks(*match), "yyywww.w");
+    EXPECT_EQ(Filled(check.Counts()), (Counted{{3, 1}}));
+}
+
 TEST_F(CheckingEntries, CountsAnExtraBallOnItsOwn) {
     const auto match = Check(Entry("28 May 05", {1, 2, 3, 5, 6}, "dbase101.txt", "6"));
     EXPECT_EQ(Marks(*match), "wwwww..r");
