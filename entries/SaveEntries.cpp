@@ -42,6 +42,7 @@ void SaveEntries::Build() {
         input->setAccessibleDescription(explanation->text());
         grid->addWidget(label, row, 0);
         grid->addWidget(input, row, 1);
+        explanation->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         grid->addWidget(explanation, row + 1, 1);
         grid->setRowMinimumHeight(row + 2, 12);
         row += 3;

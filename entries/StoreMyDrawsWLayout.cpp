@@ -18,6 +18,7 @@ namespace {
 
 constexpr int rowCount = 100;
 constexpr int columnCount = 12;
+constexpr int airBetweenBoxes = 4;
 
 }  // namespace
 
@@ -104,15 +105,15 @@ QLayout* StoreMyDrawsW::BuildTop() {
 
 QLayout* StoreMyDrawsW::BuildNumbers() {
     auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(0);
-    boxes->addSpacing(grid_->frameWidth() + grid_->columnWidth(0));
+    boxes->setSpacing(airBetweenBoxes);
+    boxes->addSpacing(grid_->frameWidth() + grid_->columnWidth(0) + airBetweenBoxes / 2);
     for (int index = 1; index <= 8; ++index) {
         NumberBox* box = Text1(index);
         // A hidden box keeps its place, so that each stands above its column.
         QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         policy.setRetainSizeWhenHidden(true);
         box->setSizePolicy(policy);
-        box->setFixedWidth(grid_->columnWidth(index));
+        box->setFixedWidth(grid_->columnWidth(index) - airBetweenBoxes);
         boxes->addWidget(box);
     }
     command2_ = MakeButton(QStringLiteral("Command2"), tr("Add"));

@@ -161,6 +161,25 @@ TEST_F(StoringEntries, ALotteryOfNineNumbersEndsTheRun) {
               "in a line.");
 }
 
+TEST_F(StoringEntries, EachBoxStandsAboveItsColumnAndApartFromItsNeighbour) {
+    Open();
+    for (const int lottery : {2, 1}) {
+        ChooseLottery(lottery);
+        QApplication::processEvents();
+        int lastRight = 0;
+        for (int index = 1; index <= 8; ++index) {
+            if (Box(index).isHidden()) continue;
+            const QRect box(Box(index).mapTo(form_.get(), QPoint()), Box(index).size());
+            const QPoint column(
+                Entries().columnViewportPosition(index) + Entries().columnWidth(index) / 2, 0);
+            const int middle = Entries().viewport()->mapTo(form_.get(), column).x();
+            EXPECT_NEAR(box.center().x(), middle, 2) << index;
+            EXPECT_GT(box.left(), lastRight + 2) << index;
+            lastRight = box.right();
+        }
+    }
+}
+
 TEST_F(StoringEntries, ChoosingALotteryReadsItsHeaderOnly) {
     test_.state.Draws(1, 1) = 33;
     Open();
