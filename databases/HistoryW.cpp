@@ -104,9 +104,6 @@ void HistoryW::MSFlexGrid1_RowColChange() {
     for (int index = 1; index <= 8; ++index) Text1(index)->setText(grid_->Cell(row, index));
     grid_->ScrollToRow(row);
     grid_->MarkRow(row);
-    // The last column is not shown, and the arrow keys start from a cell that is.
-    grid_->selectionModel()->setCurrentIndex(grid_->model()->index(row - 1, 8),
-                                             QItemSelectionModel::NoUpdate);
 }
 
 void HistoryW::Option2_Click() {

@@ -141,8 +141,14 @@ void Grid::SetCurrentCell(int row, int column) {
     if (index.isValid()) selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
 }
 
+int Grid::LastShownColumn() const {
+    int column = ColumnCount() - 1;
+    while (column > 0 && isColumnHidden(column)) --column;
+    return column;
+}
+
 void Grid::MarkRow(int row) {
-    SetCurrentCell(row, ColumnCount() - 1);
+    SetCurrentCell(row, LastShownColumn());
     if (row == parkingRow_ || row == 0) return;
     selectionModel()->select(currentIndex(),
                              QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);

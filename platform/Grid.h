@@ -53,7 +53,7 @@ class Grid final : public QTableView {
     /// Makes a cell current without marking anything; the parking row takes the choice away.
     void SetCurrentCell(int row, int column);
 
-    /// Makes the row current, its last column the current one, and marks the whole row.
+    /// Makes the row current, in the last column that is shown, and marks the whole row.
     void MarkRow(int row);
 
     void ScrollToTop();
@@ -75,6 +75,7 @@ class Grid final : public QTableView {
   private:
     QModelIndex IndexOf(int row, int column) const;
     void SetUpView();
+    int LastShownColumn() const;
     void FitWidth();
     void CopySelection() const;
 

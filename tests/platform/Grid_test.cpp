@@ -150,6 +150,18 @@ TEST_F(AGrid, MarksAWholeRowWithItsLastColumnCurrent) {
     EXPECT_EQ(grid.selectionModel()->selectedRows().first().row(), 2);
 }
 
+TEST_F(AGrid, MarksARowSoThatTheArrowKeysGoOnWhereTheLastColumnIsHidden) {
+    grid.SetColumnWidths({50, 70, 0});
+    grid.MarkRow(3);
+    EXPECT_EQ(grid.currentIndex().column(), 1);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(grid.CurrentRow(), 4);
+    grid.MarkRow(3);
+    EXPECT_EQ(grid.selectionModel()->selectedRows().size(), 1);
+    QTest::keyClick(&grid, Qt::Key_Up);
+    EXPECT_EQ(grid.CurrentRow(), 2);
+}
+
 TEST_F(AGrid, MarksOneRowAtATime) {
     grid.MarkRow(3);
     grid.MarkRow(2);
