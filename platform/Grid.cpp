@@ -56,9 +56,7 @@ Grid::Grid(int rowCount, int columnCount, QWidget* parent)
     setItemDelegate(new GridDelegate(this));
     SetUpView();
     SizeColumns();
-    connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& index) {
-        Q_EMIT cellClicked(index.row() + 1, index.column());
-    });
+    connect(this, &QAbstractItemView::clicked, this, &Grid::TellOfCell);
 }
 
 void Grid::SetUpView() {
@@ -168,6 +166,11 @@ void Grid::ScrollToRow(int row) {
     if (index.isValid()) scrollTo(index, EnsureVisible);
 }
 
+void Grid::TellOfCell(const QModelIndex& index) {
+    told_ = true;
+    Q_EMIT cellClicked(index.row() + 1, index.column());
+}
+
 void Grid::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Copy)) {
         CopySelection();
@@ -176,7 +179,20 @@ void Grid::keyPressEvent(QKeyEvent* event) {
     const QPersistentModelIndex before = currentIndex();
     QTableView::keyPressEvent(event);
     const QModelIndex now = currentIndex();
-    if (now.isValid() && now != before) Q_EMIT cellClicked(now.row() + 1, now.column());
+    if (now.isValid() && now != before) TellOfCell(now);
+}
+
+void Grid::mousePressEvent(QMouseEvent* event) {
+    currentBeforePress_ = currentIndex();
+    told_ = false;
+    QTableView::mousePressEvent(event);
+}
+
+// A drag and the other buttons make a cell current without a click on it.
+void Grid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex now = currentIndex();
+    if (!told_ && now.isValid() && now != currentBeforePress_) TellOfCell(now);
 }
 
 // Qt would make the first cell current, which takes a row out of its parking place.

@@ -65,11 +65,14 @@ class Grid final : public QTableView {
     void ScrollToRow(int row);
 
   Q_SIGNALS:
-    /// A click on a cell, or a move of the current cell by the keyboard. Rows as in the grid.
+    /// A click on a cell, or a move of the current cell by the keyboard, by dragging or by another
+    /// mouse button. Rows as in the grid.
     void cellClicked(int row, int column);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
   private:
@@ -77,8 +80,11 @@ class Grid final : public QTableView {
     void SetUpView();
     int LastShownColumn() const;
     void FitWidth();
+    void TellOfCell(const QModelIndex& index);
     void CopySelection() const;
 
     GridModel* model_;
     int parkingRow_ = 0;
+    QPersistentModelIndex currentBeforePress_;
+    bool told_ = false;  // whether the press that is on its way was told as a click
 };

@@ -61,11 +61,23 @@ class DrawsHistory : public testing::Test {
         return fields.join(QLatin1Char(',')).toStdString();
     }
 
-    void ClickRow(int row) {
+    QPoint PlaceOfRow(int row) {
+        return Draws().visualRect(Draws().model()->index(row - 1, 3)).center();
+    }
+
+    void ClickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
         Draws().ScrollToRow(row);
-        const QModelIndex index = Draws().model()->index(row - 1, 3);
-        QTest::mouseClick(Draws().viewport(), Qt::LeftButton, Qt::NoModifier,
-                          Draws().visualRect(index).center());
+        QTest::mouseClick(Draws().viewport(), button, Qt::NoModifier, PlaceOfRow(row));
+    }
+
+    void Drag(int fromRow, int toRow) {
+        QWidget* cells = Draws().viewport();
+        const QPoint end = PlaceOfRow(toRow);
+        QTest::mousePress(cells, Qt::LeftButton, Qt::NoModifier, PlaceOfRow(fromRow));
+        QMouseEvent move(QEvent::MouseMove, end, cells->mapToGlobal(end), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(cells, &move);
+        QTest::mouseRelease(cells, Qt::LeftButton, Qt::NoModifier, end);
     }
 
     void ExpectMarked(int row) {
@@ -171,6 +183,23 @@ TEST_F(DrawsHistory, AClickBelowTheDrawsSelectsTheLastOne) {
     ClickRow(9);
     ExpectMarked(3);
     EXPECT_EQ(PickedDate(), QDate(2005, 5, 21));
+}
+
+TEST_F(DrawsHistory, AnEditTakesTheDrawOnWhichADragEnded) {
+    Open();
+    Drag(1, 3);
+    ExpectMarked(3);
+    EXPECT_EQ(Box(1).text(), QStringLiteral("8"));
+    Click(*form_, "Command3");
+    EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,48,41,,9");
+    EXPECT_EQ(Row(3), "21 May 05,8,9,10,11,12,13,,14");
+}
+
+TEST_F(DrawsHistory, AnEditTakesTheDrawThatTheRightButtonChose) {
+    Open();
+    ClickRow(3, Qt::RightButton);
+    ExpectMarked(3);
+    EXPECT_EQ(Box(1).text(), QStringLiteral("8"));
 }
 
 TEST_F(DrawsHistory, TheArrowKeysMoveFromDrawToDraw) {

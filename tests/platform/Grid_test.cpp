@@ -212,6 +212,32 @@ TEST_F(AGrid, TellsOfAMoveByKeyboard) {
     EXPECT_EQ(clicks.count(), 1);
 }
 
+TEST_F(AGrid, TellsOfTheCellOnWhichADragEnds) {
+    QTest::mousePress(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Place(1, 1));
+    QMouseEvent move(QEvent::MouseMove, Place(4, 2), grid.viewport()->mapToGlobal(Place(4, 2)),
+                     Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(grid.viewport(), &move);
+    QTest::mouseRelease(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Place(4, 2));
+    ASSERT_EQ(clicks.count(), 1);
+    EXPECT_EQ(clicks[0][0].toInt(), 4);
+    EXPECT_EQ(grid.CurrentRow(), 4);
+}
+
+TEST_F(AGrid, TellsOfACellThatAnotherButtonMakesCurrent) {
+    grid.SetCurrentCell(1, 0);
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, Qt::NoModifier, Place(3, 1));
+    ASSERT_EQ(clicks.count(), 1);
+    EXPECT_EQ(clicks[0][0].toInt(), grid.CurrentRow());
+    EXPECT_EQ(grid.CurrentRow(), 3);
+}
+
+TEST_F(AGrid, TellsOnceOfAClickThatMarksTheRow) {
+    QObject::connect(&grid, &Grid::cellClicked, &grid, [this](int row) { grid.MarkRow(row); });
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Place(3, 0));
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Place(3, 0));
+    EXPECT_EQ(clicks.count(), 2);
+}
+
 TEST_F(AGrid, CopiesWhatIsMarkedWithItsHeadings) {
     for (int column = 0; column < 3; ++column) {
         grid.SetCell(0, column, QStringLiteral("Num%1").arg(column));
