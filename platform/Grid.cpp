@@ -202,10 +202,19 @@ void Grid::focusInEvent(QFocusEvent* event) {
     if (nothingCurrent) selectionModel()->clearCurrentIndex();
 }
 
+bool Grid::RowIsEmpty(int row) const {
+    for (int column = 0; column < ColumnCount(); ++column) {
+        if (!isColumnHidden(column) && !Cell(row, column).isEmpty()) return false;
+    }
+    return true;
+}
+
 void Grid::CopySelection() const {
     const QItemSelection selection = selectionModel()->selection();
     if (selection.isEmpty()) return;
     const QItemSelectionRange& range = selection.first();
+    int last = range.bottom() + 1;
+    while (last > range.top() && RowIsEmpty(last)) --last;
     QString text;
     const auto addRow = [&](int row) {
         QStringList cells;
@@ -215,6 +224,6 @@ void Grid::CopySelection() const {
         text += cells.join(QLatin1Char('\t')) + QLatin1Char('\n');
     };
     addRow(0);
-    for (int row = range.top() + 1; row <= range.bottom() + 1; ++row) addRow(row);
+    for (int row = range.top() + 1; row <= last; ++row) addRow(row);
     QGuiApplication::clipboard()->setText(text);
 }

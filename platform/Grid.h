@@ -77,6 +77,7 @@ class Grid final : public QTableView {
 
   private:
     QModelIndex IndexOf(int row, int column) const;
+    bool RowIsEmpty(int row) const;
     void SetUpView();
     int LastShownColumn() const;
     void FitWidth();

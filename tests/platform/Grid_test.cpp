@@ -249,6 +249,28 @@ TEST_F(AGrid, CopiesWhatIsMarkedWithItsHeadings) {
               QStringLiteral("Num0\tNum1\tNum2\n10\t11\t12\n"));
 }
 
+TEST_F(AGrid, CopiesEverythingButTheEmptyRowsBehindTheLastText) {
+    grid.SetCell(0, 0, QStringLiteral("Date"));
+    grid.SetCell(1, 0, QStringLiteral("a"));
+    grid.SetCell(3, 1, QStringLiteral("b"));
+    grid.SetCurrentCell(1, 0);
+    QTest::keyClick(&grid, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringLiteral("Date\t\t\na\t\t\n\t\t\n\tb\t\n"));
+}
+
+TEST_F(AGrid, CopiesAnEmptyCellOfARowThatIsNotEmpty) {
+    grid.SetCell(0, 2, QStringLiteral("Bonus"));
+    grid.SetCell(1, 2, QStringLiteral("9"));
+    grid.SetCell(2, 0, QStringLiteral("a"));
+    grid.selectionModel()->select(
+        QItemSelection(grid.model()->index(0, 2), grid.model()->index(4, 2)),
+        QItemSelectionModel::ClearAndSelect);
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("Bonus\n9\n\n"));
+}
+
 TEST_F(AGrid, ScrollsToItsTopAndToARow) {
     grid.SetRowCount(200);
     grid.ScrollToRow(199);
