@@ -149,6 +149,17 @@ TEST_F(CreatingADatabase, MovingABarShowsItsValueAndTheNumberOfNumbers) {
     EXPECT_EQ(VisibleBoxes(), 7);
 }
 
+TEST_F(CreatingADatabase, EachBarShowsTheNumberOfNumbers) {
+    for (const auto& [bar, value] :
+         {std::pair("HScroll1", 5), {"HScroll2", 34}, {"HScroll3", 20}}) {
+        Open();
+        EXPECT_EQ(Text("Label7"), QStringLiteral("Enter draw result:"));
+        Bar(bar).setValue(value);
+        const int count = std::string(bar) == "HScroll1" ? 5 : 6;
+        EXPECT_EQ(Text("Label7"), QStringLiteral("Enter %1 numbers").arg(count)) << bar;
+    }
+}
+
 TEST_F(CreatingADatabase, ThePowerballTypeOffersTheExtraBall) {
     Open();
     Type(1).click();
@@ -184,6 +195,28 @@ TEST_F(CreatingADatabase, ATemplateWithoutExtraBallSelectsTheStandardType) {
     EXPECT_TRUE(Hidden("HScroll3"));
     EXPECT_EQ(Text("Label12"), QStringLiteral("Bonus"));
     EXPECT_EQ(VisibleBoxes(), 7);
+}
+
+TEST_F(CreatingADatabase, ATemplateWithTwoExtraBallsIsOfThePowerballType) {
+    test_.folder.Write("LotteryTemplates.txt", "Two,5,50,1,2,\r\n");
+    Open();
+    ChooseTemplate(0);
+    EXPECT_TRUE(Type(1).isChecked());
+    EXPECT_EQ(Bar("HScroll3").value(), 2);
+}
+
+TEST_F(CreatingADatabase, TheLabelsShowTheFieldsOfATemplateAsTheyStand) {
+    test_.folder.Write("LotteryTemplates.txt", "Odd,05 of,034,x,14.0,\r\n");
+    Open();
+    ChooseTemplate(0);
+    EXPECT_EQ(Bar("HScroll1").value(), 5);
+    EXPECT_EQ(Text("Label2"), QStringLiteral("05 of"));
+    EXPECT_EQ(Text("Label6"), QStringLiteral("034"));
+    EXPECT_EQ(Text("Label8"), QStringLiteral("14.0"));
+    EXPECT_EQ(Line("Text2").text(), QString());
+    EnterDraw({1, 2, 3, 4, 5});
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(), "Odd\r\n\r\n05 of,034,1,14.0,0\r\n01 Jun 05,1,2,3,4,5,,,\r\n");
 }
 
 TEST_F(CreatingADatabase, TheWebAddressOfATemplateMayHoldCommas) {
@@ -233,6 +266,14 @@ TEST_F(CreatingADatabase, ANumberInTheBonusBoxMakesABonusLottery) {
     EXPECT_EQ(Created(), "\r\nhttp://\r\n6,49,1,0,1\r\n19 Nov 94,1,2,3,4,5,6,,60\r\n");
 }
 
+TEST_F(CreatingADatabase, AZeroInTheBonusBoxMakesNoBonusLottery) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    Box(7).setText(QStringLiteral("0"));
+    Click(*form_, "Command1");
+    EXPECT_EQ(Created(), "\r\nhttp://\r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,6,,0\r\n");
+}
+
 TEST_F(CreatingADatabase, APowerballTypeHasNoBonusWhateverItsBoxHolds) {
     Open();
     ChooseTemplate(1);
@@ -264,6 +305,13 @@ TEST_F(CreatingADatabase, RefusesANumberOutsideTheFieldAndStaysOpen) {
         EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
         EXPECT_EQ(test_.folder.Snapshot(), before);
     }
+}
+
+TEST_F(CreatingADatabase, EnterSaves) {
+    Open();
+    EnterDraw({1, 2, 3, 4, 5, 6});
+    QTest::keyClick(&Box(5), Qt::Key_Return);
+    EXPECT_TRUE(test_.folder.Exists("dbase1.txt"));
 }
 
 TEST_F(CreatingADatabase, TakesRepeats) {

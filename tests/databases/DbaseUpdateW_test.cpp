@@ -112,6 +112,9 @@ TEST_F(UpdatingADatabase, ShowsPowerballWhereALotteryHasABonusBallToo) {
 TEST_F(UpdatingADatabase, TitlesNothingWithoutBonusAndExtraBall) {
     AddLottery(test_.folder, "dbase1.txt", "Plain", "5,49,1,0,0", {"28-May-2005,1,2,3,4,5,,,"});
     Open();
+    ChooseLottery(1);
+    EXPECT_EQ(Text("Label7"), QStringLiteral("Bonus"));
+    ChooseLottery(0);
     EXPECT_EQ(Text("Label7"), QString());
     EXPECT_EQ(Text("Label13"), QStringLiteral("Last update was\r\n28-May-2005"));
     EXPECT_EQ(VisibleBoxes(), (std::vector<int>{0, 1, 2, 3, 4}));
@@ -188,6 +191,22 @@ TEST_F(UpdatingADatabase, TakesTheHighestNumberRepeatsAndAnyBonus) {
     Box(7).setText(QStringLiteral("99"));
     Save(std::vector<QString>(6, QStringLiteral("49")), QDate(2005, 6, 1));
     EXPECT_NE(test_.folder.Read("dbase100.txt").find("01 Jun 05,49,49,49,49,49,49,,99\r\n"),
+              std::string::npos);
+}
+
+TEST_F(UpdatingADatabase, EnterSaves) {
+    Open();
+    for (int index = 0; index <= 5; ++index) Box(index).setText(QStringLiteral("8"));
+    QTest::keyClick(&Box(5), Qt::Key_Return);
+    EXPECT_EQ(Text("Label13"), QStringLiteral("01 Jun 05"));
+}
+
+TEST_F(UpdatingADatabase, WritesTheTextsAsTheyStand) {
+    Open();
+    Save({QStringLiteral("007"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
+          QStringLiteral("5"), QStringLiteral("06")},
+         QDate(2005, 6, 1));
+    EXPECT_NE(test_.folder.Read("dbase100.txt").find("01 Jun 05,007,2,3,4,5,06,,\r\n"),
               std::string::npos);
 }
 

@@ -22,6 +22,10 @@ const Message cannotDeleteLastLine{.title = QStringLiteral("Warning"),
                                    .text = QStringLiteral("Can't delete last line!    "),
                                    .sign = Sign::Exclamation};
 
+std::vector<std::string> ManyDraws(int count) {
+    return std::vector<std::string>(static_cast<std::size_t>(count), "28 May 05,1,2,3,4,5,6,0,7");
+}
+
 class DrawsHistory : public testing::Test {
   protected:
     DrawsHistory() {
@@ -79,6 +83,8 @@ class DrawsHistory : public testing::Test {
         QApplication::sendEvent(cells, &move);
         QTest::mouseRelease(cells, Qt::LeftButton, Qt::NoModifier, end);
     }
+
+    int TopRow() { return Draws().rowAt(0) + 1; }
 
     void ExpectMarked(int row) {
         EXPECT_EQ(Draws().CurrentRow(), row);
@@ -161,6 +167,12 @@ TEST_F(DrawsHistory, WithoutBonusAndExtraBallTheLastColumnStaysEmpty) {
     EXPECT_EQ(Row(1), "28 May 05,1,2,3,4,5,6,,");
 }
 
+TEST_F(DrawsHistory, OnlyAOneInTheRulesMakesABonusColumn) {
+    OpenOn("6,49,1,0,2", {"28 May 05,1,2,3,4,5,6,0,7"});
+    EXPECT_EQ(Draws().Cell(0, 8), QString());
+    EXPECT_EQ(Draws().Cell(1, 8), QString());
+}
+
 TEST_F(DrawsHistory, TheNewestDrawHeadsTheColumns) {
     OpenOn("6,49,0,0,0", {"28 May 05,1,2,3,4,5,6,0,0", "25 May 05,1,2,3,4,5,6,7,0"});
     EXPECT_EQ(Draws().Cell(0, 7), QString());
@@ -183,6 +195,28 @@ TEST_F(DrawsHistory, AClickBelowTheDrawsSelectsTheLastOne) {
     ClickRow(9);
     ExpectMarked(3);
     EXPECT_EQ(PickedDate(), QDate(2005, 5, 21));
+}
+
+TEST_F(DrawsHistory, AClickFarBelowTheDrawsBringsTheLastOneToTheTop) {
+    Open();
+    ClickRow(2000);
+    ExpectMarked(3);
+    EXPECT_EQ(TopRow(), 3);
+}
+
+TEST_F(DrawsHistory, AClickOnADrawInViewDoesNotScroll) {
+    OpenOn("6,49,0,0,1", ManyDraws(300));
+    Draws().SetTopRow(100);
+    ClickRow(105);
+    ExpectMarked(105);
+    EXPECT_EQ(TopRow(), 100);
+}
+
+TEST_F(DrawsHistory, AChoiceOfALotteryScrollsToTheNewestDraw) {
+    OpenOn("6,49,0,0,1", ManyDraws(300));
+    Draws().SetTopRow(100);
+    ChooseLottery(1);
+    EXPECT_EQ(TopRow(), 1);
 }
 
 TEST_F(DrawsHistory, AnEditTakesTheDrawOnWhichADragEnded) {
@@ -234,6 +268,20 @@ TEST_F(DrawsHistory, EachBoxStandsUnderItsColumn) {
     }
 }
 
+TEST_F(DrawsHistory, ItsColumnsHoldNineZerosAndTheDateFourteen) {
+    Open();
+    const QFontMetrics metrics = Draws().fontMetrics();
+    int columns = 0;
+    for (int column = 0; column <= 8; ++column) {
+        const int zeros = column == 0 ? 14 : 9;
+        EXPECT_EQ(Draws().columnWidth(column),
+                  metrics.horizontalAdvance(QString(zeros, QLatin1Char('0'))));
+        columns += Draws().columnWidth(column);
+    }
+    const int scrollBar = Draws().style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    EXPECT_EQ(Draws().width(), columns + scrollBar + 6 + 2 * Draws().frameWidth());
+}
+
 TEST_F(DrawsHistory, BoxesDropEveryKeyButDigitsAndBackspace) {
     Open();
     Box(1).clear();
@@ -276,6 +324,30 @@ TEST_F(DrawsHistory, DrawOrderComesBackWithTheFirstDrawSelected) {
     EXPECT_EQ(Box(1).text(), QStringLiteral("34"));
 }
 
+TEST_F(DrawsHistory, AscendingOrderComesBackAfterDrawOrder) {
+    Open();
+    ShowAscending();
+    ShowInDrawOrder();
+    ShowAscending();
+    EXPECT_EQ(Row(1), "28 May 05,3,17,22,34,41,48,,9");
+    EXPECT_FALSE(CanEdit());
+}
+
+TEST_F(DrawsHistory, DrawOrderShowsTheEighthNumberEvenWhereTheLotteryHasNone) {
+    OpenOn("6,49,1,0,0", {"28 May 05,6,5,4,3,2,1,0,7"});
+    ShowAscending();
+    ShowInDrawOrder();
+    EXPECT_EQ(Row(1), "28 May 05,6,5,4,3,2,1,,7");
+}
+
+TEST_F(DrawsHistory, DrawOrderWritesNothingWhereADrawHasNoNumber) {
+    OpenOn("6,49,1,0,0", {"28 May 05,9,8,7,6,5,0,0,0"});
+    ShowAscending();
+    EXPECT_EQ(Row(1), "28 May 05,0,5,6,7,8,9,,");
+    ShowInDrawOrder();
+    EXPECT_EQ(Row(1), "28 May 05,9,8,7,6,5,9,,");
+}
+
 TEST_F(DrawsHistory, EveryChoiceOfALotteryReturnsToDrawOrder) {
     Open();
     ShowAscending();
@@ -283,6 +355,15 @@ TEST_F(DrawsHistory, EveryChoiceOfALotteryReturnsToDrawOrder) {
     EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1")->isChecked());
     EXPECT_FALSE(Find<QRadioButton>(*form_, "Option2")->isChecked());
     EXPECT_TRUE(CanEdit());
+}
+
+TEST_F(DrawsHistory, AChoiceInAscendingOrderShowsTheColumnsOfTheNewLottery) {
+    OpenOn("6,49,1,0,0", {"28 May 05,6,5,4,3,2,1,0,7"});
+    ChooseLottery(1);
+    ShowAscending();
+    ChooseLottery(0);
+    EXPECT_EQ(Row(0), "Date,Num1,Num2,Num3,Num4,Num5,Num6,,");
+    EXPECT_EQ(Row(1), "28 May 05,6,5,4,3,2,1,,");
 }
 
 TEST_F(DrawsHistory, DeleteRemovesTheSelectedDrawWithoutAQuestion) {
@@ -359,6 +440,17 @@ TEST_F(DrawsHistory, AnUpdateChecksNoNumbers) {
     EXPECT_EQ(Row(1), "28 May 05,99,,22,3,48,41,,9");
 }
 
+TEST_F(DrawsHistory, AnUpdateKeepsTheNumberOfAHiddenBox) {
+    OpenOn("6,49,1,0,0", {"28 May 05,1,2,3,4,5,6,0,0", "25 May 05,1,2,3,4,5,6,7,0"});
+    ClickRow(2);
+    EXPECT_TRUE(Box(7).isHidden());
+    Box(1).setText(QStringLiteral("9"));
+    Click(*form_, "Command3");
+    EXPECT_EQ(Database("dbase1.txt"),
+              "Mine\r\n\r\n6,49,1,0,0\r\n"
+              "28 May 05,1,2,3,4,5,6,0,0\r\n25 May 05,9,2,3,4,5,6,7,\r\n");
+}
+
 TEST_F(DrawsHistory, EnterInABoxUpdatesAndElsewhereChangesNothing) {
     Open();
     const auto before = test_.folder.Snapshot();
@@ -424,10 +516,6 @@ TEST_F(DrawsHistory, ADateThatCannotBeReadEndsTheRunWhenItsDrawIsChosen) {
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("dbase1.txt, line 5"), std::string::npos) << *failure;
     EXPECT_NE(failure->find("someday"), std::string::npos);
-}
-
-std::vector<std::string> ManyDraws(int count) {
-    return std::vector<std::string>(static_cast<std::size_t>(count), "28 May 05,1,2,3,4,5,6,0,7");
 }
 
 TEST_F(DrawsHistory, ShowsAsManyDrawsAsEveryRoutineCanWalk) {

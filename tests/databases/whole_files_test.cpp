@@ -68,6 +68,12 @@ TEST_F(OpeningADatabase, ADoubleClickOpensAtOnce) {
     EXPECT_FALSE(form_->isVisible());
 }
 
+TEST_F(OpeningADatabase, EnterOpens) {
+    QTest::keyClick(&Lotteries(), Qt::Key_Down);
+    QTest::keyClick(&Lotteries(), Qt::Key_Return);
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("dbase100.txt")});
+}
+
 TEST_F(OpeningADatabase, LeavesTheDrawsInMemory) {
     test_.state.Draws(1, 1) = 33;
     Lotteries().SetIndex(0);
