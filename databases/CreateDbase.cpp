@@ -5,7 +5,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScrollBar>
-#include <algorithm>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -98,15 +97,8 @@ void CreateDbase::List1_Click() {
 
 void CreateDbase::Command2_Click() { services().openPage(text2_->text()); }
 
-bool CreateDbase::NumbersAreValid() const {
-    return std::all_of(text1_.begin(), text1_.begin() + hScroll1_->value(),
-                       [this](const NumberBox* box) {
-                           return box->Value() >= 1 && box->Value() <= hScroll2_->value();
-                       });
-}
-
 void CreateDbase::Command1_Click() {
-    if (!NumbersAreValid()) {
+    if (!NumbersAreWithin(text1_, hScroll1_->value(), hScroll2_->value())) {
         services().messages.Show(this, {.title = tr("Oops!"),
                                         .text = tr("Incorrect draw result...    "),
                                         .sign = Sign::Exclamation});

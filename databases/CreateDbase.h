@@ -3,11 +3,11 @@
 
 #include <array>
 
+#include "databases/FormParts.h"
 #include "platform/Form.h"
 
 class DatePicker;
 class ListBox;
-class NumberBox;
 class QLayout;
 class QLineEdit;
 class QPushButton;
@@ -33,7 +33,6 @@ class CreateDbase final : public Form {
     QLayout* BuildLottery();
     QLayout* BuildRules();
     QLayout* BuildDraw();
-    QLayout* BuildActions();
     void Connect();
 
     void List1_Click();
@@ -46,14 +45,13 @@ class CreateDbase final : public Form {
     void CancelButton_Click();
 
     void ShowNumberCount();
-    bool NumbersAreValid() const;
 
     std::array<QLabel*, 19> label_{};  // by the number in the name; some numbers have no label
     ListBox* list1_;
     ListBox* list2_;
     QLineEdit* text2_;
     QLineEdit* text3_;
-    std::array<NumberBox*, 8> text1_;
+    DrawBoxes text1_;
     QScrollBar* hScroll1_;
     QScrollBar* hScroll2_;
     QScrollBar* hScroll3_;

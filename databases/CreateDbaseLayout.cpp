@@ -16,7 +16,6 @@
 
 namespace {
 
-constexpr int boxWidth = 52;
 constexpr int barWidth = 240;
 
 QScrollBar* MakeBar(const QString& name, int least, int most, int value) {
@@ -42,15 +41,7 @@ CreateDbase::CreateDbase(Program& program, QWidget* parent)
     columns->addLayout(BuildLists(), 2);
     columns->addSpacing(24);
     columns->addLayout(BuildLottery(), 3);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
-    layout->addWidget(label_[17]);
-    layout->addWidget(label_[16]);
-    layout->addSpacing(8);
-    layout->addLayout(columns, 1);
-    layout->addSpacing(8);
-    layout->addLayout(BuildActions());
+    LayOutForm(this, label_[17], label_[16], columns, BuildActionRow({command1_}, cancelButton_));
     TabInReadingOrder();
     Connect();
     SetCloseButton(cancelButton_);
@@ -88,18 +79,11 @@ void CreateDbase::MakeTexts() {
 }
 
 void CreateDbase::MakeLists() {
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label_[3]->text());
-    label_[3]->setBuddy(list1_);
-    list2_ = Named(new ListBox, QStringLiteral("List2"));
-    list2_->setAccessibleName(label_[15]->text());
-    label_[15]->setBuddy(list2_);
-    text3_ = Named(new QLineEdit, QStringLiteral("Text3"));
-    text3_->setAccessibleName(label_[1]->text());
-    label_[1]->setBuddy(text3_);
-    text2_ = Named(new QLineEdit(QStringLiteral("http://")), QStringLiteral("Text2"));
-    text2_->setAccessibleName(label_[4]->text());
-    label_[4]->setBuddy(text2_);
+    list1_ = Titled(label_[3], Named(new ListBox, QStringLiteral("List1")));
+    list2_ = Titled(label_[15], Named(new ListBox, QStringLiteral("List2")));
+    text3_ = Titled(label_[1], Named(new QLineEdit, QStringLiteral("Text3")));
+    text2_ =
+        Titled(label_[4], Named(new QLineEdit(QStringLiteral("http://")), QStringLiteral("Text2")));
 }
 
 void CreateDbase::MakeRules() {
@@ -129,16 +113,8 @@ void CreateDbase::MakeRules() {
 void CreateDbase::MakeDraw() {
     dtPicker1_ = Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
                        QStringLiteral("DTPicker1"));
-    dtPicker1_->setAccessibleName(label_[5]->text());
-    label_[5]->setBuddy(dtPicker1_);
-    for (int index = 0; index < 8; ++index) {
-        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), index));
-        box->setAccessibleName(index == 7 ? tr("Bonus or extra ball")
-                                          : tr("Number %1").arg(index + 1));
-        box->setAlignment(Qt::AlignCenter);
-        box->setFixedWidth(boxWidth);
-        text1_[static_cast<std::size_t>(index)] = box;
-    }
+    Titled(label_[5], dtPicker1_);
+    text1_ = MakeDrawBoxes(0);
     text1_[6]->hide();
 }
 
@@ -204,37 +180,12 @@ QLayout* CreateDbase::BuildDraw() {
     date->addWidget(label_[5]);
     date->addWidget(dtPicker1_);
     date->addStretch(1);
-    auto* mainBoxes = new QHBoxLayout;
-    mainBoxes->setSpacing(4);
-    for (std::size_t i = 0; i < 7; ++i) mainBoxes->addWidget(text1_[i]);
-    mainBoxes->addStretch(1);
-    auto* mainNumbers = new QVBoxLayout;
-    mainNumbers->setSpacing(4);
-    mainNumbers->addWidget(label_[7]);
-    mainNumbers->addLayout(mainBoxes);
-    auto* lastNumber = new QVBoxLayout;
-    lastNumber->setSpacing(4);
-    lastNumber->addWidget(label_[12]);
-    lastNumber->addWidget(text1_[7]);
-    auto* numbers = new QHBoxLayout;
-    numbers->addLayout(mainNumbers);
-    numbers->addSpacing(8);
-    numbers->addLayout(lastNumber);
-    numbers->addStretch(1);
     auto* draw = new QVBoxLayout;
     draw->addWidget(label_[13]);
     draw->addSpacing(4);
     draw->addLayout(date);
-    draw->addLayout(numbers);
+    draw->addLayout(BuildDrawBoxes(label_[7], label_[12], text1_));
     return draw;
-}
-
-QLayout* CreateDbase::BuildActions() {
-    auto* row = new QHBoxLayout;
-    row->addWidget(command1_);
-    row->addStretch(1);
-    row->addWidget(cancelButton_);
-    return row;
 }
 
 void CreateDbase::Connect() {

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "databases/FormParts.h"
 #include "platform/Lists.h"
 #include "platform/LotteryList.h"
 #include "platform/Widgets.h"
@@ -14,22 +15,17 @@ DatabaseListForm::DatabaseListForm(Program& program, const QString& name, const 
                                    QWidget* parent)
     : Form(program, name, caption, parent), list1_(Named(new ListBox, QStringLiteral("List1"))) {
     auto* label3 = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
-    list1_->setAccessibleName(label3->text());
-    label3->setBuddy(list1_);
+    Titled(label3, list1_);
     command2->setDefault(true);
     auto* command1 = MakeButton(QStringLiteral("Command1"), closeCaption);
     SetCloseButton(command1);
 
-    auto* actions = new QHBoxLayout;
-    actions->addWidget(command2);
-    actions->addStretch(1);
-    actions->addWidget(command1);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 12, 16, 16);
     layout->setSpacing(8);
     layout->addWidget(label3);
     layout->addWidget(list1_, 1);
-    layout->addLayout(actions);
+    layout->addLayout(BuildActionRow({command2}, command1));
     resize(360, 320);
 
     connect(list1_, &ListBox::doubleClicked, this, [this] { Command2_Click(); });

@@ -38,17 +38,14 @@ void DbaseUpdateW::List1_Click() {
 }
 
 bool DbaseUpdateW::NumbersAreValid() const {
-    const auto picks = static_cast<std::size_t>(std::max(state().Picks, 0));
-    if (picks > text1_.size()) {
+    const int picks = std::max(state().Picks, 0);
+    if (picks > std::ssize(text1_)) {
         throw FailureInFile(state().DbaseFile, 3,
                             "expected at most " + std::to_string(text1_.size()) +
                                 " numbers to pick, but " + std::to_string(picks) +
                                 " stands there.");
     }
-    return std::all_of(text1_.begin(), text1_.begin() + static_cast<std::ptrdiff_t>(picks),
-                       [this](const NumberBox* box) {
-                           return box->Value() >= 1 && box->Value() <= state().MaxNum;
-                       });
+    return NumbersAreWithin(text1_, picks, state().MaxNum);
 }
 
 void DbaseUpdateW::Command1_Click() {
@@ -56,9 +53,7 @@ void DbaseUpdateW::Command1_Click() {
         ShowTip(services(), this, 6);
         return;
     }
-    std::array<std::string, 8> fields;
-    for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = FromQString(text1_[i]->text());
-    const DrawRecord draw = MakeDrawRecord(dtPicker1_->Value(), fields);
+    const DrawRecord draw = MakeDrawRecord(dtPicker1_->Value(), TextsOf(text1_));
     InsertDraw(state(), folder(), draw, {.region = services().region, .today = services().today()});
     for (NumberBox* box : text1_) box->clear();
     label13_->setText(ToQString(DrawDate(draw.date)));

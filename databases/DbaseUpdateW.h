@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-
+#include "databases/FormParts.h"
 #include "platform/Form.h"
 
 class DatePicker;
 class ListBox;
-class NumberBox;
 class QLayout;
 class QPushButton;
 
@@ -27,8 +25,6 @@ class DbaseUpdateW final : public Form {
     void MakeButtons();
     QLayout* BuildLotteries();
     QLayout* BuildDraw();
-    QLayout* BuildNumbers();
-    QLayout* BuildActions();
 
     void List1_Click();
     void Command1_Click();
@@ -38,7 +34,7 @@ class DbaseUpdateW final : public Form {
 
     ListBox* list1_;
     DatePicker* dtPicker1_;
-    std::array<NumberBox*, 8> text1_;
+    DrawBoxes text1_;
     QLabel* label4_;
     QLabel* label5_;
     QLabel* label6_;

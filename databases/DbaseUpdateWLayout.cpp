@@ -11,12 +11,6 @@
 #include "platform/NumberBox.h"
 #include "platform/Widgets.h"
 
-namespace {
-
-constexpr int boxWidth = 52;
-
-}  // namespace
-
 DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("DbaseUpdateW"), tr("Update lottery databases"), parent) {
     MakeControls();
@@ -25,15 +19,8 @@ DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
     columns->addLayout(BuildLotteries(), 2);
     columns->addSpacing(24);
     columns->addLayout(BuildDraw(), 3);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
-    layout->addWidget(label5_);
-    layout->addWidget(label11_);
-    layout->addSpacing(8);
-    layout->addLayout(columns, 1);
-    layout->addSpacing(8);
-    layout->addLayout(BuildActions());
+    LayOutForm(this, label5_, label11_, columns,
+               BuildActionRow({command1_, command2_}, cancelButton_));
     TabInReadingOrder();
     SetCloseButton(cancelButton_);
     resize(760, 420);
@@ -46,25 +33,15 @@ void DbaseUpdateW::MakeControls() {
                            "correctly. You can enter a draw for any date and it will be inserted "
                            "in the right place."));
     label8_ = MakeLabel(QStringLiteral("Label8"), tr("Select Lottery:"));
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label8_->text());
-    label8_->setBuddy(list1_);
+    list1_ = Titled(label8_, Named(new ListBox, QStringLiteral("List1")));
     label4_ = MakeLabel(QStringLiteral("Label4"), tr("Select Date:"));
     dtPicker1_ = Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
                        QStringLiteral("DTPicker1"));
-    dtPicker1_->setAccessibleName(label4_->text());
-    label4_->setBuddy(dtPicker1_);
+    Titled(label4_, dtPicker1_);
     label6_ = MakeLabel(QStringLiteral("Label6"), tr("Enter lottery draw result:"));
     label7_ = MakeLabel(QStringLiteral("Label7"), QString());
     label13_ = MakeLabel(QStringLiteral("Label13"), QString());
-    for (int index = 0; index < 8; ++index) {
-        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), index));
-        box->setAccessibleName(index == 7 ? tr("Bonus or extra ball")
-                                          : tr("Number %1").arg(index + 1));
-        box->setAlignment(Qt::AlignCenter);
-        box->setFixedWidth(boxWidth);
-        text1_[static_cast<std::size_t>(index)] = box;
-    }
+    text1_ = MakeDrawBoxes(0);
     connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
 }
 
@@ -99,37 +76,7 @@ QLayout* DbaseUpdateW::BuildDraw() {
     column->addSpacing(12);
     column->addWidget(label13_);
     column->addSpacing(12);
-    column->addLayout(BuildNumbers());
+    column->addLayout(BuildDrawBoxes(label6_, label7_, text1_));
     column->addStretch(1);
     return column;
-}
-
-QLayout* DbaseUpdateW::BuildNumbers() {
-    auto* mainBoxes = new QHBoxLayout;
-    mainBoxes->setSpacing(4);
-    for (std::size_t i = 0; i < 7; ++i) mainBoxes->addWidget(text1_[i]);
-    mainBoxes->addStretch(1);
-    auto* mainNumbers = new QVBoxLayout;
-    mainNumbers->setSpacing(4);
-    mainNumbers->addWidget(label6_);
-    mainNumbers->addLayout(mainBoxes);
-    auto* lastNumber = new QVBoxLayout;
-    lastNumber->setSpacing(4);
-    lastNumber->addWidget(label7_);
-    lastNumber->addWidget(text1_[7]);
-    auto* numbers = new QHBoxLayout;
-    numbers->addLayout(mainNumbers);
-    numbers->addSpacing(8);
-    numbers->addLayout(lastNumber);
-    numbers->addStretch(1);
-    return numbers;
-}
-
-QLayout* DbaseUpdateW::BuildActions() {
-    auto* row = new QHBoxLayout;
-    row->addWidget(command1_);
-    row->addWidget(command2_);
-    row->addStretch(1);
-    row->addWidget(cancelButton_);
-    return row;
 }

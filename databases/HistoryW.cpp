@@ -156,9 +156,8 @@ void HistoryW::Command2_Click() {
 
 void HistoryW::Command3_Click() {
     const Hourglass hourglass;
-    std::array<std::string, 8> fields;
-    for (std::size_t i = 0; i < fields.size(); ++i) fields[i] = FromQString(text1_[i]->text());
-    UpdateDraw(state(), folder(), grid_->CurrentRow(), MakeDrawRecord(dtPicker1_->Value(), fields),
+    UpdateDraw(state(), folder(), grid_->CurrentRow(),
+               MakeDrawRecord(dtPicker1_->Value(), TextsOf(text1_)),
                {.region = services().region, .today = services().today()});
     List1_Click();
 }

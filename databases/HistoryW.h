@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-
+#include "databases/FormParts.h"
 #include "platform/Form.h"
 
 class DatePicker;
 class Grid;
 class ListBox;
-class NumberBox;
 class QGroupBox;
 class QLayout;
 class QPushButton;
@@ -33,7 +31,6 @@ class HistoryW final : public Form {
     void MakeEditPanel();
     QLayout* BuildHistory();
     QLayout* BuildChoices();
-    QLayout* BuildActions();
     void Connect();
 
     void List1_Click();
@@ -64,7 +61,7 @@ class HistoryW final : public Form {
     QRadioButton* option2_;
     QGroupBox* frame1_;
     DatePicker* dtPicker1_;
-    std::array<NumberBox*, 8> text1_;
+    DrawBoxes text1_;
     QPushButton* command1_;
     QPushButton* command2_;
     QPushButton* command3_;

@@ -39,15 +39,7 @@ HistoryW::HistoryW(Program& program, QWidget* parent)
     columns->addLayout(BuildHistory());
     columns->addSpacing(16);
     columns->addLayout(BuildChoices(), 1);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
-    layout->addWidget(label2_);
-    layout->addWidget(label4_);
-    layout->addSpacing(8);
-    layout->addLayout(columns, 1);
-    layout->addSpacing(8);
-    layout->addLayout(BuildActions());
+    LayOutForm(this, label2_, label4_, columns, BuildActionRow({command6_}, command1_));
     TabInReadingOrder();
     Connect();
     SetCloseButton(command1_);
@@ -65,9 +57,7 @@ void HistoryW::MakeControls() {
     bold.setBold(true);
     label1_->setFont(bold);
     label3_ = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label3_->text());
-    label3_->setBuddy(list1_);
+    list1_ = Titled(label3_, Named(new ListBox, QStringLiteral("List1")));
     option1_ = Named(new QRadioButton(tr("Draw order")), QStringLiteral("Option1"));
     option2_ = Named(new QRadioButton(tr("Ascending order")), QStringLiteral("Option2"));
     option1_->setChecked(true);
@@ -99,16 +89,14 @@ void HistoryW::MakeEditPanel() {
     boxes->setSpacing(0);
     boxes->addSpacing(grid_->frameWidth());
     boxes->addWidget(dtPicker1_);
+    text1_ = MakeDrawBoxes(1);
     for (int index = 1; index <= 8; ++index) {
-        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), index));
-        box->setAccessibleName(index == 8 ? tr("Bonus or extra ball") : tr("Number %1").arg(index));
-        box->setAlignment(Qt::AlignCenter);
+        NumberBox* box = Text1(index);
         // A hidden box keeps its place, so that each stands under its column.
         QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         policy.setRetainSizeWhenHidden(true);
         box->setSizePolicy(policy);
         box->setFixedWidth(grid_->columnWidth(index));
-        text1_[static_cast<std::size_t>(index - 1)] = box;
         boxes->addWidget(box);
     }
     boxes->addStretch(1);
@@ -147,14 +135,6 @@ QLayout* HistoryW::BuildChoices() {
     column->addWidget(option1_);
     column->addWidget(option2_);
     return column;
-}
-
-QLayout* HistoryW::BuildActions() {
-    auto* row = new QHBoxLayout;
-    row->addWidget(command6_);
-    row->addStretch(1);
-    row->addWidget(command1_);
-    return row;
 }
 
 void HistoryW::Connect() {

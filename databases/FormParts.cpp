@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/FormParts.h"
+
+#include <QCoreApplication>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "platform/NumberBox.h"
+#include "platform/Text.h"
+#include "platform/Widgets.h"
+
+namespace {
+
+constexpr int boxWidth = 52;
+
+QString tr(const char* text) { return QCoreApplication::translate("FormParts", text); }
+
+}  // namespace
+
+DrawBoxes MakeDrawBoxes(int firstIndex) {
+    DrawBoxes boxes;
+    for (int i = 0; i < std::ssize(boxes); ++i) {
+        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), firstIndex + i));
+        box->setAccessibleName(i == 7 ? tr("Bonus or extra ball") : tr("Number %1").arg(i + 1));
+        box->setAlignment(Qt::AlignCenter);
+        box->setFixedWidth(boxWidth);
+        boxes[static_cast<std::size_t>(i)] = box;
+    }
+    return boxes;
+}
+
+QLayout* BuildDrawBoxes(QLabel* mainTitle, QLabel* lastTitle, const DrawBoxes& boxes) {
+    auto* mainBoxes = new QHBoxLayout;
+    mainBoxes->setSpacing(4);
+    for (std::size_t i = 0; i < 7; ++i) mainBoxes->addWidget(boxes[i]);
+    mainBoxes->addStretch(1);
+    auto* mainNumbers = new QVBoxLayout;
+    mainNumbers->setSpacing(4);
+    mainNumbers->addWidget(mainTitle);
+    mainNumbers->addLayout(mainBoxes);
+    auto* lastNumber = new QVBoxLayout;
+    lastNumber->setSpacing(4);
+    lastNumber->addWidget(lastTitle);
+    lastNumber->addWidget(boxes[7]);
+    auto* numbers = new QHBoxLayout;
+    numbers->addLayout(mainNumbers);
+    numbers->addSpacing(8);
+    numbers->addLayout(lastNumber);
+    numbers->addStretch(1);
+    return numbers;
+}
+
+bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most) {
+    return std::all_of(boxes.begin(), boxes.begin() + count, [most](const NumberBox* box) {
+        return box->Value() >= 1 && box->Value() <= most;
+    });
+}
+
+std::array<std::string, 8> TextsOf(const DrawBoxes& boxes) {
+    std::array<std::string, 8> texts;
+    std::transform(boxes.begin(), boxes.end(), texts.begin(),
+                   [](const NumberBox* box) { return FromQString(box->text()); });
+    return texts;
+}
+
+void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body,
+                QLayout* actions) {
+    auto* layout = new QVBoxLayout(form);
+    layout->setContentsMargins(16, 12, 16, 16);
+    layout->setSpacing(8);
+    layout->addWidget(title);
+    layout->addWidget(explanation);
+    layout->addSpacing(8);
+    layout->addLayout(body, 1);
+    layout->addSpacing(8);
+    layout->addLayout(actions);
+}
+
+QLayout* BuildActionRow(std::initializer_list<QPushButton*> commands, QPushButton* close) {
+    auto* row = new QHBoxLayout;
+    for (QPushButton* command : commands) row->addWidget(command);
+    row->addStretch(1);
+    row->addWidget(close);
+    return row;
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What the forms of the draw databases have in common.
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <array>
+#include <initializer_list>
+#include <string>
+
+class NumberBox;
+class QLayout;
+class QPushButton;
+
+/// The boxes of one draw: seven main numbers, then the bonus or extra ball. Indices from 0.
+using DrawBoxes = std::array<NumberBox*, 8>;
+
+/// Makes the boxes `Text1(firstIndex)` and on, each with a name for screen readers.
+DrawBoxes MakeDrawBoxes(int firstIndex);
+
+/// Two titles with the main numbers below the one and the last number below the other.
+QLayout* BuildDrawBoxes(QLabel* mainTitle, QLabel* lastTitle, const DrawBoxes& boxes);
+
+/// Whether each of the first `count` boxes holds a number from 1 to `most`; `count` is at most 8.
+bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most);
+
+/// What stands in the boxes, hidden ones too, as the files hold it.
+std::array<std::string, 8> TextsOf(const DrawBoxes& boxes);
+
+/// The control with its title: a screen reader speaks the title's words.
+template <typename Control>
+Control* Titled(QLabel* title, Control* control) {
+    control->setAccessibleName(title->text());
+    title->setBuddy(control);
+    return control;
+}
+
+/// Lays the form out: title and explanation, below them the `body`, at the bottom the `actions`.
+void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body, QLayout* actions);
+
+/// The row of buttons at the bottom: `commands` from the left, the closing one at the right.
+QLayout* BuildActionRow(std::initializer_list<QPushButton*> commands, QPushButton* close);
