@@ -172,6 +172,12 @@ TEST_F(DrawDatabase, LoadsWithThreeThousandDraws) {
     EXPECT_EQ(Count(), 3000);
 }
 
+TEST_F(DrawDatabase, EmptiesTheLastRowOfAFullTable) {
+    Load(ukHeader + Draws(3000));
+    Load(ukHeader + Draws(10));
+    EXPECT_EQ(DrawRow(3000), Row(9, 0));
+}
+
 TEST_F(DrawDatabase, FailsAtDrawThreeThousandAndOne) {
     EXPECT_EQ(FailureOfLoading(ukHeader + Draws(3001)),
               "dbase1.txt, line 3004: expected no more than 3000 draws, but \"19 Nov 94\" stands "
