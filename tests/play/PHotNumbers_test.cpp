@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PHotNumbers.h"
 
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -178,6 +179,21 @@ TEST_F(HotNumbersForm, GeneratesAnewWithTheSeedOfTheClock) {
     test_.seed = 3;
     Click(*form_, "Command2");
     EXPECT_NE(Texts(), before);
+}
+
+TEST_F(HotNumbersForm, IsBusyUnderTheHourglassWhileItGenerates) {
+    Open();
+    int generations = 0;
+    test_.services.random = Random([&] {
+        ++generations;
+        EXPECT_EQ(test_.state.Busy, -1);
+        EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+        return std::uint64_t{1};
+    });
+    Click(*form_, "Command2");
+    EXPECT_EQ(generations, 1);
+    EXPECT_EQ(test_.state.Busy, 0);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(HotNumbersForm, DoesNothingWhileBusy) {
