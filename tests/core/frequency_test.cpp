@@ -244,6 +244,19 @@ TEST(Ranking, ClearsThePoolUpToItsLengthAndNoFurther) {
     EXPECT_EQ(pool(3), 44);
 }
 
+TEST(Ranking, OfNoNumbersTouchesNoMoreThanEntryZeroOfThePool) {
+    const std::vector<std::pair<int, int>> entryZero = {{0, 0}, {-1, 44}};
+    for (const auto& [highest, expected] : entryZero) {
+        Counts counts = CountsOf({1, 2});
+        Pool pool("pool");
+        pool.Fill(44);
+        GetHotNumbers(counts, highest, pool);
+        EXPECT_EQ(pool(0), expected) << highest;
+        EXPECT_EQ(pool(1), 44) << highest;
+        EXPECT_EQ(ListOf(counts, 2), (std::vector<int>{1, 2})) << highest;
+    }
+}
+
 TEST(Ranking, RefusesMoreThanSeventyNumbers) {
     Counts counts = CountsOf({1, 2});
     Pool pool("pool");

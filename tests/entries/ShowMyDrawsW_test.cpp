@@ -415,6 +415,8 @@ TEST_F(ShowingEntries, DeletesTheCurrentRowAfterMarkingIt) {
     Run("Command7");
     EXPECT_EQ(Players(), "Tom Bea ");
     EXPECT_EQ(Row(3), ",,,,,,,,,,,");
+    EXPECT_EQ(Entries().CurrentRow(), 1);
+    EXPECT_EQ(Item().text(), QStringLiteral("3"));
     EXPECT_EQ(File(), threeEntries);
     ExpectChanges();
 }
