@@ -513,6 +513,18 @@ TEST_F(ShowingEntries, SavingAnEmptyTableDeletesTheFileAndStillAsks) {
     ExpectChanges();
 }
 
+TEST_F(ShowingEntries, AnEmptiedDateEndsTheTable) {
+    Open();
+    Enter(2, 0, " ");
+    Run("Command13");
+    EXPECT_EQ(File(), "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt\r\n");
+    EXPECT_EQ(Entries().Cell(3, 10), QStringLiteral("Bea"));
+    Enter(1, 0, "");
+    Run("Command13");
+    EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
+    ExpectChanges();
+}
+
 TEST_F(ShowingEntries, ClosingAsksWhileChangesAreNotSaved) {
     Open();
     Enter(1, 1, "33");
