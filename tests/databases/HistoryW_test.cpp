@@ -1,108 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "databases/HistoryW.h"
-
-#include <QDateEdit>
-#include <QGroupBox>
+// Showing draws, in draw order and ascending.
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 #include <algorithm>
 
-#include "platform/Grid.h"
-#include "platform/Lists.h"
-#include "tests/support/form_test.h"
+#include "tests/databases/history_form.h"
 #include "tests/support/real_histories.h"
-#include "tests/support/sample_lotteries.h"
 
 namespace {
 
-const Message cannotDeleteLastLine{.title = QStringLiteral("Warning"),
-                                   .text = QStringLiteral("Can't delete last line!    "),
-                                   .sign = Sign::Exclamation};
+using DrawsHistory = HistoryForm;
 
 std::vector<std::string> ManyDraws(int count) {
     return std::vector<std::string>(static_cast<std::size_t>(count), "28 May 05,1,2,3,4,5,6,0,7");
 }
-
-class DrawsHistory : public testing::Test {
-  protected:
-    DrawsHistory() {
-        AddLottery(test_.folder, "dbase100.txt", "UK Lotto", "6,49,0,0,1",
-                   {"28 May 05,34,17,22,3,48,41,0,9", "25-May-2005,46,2,13,24,35,1,0,7",
-                    "21 May 05,8,9,10,11,12,13,0,14"});
-        AddThunderball(test_.folder);
-    }
-
-    void Open() {
-        form_ = std::make_unique<HistoryW>(test_.program, nullptr);
-        form_->Load();
-        form_->show();
-        QApplication::processEvents();
-    }
-
-    void OpenOn(const std::string& rules, const std::vector<std::string>& draws) {
-        AddLottery(test_.folder, "dbase1.txt", "Mine", rules, draws);
-        Open();
-    }
-
-    Grid& Draws() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
-    bool CanEdit() { return Find<QGroupBox>(*form_, "Frame1")->isEnabled(); }
-    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
-    void ShowAscending() { Find<QRadioButton>(*form_, "Option2")->click(); }
-    void ShowInDrawOrder() { Find<QRadioButton>(*form_, "Option1")->click(); }
-
-    QLineEdit& Box(int index) {
-        return *Find<QLineEdit>(*form_, ("Text1(" + std::to_string(index) + ")").c_str());
-    }
-
-    QDate PickedDate() { return Find<QDateEdit>(*form_, "DTPicker1")->date(); }
-
-    std::string Row(int row) {
-        QStringList fields;
-        for (int column = 0; column < 9; ++column) fields << Draws().Cell(row, column);
-        return fields.join(QLatin1Char(',')).toStdString();
-    }
-
-    QPoint PlaceOfRow(int row) {
-        return Draws().visualRect(Draws().model()->index(row - 1, 3)).center();
-    }
-
-    void ClickRow(int row, Qt::MouseButton button = Qt::LeftButton) {
-        Draws().ScrollToRow(row);
-        QTest::mouseClick(Draws().viewport(), button, Qt::NoModifier, PlaceOfRow(row));
-    }
-
-    void Drag(int fromRow, int toRow) {
-        QWidget* cells = Draws().viewport();
-        const QPoint end = PlaceOfRow(toRow);
-        QTest::mousePress(cells, Qt::LeftButton, Qt::NoModifier, PlaceOfRow(fromRow));
-        QMouseEvent move(QEvent::MouseMove, end, cells->mapToGlobal(end), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(cells, &move);
-        QTest::mouseRelease(cells, Qt::LeftButton, Qt::NoModifier, end);
-    }
-
-    int TopRow() { return Draws().rowAt(0) + 1; }
-
-    void ExpectMarked(int row) {
-        EXPECT_EQ(Draws().CurrentRow(), row);
-        const auto rows = Draws().selectionModel()->selectedRows();
-        ASSERT_EQ(rows.size(), 1);
-        EXPECT_EQ(rows.first().row(), row - 1);
-    }
-
-    void Update(const QDate& date) {
-        Find<QDateEdit>(*form_, "DTPicker1")->setDate(date);
-        Click(*form_, "Command3");
-    }
-
-    std::string Database(const char* file = "dbase100.txt") { return test_.folder.Read(file); }
-
-    TestProgram test_;
-    std::unique_ptr<HistoryW> form_;
-};
 
 TEST_F(DrawsHistory, BearsItsWords) {
     Open();
@@ -217,23 +129,6 @@ TEST_F(DrawsHistory, AChoiceOfALotteryScrollsToTheNewestDraw) {
     Draws().SetTopRow(100);
     ChooseLottery(1);
     EXPECT_EQ(TopRow(), 1);
-}
-
-TEST_F(DrawsHistory, AnEditTakesTheDrawOnWhichADragEnded) {
-    Open();
-    Drag(1, 3);
-    ExpectMarked(3);
-    EXPECT_EQ(Box(1).text(), QStringLiteral("8"));
-    Click(*form_, "Command3");
-    EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,48,41,,9");
-    EXPECT_EQ(Row(3), "21 May 05,8,9,10,11,12,13,,14");
-}
-
-TEST_F(DrawsHistory, AnEditTakesTheDrawThatTheRightButtonChose) {
-    Open();
-    ClickRow(3, Qt::RightButton);
-    ExpectMarked(3);
-    EXPECT_EQ(Box(1).text(), QStringLiteral("8"));
 }
 
 TEST_F(DrawsHistory, TheArrowKeysMoveFromDrawToDraw) {
@@ -366,101 +261,6 @@ TEST_F(DrawsHistory, AChoiceInAscendingOrderShowsTheColumnsOfTheNewLottery) {
     EXPECT_EQ(Row(1), "28 May 05,6,5,4,3,2,1,,");
 }
 
-TEST_F(DrawsHistory, DeleteRemovesTheSelectedDrawWithoutAQuestion) {
-    Open();
-    const std::string before = Database();
-    ClickRow(2);
-    Click(*form_, "Command2");
-    EXPECT_EQ(Database(),
-              "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
-              "28 May 05,34,17,22,3,48,41,0,9\r\n"
-              "21 May 05,8,9,10,11,12,13,0,14\r\n");
-    EXPECT_EQ(Database("temp.txt"), before);
-    EXPECT_EQ(Row(2), "21 May 05,8,9,10,11,12,13,,14");
-    EXPECT_EQ(Row(3), ",,,,,,,,");
-    EXPECT_EQ(test_.state.Draws(2, 1), 8);
-    ExpectMarked(1);
-}
-
-TEST_F(DrawsHistory, TheLastDrawIsNotDeleted) {
-    Open();
-    ChooseLottery(1);
-    const auto before = test_.folder.Snapshot();
-    test_.messages.Expect(cannotDeleteLastLine);
-    Click(*form_, "Command2");
-    EXPECT_EQ(test_.folder.Snapshot(), before);
-    ExpectMarked(1);
-}
-
-TEST_F(DrawsHistory, AnUpdateOfNumbersKeepsThePlaceAndReturnsToTheFirstRow) {
-    Open();
-    ClickRow(2);
-    Box(1).setText(QStringLiteral("45"));
-    Click(*form_, "Command3");
-    EXPECT_EQ(Database(),
-              "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
-              "28 May 05,34,17,22,3,48,41,0,9\r\n"
-              "25 May 05,45,2,13,24,35,1,,7\r\n"
-              "21 May 05,8,9,10,11,12,13,0,14\r\n");
-    EXPECT_EQ(test_.state.Draws(2, 1), 45);
-    ExpectMarked(1);
-}
-
-TEST_F(DrawsHistory, AnUpdateOfTheDateMovesTheDraw) {
-    Open();
-    ClickRow(3);
-    Update(QDate(2005, 6, 1));
-    EXPECT_EQ(Row(1), "01 Jun 05,8,9,10,11,12,13,,14");
-    Update(QDate(2005, 5, 1));
-    EXPECT_EQ(Row(3), "01 May 05,8,9,10,11,12,13,,14");
-}
-
-TEST_F(DrawsHistory, AnUpdateToTheDateOfAnotherDrawGoesInFrontOfIt) {
-    Open();
-    Update(QDate(2005, 5, 21));
-    EXPECT_EQ(Row(2), "21 May 05,34,17,22,3,48,41,,9");
-    EXPECT_EQ(Row(3), "21 May 05,8,9,10,11,12,13,,14");
-}
-
-TEST_F(DrawsHistory, TheOnlyDrawCanBeUpdated) {
-    Open();
-    ChooseLottery(1);
-    Box(8).setText(QStringLiteral("14"));
-    Update(QDate(2005, 6, 1));
-    EXPECT_EQ(Database("dbase101.txt"),
-              "UK Thunderball\r\n\r\n5,34,1,14,0\r\n01 Jun 05,4,9,15,27,30,,,14\r\n");
-    EXPECT_EQ(Database("temp.txt"), Database("dbase101.txt"));
-}
-
-TEST_F(DrawsHistory, AnUpdateChecksNoNumbers) {
-    Open();
-    Box(1).setText(QStringLiteral("99"));
-    Box(2).clear();
-    Click(*form_, "Command3");
-    EXPECT_EQ(Row(1), "28 May 05,99,,22,3,48,41,,9");
-}
-
-TEST_F(DrawsHistory, AnUpdateKeepsTheNumberOfAHiddenBox) {
-    OpenOn("6,49,1,0,0", {"28 May 05,1,2,3,4,5,6,0,0", "25 May 05,1,2,3,4,5,6,7,0"});
-    ClickRow(2);
-    EXPECT_TRUE(Box(7).isHidden());
-    Box(1).setText(QStringLiteral("9"));
-    Click(*form_, "Command3");
-    EXPECT_EQ(Database("dbase1.txt"),
-              "Mine\r\n\r\n6,49,1,0,0\r\n"
-              "28 May 05,1,2,3,4,5,6,0,0\r\n25 May 05,9,2,3,4,5,6,7,\r\n");
-}
-
-TEST_F(DrawsHistory, EnterInABoxUpdatesAndElsewhereChangesNothing) {
-    Open();
-    const auto before = test_.folder.Snapshot();
-    QTest::keyClick(&Draws(), Qt::Key_Return);
-    EXPECT_EQ(test_.folder.Snapshot(), before);
-    Box(1).setText(QStringLiteral("45"));
-    QTest::keyClick(&Box(1), Qt::Key_Return);
-    EXPECT_EQ(test_.state.Draws(1, 1), 45);
-}
-
 TEST_F(DrawsHistory, PrintIsDisabledUntilThereIsPrinting) {
     Open();
     EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
@@ -531,20 +331,6 @@ TEST_F(DrawsHistory, OneDrawMoreEndsTheRun) {
     Open();
     QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
     EXPECT_TRUE(TakeFailure());
-}
-
-TEST_F(DrawsHistory, AFullDiskEndsTheRunAndLosesNoDraw) {
-    Open();
-    const std::string before = Database();
-    for (const char* command : {"Command2", "Command3"}) {
-        for (const std::size_t room : {std::size_t{0}, before.size(), before.size() + 20}) {
-            test_.folder.FailAfterBytes(room);
-            ClickRow(1);
-            Click(*form_, command);
-            EXPECT_TRUE(TakeFailure()) << command << room;
-            EXPECT_EQ(Database(), before) << command << room;
-        }
-    }
 }
 
 TEST_F(DrawsHistory, ALockedDatabaseEndsTheRun) {
