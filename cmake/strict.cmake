@@ -12,6 +12,7 @@ if(QUILLON_SANITIZE)
     target_compile_options(quillon_strict INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quillon_strict INTERFACE -fsanitize=address,undefined)
+    target_compile_definitions(quillon_strict INTERFACE QUILLON_SANITIZE)
 endif()
 
 add_library(quillon_strict_qt INTERFACE)
