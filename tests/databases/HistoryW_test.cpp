@@ -233,6 +233,7 @@ TEST_F(DrawsHistory, DrawOrderShowsTheEighthNumberEvenWhereTheLotteryHasNone) {
     ShowAscending();
     ShowInDrawOrder();
     EXPECT_EQ(Row(1), "28 May 05,6,5,4,3,2,1,,7");
+    EXPECT_FALSE(Draws().CellColour(1, 8).isValid());
 }
 
 TEST_F(DrawsHistory, DrawOrderWritesNothingWhereADrawHasNoNumber) {

@@ -231,6 +231,12 @@ TEST_F(AGrid, TellsOfACellThatAnotherButtonMakesCurrent) {
     EXPECT_EQ(grid.CurrentRow(), 3);
 }
 
+TEST_F(AGrid, TellsNothingOfAnotherButtonOnTheCurrentCell) {
+    grid.SetCurrentCell(3, 1);
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, Qt::NoModifier, Place(3, 1));
+    EXPECT_EQ(clicks.count(), 0);
+}
+
 TEST_F(AGrid, TellsOnceOfAClickThatMarksTheRow) {
     QObject::connect(&grid, &Grid::cellClicked, &grid, [this](int row) { grid.MarkRow(row); });
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier, Place(3, 0));
@@ -258,6 +264,23 @@ TEST_F(AGrid, CopiesEverythingButTheEmptyRowsBehindTheLastText) {
     QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text(),
               QStringLiteral("Date\t\t\na\t\t\n\t\t\n\tb\t\n"));
+}
+
+TEST_F(AGrid, CopiesTheHeadingsWhereNothingElseIsThere) {
+    grid.SetCurrentCell(1, 0);
+    QTest::keyClick(&grid, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\t\t\n"));
+}
+
+TEST_F(AGrid, CopiesNoRowForATextThatIsNotShown) {
+    grid.SetColumnWidths({50, 70, 0});
+    grid.SetCell(1, 0, QStringLiteral("a"));
+    grid.SetCell(2, 2, QStringLiteral("hidden"));
+    grid.SetCurrentCell(1, 0);
+    QTest::keyClick(&grid, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\t\na\t\n"));
 }
 
 TEST_F(AGrid, CopiesAnEmptyCellOfARowThatIsNotEmpty) {
