@@ -10,6 +10,7 @@
 
 #include "databases/CreateDbase.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Lists.h"
 #include "platform/NumberBox.h"
 #include "platform/Widgets.h"
@@ -41,7 +42,7 @@ CreateDbase::CreateDbase(Program& program, QWidget* parent)
     columns->addLayout(BuildLists(), 2);
     columns->addSpacing(24);
     columns->addLayout(BuildLottery(), 3);
-    LayOutForm(this, label_[17], label_[16], columns, BuildActionRow({command1_}, cancelButton_));
+    LayOutForm(this, label_[17], label_[16], columns, BuildActionRow({command1_}, {cancelButton_}));
     TabInReadingOrder();
     Connect();
     SetCloseButton(cancelButton_);
@@ -103,9 +104,7 @@ void CreateDbase::MakeRules() {
     hScroll3_ = MakeBar(QStringLiteral("HScroll3"), 2, 60, 14);
     hScroll3_->setAccessibleName(tr("Highest extra ball"));
     for (QWidget* hidden : std::initializer_list<QWidget*>{label_[8], label_[11], hScroll3_}) {
-        QSizePolicy policy = hidden->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        hidden->setSizePolicy(policy);
+        KeepPlaceWhenHidden(hidden);
         hidden->hide();
     }
 }

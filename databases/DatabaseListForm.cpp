@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "databases/FormParts.h"
+#include "platform/FormLayout.h"
 #include "platform/Lists.h"
 #include "platform/LotteryList.h"
 #include "platform/Widgets.h"
@@ -20,12 +20,10 @@ DatabaseListForm::DatabaseListForm(Program& program, const QString& name, const 
     auto* command1 = MakeButton(QStringLiteral("Command1"), closeCaption);
     SetCloseButton(command1);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(label3);
     layout->addWidget(list1_, 1);
-    layout->addLayout(BuildActionRow({command2}, command1));
+    layout->addLayout(BuildActionRow({command2}, {command1}));
     resize(360, 320);
 
     connect(list1_, &ListBox::doubleClicked, this, [this] { Command2_Click(); });

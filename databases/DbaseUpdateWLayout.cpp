@@ -7,6 +7,7 @@
 
 #include "databases/DbaseUpdateW.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Lists.h"
 #include "platform/NumberBox.h"
 #include "platform/Widgets.h"
@@ -20,7 +21,7 @@ DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
     columns->addSpacing(24);
     columns->addLayout(BuildDraw(), 3);
     LayOutForm(this, label5_, label11_, columns,
-               BuildActionRow({command1_, command2_}, cancelButton_));
+               BuildActionRow({command1_, command2_}, {cancelButton_}));
     TabInReadingOrder();
     SetCloseButton(cancelButton_);
     resize(760, 420);

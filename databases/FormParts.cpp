@@ -2,10 +2,11 @@
 #include "databases/FormParts.h"
 
 #include <QCoreApplication>
-#include <QPushButton>
+#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/FormLayout.h"
 #include "platform/NumberBox.h"
 #include "platform/Text.h"
 #include "platform/Widgets.h"
@@ -66,21 +67,11 @@ std::array<std::string, 8> TextsOf(const DrawBoxes& boxes) {
 
 void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body,
                 QLayout* actions) {
-    auto* layout = new QVBoxLayout(form);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(form);
     layout->addWidget(title);
     layout->addWidget(explanation);
     layout->addSpacing(8);
     layout->addLayout(body, 1);
     layout->addSpacing(8);
     layout->addLayout(actions);
-}
-
-QLayout* BuildActionRow(std::initializer_list<QPushButton*> commands, QPushButton* close) {
-    auto* row = new QHBoxLayout;
-    for (QPushButton* command : commands) row->addWidget(command);
-    row->addStretch(1);
-    row->addWidget(close);
-    return row;
 }

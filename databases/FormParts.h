@@ -2,15 +2,13 @@
 // What the forms of the draw databases have in common.
 #pragma once
 
-#include <QLabel>
-#include <QString>
 #include <array>
-#include <initializer_list>
 #include <string>
 
 class NumberBox;
+class QLabel;
 class QLayout;
-class QPushButton;
+class QWidget;
 
 /// The boxes of one draw: seven main numbers, then the bonus or extra ball. Indices from 0.
 using DrawBoxes = std::array<NumberBox*, 8>;
@@ -27,16 +25,5 @@ bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most);
 /// What stands in the boxes, hidden ones too, as the files hold it.
 std::array<std::string, 8> TextsOf(const DrawBoxes& boxes);
 
-/// The control with its title: a screen reader speaks the title's words.
-template <typename Control>
-Control* Titled(QLabel* title, Control* control) {
-    control->setAccessibleName(title->text());
-    title->setBuddy(control);
-    return control;
-}
-
 /// Lays the form out: title and explanation, below them the `body`, at the bottom the `actions`.
 void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body, QLayout* actions);
-
-/// The row of buttons at the bottom: `commands` from the left, the closing one at the right.
-QLayout* BuildActionRow(std::initializer_list<QPushButton*> commands, QPushButton* close);

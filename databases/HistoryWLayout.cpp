@@ -10,6 +10,7 @@
 
 #include "databases/HistoryW.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Grid.h"
 #include "platform/Lists.h"
 #include "platform/NumberBox.h"
@@ -39,7 +40,7 @@ HistoryW::HistoryW(Program& program, QWidget* parent)
     columns->addLayout(BuildHistory());
     columns->addSpacing(16);
     columns->addLayout(BuildChoices(), 1);
-    LayOutForm(this, label2_, label4_, columns, BuildActionRow({command6_}, command1_));
+    LayOutForm(this, label2_, label4_, columns, BuildActionRow({command6_}, {command1_}));
     TabInReadingOrder();
     Connect();
     SetCloseButton(command1_);
@@ -93,9 +94,8 @@ void HistoryW::MakeEditPanel() {
     for (int index = 1; index <= 8; ++index) {
         NumberBox* box = Text1(index);
         // A hidden box keeps its place, so that each stands under its column.
-        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        policy.setRetainSizeWhenHidden(true);
-        box->setSizePolicy(policy);
+        box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        KeepPlaceWhenHidden(box);
         box->setFixedWidth(grid_->columnWidth(index));
         boxes->addWidget(box);
     }

@@ -10,6 +10,7 @@
 #include "core/text.h"
 #include "entries/saved_entries.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Text.h"
 #include "platform/Widgets.h"
 
@@ -37,8 +38,7 @@ void SaveEntries::Build() {
     grid->setVerticalSpacing(4);
     int row = 0;
     const auto addInput = [&](QLabel* label, QWidget* input, QLabel* explanation) {
-        label->setBuddy(input);
-        input->setAccessibleName(label->text());
+        Titled(label, input);
         input->setAccessibleDescription(explanation->text());
         grid->addWidget(label, row, 0);
         grid->addWidget(input, row, 1);
@@ -59,14 +59,9 @@ void SaveEntries::Build() {
                       tr("It is essential that you set the lottery draw date. It is used when "
                          "checking entries.")));
 
-    auto* actions = new QHBoxLayout;
-    actions->addWidget(command7_);
-    actions->addStretch(1);
-    actions->addWidget(command1_);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 16);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addLayout(grid, 1);
-    layout->addLayout(actions);
+    layout->addLayout(BuildActionRow({command7_}, {command1_}));
     setMinimumWidth(440);
 }
 

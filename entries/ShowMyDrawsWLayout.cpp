@@ -9,6 +9,7 @@
 #include "entries/MatchColours.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Grid.h"
 #include "platform/LinesGrid.h"
 #include "platform/Widgets.h"
@@ -39,13 +40,6 @@ QPushButton* MakeCommand(const QString& name, const QString& caption, const QStr
     return button;
 }
 
-void HideInPlace(QWidget* widget) {
-    QSizePolicy policy = widget->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    widget->setSizePolicy(policy);
-    widget->hide();
-}
-
 }  // namespace
 
 ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
@@ -59,9 +53,7 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
     below->addLayout(BuildCommands());
     below->addLayout(BuildCheck(), 1);
     below->addLayout(BuildReport());
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(label8_);
     layout->addWidget(label10_);
     layout->addWidget(label5_);
@@ -116,18 +108,13 @@ void ShowMyDrawsW::MakeGrid() {
 }
 
 void ShowMyDrawsW::MakeInputs() {
-    text1_ = Named(new QLineEdit, QStringLiteral("Text1"));
-    text1_->setAccessibleName(label2_->text());
-    label2_->setBuddy(text1_);
+    text1_ = Titled(label2_, Named(new QLineEdit, QStringLiteral("Text1")));
     dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
                        QStringLiteral("DTPicker1"));
-    dtPicker1_->setAccessibleName(label1_->text());
-    label1_->setBuddy(dtPicker1_);
-    text2_ = Named(new QPlainTextEdit, QStringLiteral("Text2"));
+    Titled(label1_, dtPicker1_);
+    text2_ = Titled(label14_, Named(new QPlainTextEdit, QStringLiteral("Text2")));
     text2_->setReadOnly(true);
     text2_->setTabChangesFocus(true);
-    text2_->setAccessibleName(label14_->text());
-    label14_->setBuddy(text2_);
 }
 
 void ShowMyDrawsW::MakeCommands() {
@@ -208,17 +195,15 @@ QLayout* ShowMyDrawsW::BuildColourKey() {
     key->addWidget(label6_, 1, 0);
     key->addWidget(label7_, 1, 1);
     key->setColumnStretch(2, 1);
-    for (QLabel* label : {label4_, label3_, label6_, label7_}) HideInPlace(label);
+    for (QLabel* label : {label4_, label3_, label6_, label7_}) {
+        KeepPlaceWhenHidden(label);
+        label->hide();
+    }
     return key;
 }
 
 QLayout* ShowMyDrawsW::BuildActions() {
-    auto* row = new QHBoxLayout;
-    row->addWidget(command13_);
-    row->addWidget(command5_);
-    row->addStretch(1);
-    row->addWidget(command1_);
-    return row;
+    return BuildActionRow({command13_, command5_}, {command1_});
 }
 
 std::vector<QPushButton*> ShowMyDrawsW::Commands() const {

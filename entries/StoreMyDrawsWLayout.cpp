@@ -8,6 +8,7 @@
 
 #include "entries/StoreMyDrawsW.h"
 #include "platform/DatePicker.h"
+#include "platform/FormLayout.h"
 #include "platform/Grid.h"
 #include "platform/LinesGrid.h"
 #include "platform/Lists.h"
@@ -26,9 +27,7 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("StoreMyDrawsW"), tr("Store Draws Entries"), parent) {
     MakeControls();
     MakeGrid();
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(label5_);
     layout->addLayout(BuildTop());
     layout->addSpacing(8);
@@ -43,18 +42,15 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
 void StoreMyDrawsW::MakeControls() {
     label5_ = MakeTitle(QStringLiteral("Label5"), tr("Store lottery draw entries"));
     label8_ = MakeLabel(QStringLiteral("Label8"), tr("Select the lottery:"));
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label8_->text());
+    list1_ = Titled(label8_, Named(new ListBox, QStringLiteral("List1")));
     label7_ = MakeLabel(QStringLiteral("Label7"), tr("Draw date:"));
     dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
                        QStringLiteral("DTPicker1"));
-    dtPicker1_->setAccessibleName(label7_->text());
-    label7_->setBuddy(dtPicker1_);
+    Titled(label7_, dtPicker1_);
     labelPName_ = MakeLabel(QStringLiteral("LabelPName"), tr("Player/syndicate:"));
     textPName_ = Named(new QLineEdit, QStringLiteral("TextPName"));
     textPName_->setToolTip(tr(" Enter the player's name or syndicate name "));
-    textPName_->setAccessibleName(labelPName_->text());
-    labelPName_->setBuddy(textPName_);
+    Titled(labelPName_, textPName_);
     label1_ = MakeLabel(QStringLiteral("Label1"), tr("Enter your numbers:"));
     label2_ = MakeLabel(QStringLiteral("Label2"), tr(" Pball"));
     for (int index = 1; index <= 8; ++index) {
@@ -110,9 +106,8 @@ QLayout* StoreMyDrawsW::BuildNumbers() {
     for (int index = 1; index <= 8; ++index) {
         NumberBox* box = Text1(index);
         // A hidden box keeps its place, so that each stands above its column.
-        QSizePolicy policy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        policy.setRetainSizeWhenHidden(true);
-        box->setSizePolicy(policy);
+        box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+        KeepPlaceWhenHidden(box);
         box->setFixedWidth(grid_->columnWidth(index) - airBetweenBoxes);
         boxes->addWidget(box);
     }
@@ -157,12 +152,9 @@ QLayout* StoreMyDrawsW::BuildActions() {
                                tr(" Save all lottery entries in the grid "));
     command1_ = MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"),
                                tr(" Close the window "));
-    auto* row = new QHBoxLayout;
-    row->addWidget(command3_);
-    row->addSpacing(24);
-    row->addLayout(BuildRowCommands());
-    row->addStretch(1);
-    row->addWidget(command1_);
+    QHBoxLayout* row = BuildActionRow({command3_}, {command1_});
+    row->insertSpacing(1, 24);
+    row->insertLayout(2, BuildRowCommands());
     return row;
 }
 

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "core/draw_database.h"
+#include "platform/FormLayout.h"
 #include "platform/Hourglass.h"
 #include "platform/Lists.h"
 #include "platform/LotteryList.h"
@@ -34,9 +35,7 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
     top_->addLayout(choices_);
     top_->addWidget(explanation_, 1);
     results_->setSpacing(10);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(heading_);
     layout->addLayout(top_);
     layout->addSpacing(4);
@@ -54,11 +53,7 @@ QLayout* AnalysisForm::BuildActions(const AnalysisNames& names) {
     connect(print, &QPushButton::clicked, this, [this] { services().printForm(*this); });
     connect(close, &QPushButton::clicked, this, [this] { Unload(); });
     SetCloseButton(close);
-    auto* row = new QHBoxLayout;
-    row->addWidget(print);
-    row->addStretch(1);
-    row->addWidget(close);
-    return row;
+    return BuildActionRow({print}, {close});
 }
 
 void AnalysisForm::AddLotteryList() {

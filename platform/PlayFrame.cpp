@@ -7,6 +7,7 @@
 
 #include "core/draw_database.h"
 #include "core/filters.h"
+#include "platform/FormLayout.h"
 #include "platform/Grid.h"
 #include "platform/Hourglass.h"
 #include "platform/InputDropper.h"
@@ -31,9 +32,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButto
     middle->addSpacing(12);
     middle->addWidget(grid_);
 
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 12, 16, 16);
-    layout->setSpacing(8);
+    QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(label7_);
     layout->addWidget(label2_);
     layout->addSpacing(4);
@@ -48,8 +47,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButto
 
 QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
     label1_ = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
-    list1_ = Named(new ListBox, QStringLiteral("List1"));
-    list1_->setAccessibleName(label1_->text());
+    list1_ = Titled(label1_, Named(new ListBox, QStringLiteral("List1")));
     list1_->setMinimumWidth(240);
     auto* lotteries = new QHBoxLayout;
     lotteries->addWidget(list1_, 1);
@@ -94,14 +92,7 @@ QLayout* PlayFrame::BuildActions(const QString& helpName) {
         MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
     command2_->setDefault(true);
     command6_->setEnabled(static_cast<bool>(services().printLines));
-    auto* row = new QHBoxLayout;
-    row->addWidget(command2_);
-    row->addWidget(command6_);
-    row->addWidget(command7_);
-    row->addStretch(1);
-    row->addWidget(help_);
-    row->addWidget(command1_);
-    return row;
+    return BuildActionRow({command2_, command6_, command7_}, {help_, command1_});
 }
 
 void PlayFrame::Connect() {

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the forms are laid out: what all of them do alike.
+#pragma once
+
+#include <QLabel>
+#include <QString>
+#include <initializer_list>
+
+class QHBoxLayout;
+class QVBoxLayout;
+class QWidget;
+
+/// The form's layout from top to bottom, with the margins and spaces of every form.
+QVBoxLayout* MakeFormLayout(QWidget* form);
+
+/// The row of buttons at the bottom: `commands` from the left, at the right those behind them, the
+/// closing one last.
+QHBoxLayout* BuildActionRow(std::initializer_list<QWidget*> commands,
+                            std::initializer_list<QWidget*> atRight);
+
+/// The control with its title: a screen reader speaks the title's words.
+template <typename Control>
+Control* Titled(QLabel* title, Control* control) {
+    control->setAccessibleName(title->text());
+    title->setBuddy(control);
+    return control;
+}
+
+/// Lets the widget's place stay free while it is hidden, so that nothing beside it moves.
+void KeepPlaceWhenHidden(QWidget* widget);
