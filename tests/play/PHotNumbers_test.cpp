@@ -3,13 +3,11 @@
 
 #include <QGuiApplication>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "core/text.h"
-#include "platform/Grid.h"
 #include "platform/Lists.h"
-#include "tests/support/form_test.h"
+#include "tests/support/lines_form.h"
 #include "tests/support/real_histories.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -18,43 +16,22 @@ namespace {
 const QColor red(192, 0, 0);
 const QColor blue(0, 0, 192);
 
-class HotNumbersForm : public testing::Test {
+constexpr FilterNames filters = {.oddEven = "Command8",
+                                 .highLow = "Command9",
+                                 .longRuns = "Command10",
+                                 .previousDraws = "Command11"};
+
+class HotNumbersForm : public LinesFormTest {
   protected:
     HotNumbersForm() {
         AddUkLotto(test_.folder);
         AddThunderball(test_.folder);
         AddDailyPlay(test_.folder);
         for (int slot = 11; slot <= 14; ++slot) test_.state.Settings(slot) = "2";
-        test_.services.saveLines = [this](QWidget*, Grid&) { ++saves_; };
     }
 
-    void Open() {
-        form_ = std::make_unique<PHotNumbers>(test_.program, nullptr);
-        form_->Load();
-        form_->show();
-    }
+    void Open() { ShowForm(std::make_unique<PHotNumbers>(test_.program, nullptr)); }
 
-    QLabel& Label(const char* name) { return *Find<QLabel>(*form_, name); }
-    QString Text(const char* name) { return Label(name).text(); }
-    Grid& Lines() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
-
-    int ShownLines() {
-        int count = 0;
-        while (!Lines().Cell(count + 1, 1).isEmpty()) ++count;
-        return count;
-    }
-
-    QStringList Texts() {
-        QStringList texts;
-        for (int row = 1; row < Lines().RowCount(); ++row) {
-            for (int column = 0; column < 9; ++column) texts << Lines().Cell(row, column);
-        }
-        return texts;
-    }
-
-    TestProgram test_;
-    std::unique_ptr<PHotNumbers> form_;
-    int saves_ = 0;
     int prints_ = 0;
 };
 
@@ -66,25 +43,9 @@ TEST_F(HotNumbersForm, OpensWithTheWordsOfItsDesign) {
               QStringLiteral("Some numbers occur more than others in lottery draws results. "
                              "Picking them might improve your chances of a win. All these entries "
                              "include all the most common (hot) numbers.."));
-    EXPECT_EQ(Text("Label1"), QStringLiteral("Select a lottery:"));
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Text("Label8"), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Text("Label6"), QStringLiteral("Filters"));
-    const std::vector<std::pair<const char*, const char*>> buttons = {
-        {"Option1(0)", "Hot numbers"},  {"Option1(1)", "Cold numbers"}, {"Command8", "Odd/even"},
-        {"Command9", "High/low"},       {"Command10", "Long runs"},     {"Command4", " Help "},
-        {"Command11", "Previous draws"}};
-    for (const auto& [name, text] : buttons) {
-        EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
-    }
-    const std::vector<std::pair<const char*, const char*>> toolTips = {
-        {"Command2", "Generate another selection of lottery entries"},
-        {"Command6", "Print out the lottery entries"},
-        {"Command7", "Save these lottery entries to disk"},
-        {"Command1", " Close "}};
-    for (const auto& [name, text] : toolTips) {
-        EXPECT_EQ(Find<QPushButton>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
-    }
+    ExpectLabels({{"Label7", "Hot numbers"}, {"Label8", "Hot numbers"}, {"Label6", "Filters"}});
+    ExpectCaptions({{"Option1(0)", "Hot numbers"}, {"Option1(1)", "Cold numbers"}});
+    ExpectFrameWords(filters, "Command4");
 }
 
 TEST_F(HotNumbersForm, HasNoLineCountNoConditionsAndNoTries) {
@@ -100,7 +61,7 @@ TEST_F(HotNumbersForm, OpensOnTheHotNumbersOfTheFirstLotteryWithLines) {
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
     EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
     EXPECT_EQ(Text("Label5"), QStringLiteral("1, 2, 3, 13, 17, 22, 24, 34, 35, 41"));
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), red);
+    EXPECT_EQ(TextColour("Label5"), red);
     EXPECT_EQ(Label("Label8").palette().color(QPalette::Window), red);
     EXPECT_GE(ShownLines(), 1);
     EXPECT_EQ(test_.state.Busy, 0);
@@ -116,7 +77,7 @@ TEST_F(HotNumbersForm, ShowsTheColdTextsAndColours) {
               QStringLiteral("Some draw numbers have not come up for a long time. They are overdue "
                              "and might come up soon. These entries pick random cold numbers."));
     EXPECT_EQ(Label("Label8").palette().color(QPalette::Window), blue);
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), blue);
+    EXPECT_EQ(TextColour("Label5"), blue);
     EXPECT_EQ(Text("Label5"), QStringLiteral("4, 5, 6, 7, 8, 9, 10, 11, 12, 14"));
 }
 
@@ -132,7 +93,7 @@ TEST_F(HotNumbersForm, ShowsTheHotTextsAndColoursOnTheWayBack) {
                              "might improve your chances of a win. These entries pick random hot "
                              "numbers."));
     EXPECT_EQ(Label("Label8").palette().color(QPalette::Window), red);
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), red);
+    EXPECT_EQ(TextColour("Label5"), red);
 }
 
 TEST_F(HotNumbersForm, ReloadsTheDatabaseAndMakesNewLinesOnAChangeOfMode) {
@@ -216,21 +177,8 @@ TEST_F(HotNumbersForm, DoesNothingWhileBusy) {
 }
 
 TEST_F(HotNumbersForm, FiltersTheLinesShown) {
-    const std::vector<std::pair<const char*, std::vector<int>>> failing = {
-        {"Command8", {2, 4, 6, 8, 10, 12}},
-        {"Command9", {31, 33, 36, 38, 40, 41}},
-        {"Command10", {1, 2, 3, 4, 20, 40}},
-        {"Command11", {3, 17, 22, 34, 41, 48}}};
     Open();
-    for (const auto& [button, numbers] : failing) {
-        for (int pick = 1; pick <= 6; ++pick) {
-            test_.state.Lines(1, pick) =
-                static_cast<std::int16_t>(numbers[static_cast<std::size_t>(pick) - 1]);
-        }
-        test_.state.Lines(2, 1) = 0;
-        Click(*form_, button);
-        EXPECT_EQ(ShownLines(), 0) << button;
-    }
+    ExpectFiltersTakeLinesOut(filters);
 }
 
 TEST_F(HotNumbersForm, SavesHelpsAndCloses) {
@@ -244,35 +192,20 @@ TEST_F(HotNumbersForm, SavesHelpsAndCloses) {
 }
 
 TEST_F(HotNumbersForm, TakesTheSkinsColoursAtLoadAndTheModesOnAChangeOfMode) {
-    test_.state.Settings(10) = "2";
-    const std::vector<const char*> colours = {"&H000001", "&H000002", "&H000003", "&H000004"};
-    for (int slot = 1; slot <= 4; ++slot) {
-        test_.state.Settings(slot) = colours[static_cast<std::size_t>(slot) - 1];
-    }
-    test_.state.Settings(5) = "&H8000000F";
+    TakeSkinColours("&H8000000F");
     Open();
-    EXPECT_EQ(Label("Label7").palette().color(QPalette::WindowText), QColor(1, 0, 0));
-    EXPECT_EQ(Label("Label2").palette().color(QPalette::WindowText), QColor(2, 0, 0));
-    EXPECT_EQ(Label("Label1").palette().color(QPalette::WindowText), QColor(3, 0, 0));
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), QColor(4, 0, 0));
+    EXPECT_EQ(TextColour("Label7"), QColor(1, 0, 0));
+    EXPECT_EQ(TextColour("Label2"), QColor(2, 0, 0));
+    EXPECT_EQ(TextColour("Label1"), QColor(3, 0, 0));
+    EXPECT_EQ(TextColour("Label5"), QColor(4, 0, 0));
     Click(*form_, "Option1(1)");
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), blue);
+    EXPECT_EQ(TextColour("Label5"), blue);
 }
 
 TEST_F(HotNumbersForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
-    const std::vector<const char*> order = {"List1",    "Option1(0)", "Option1(1)", "Command8",
-                                            "Command9", "Command10",  "Command11",  "MSFlexGrid1",
-                                            "Command2", "Command7",   "Command4",   "Command1"};
-    QWidget* widget = Find<QWidget>(*form_, order.front());
-    for (const char* name : order) {
-        while ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isEnabled() ||
-               widget->objectName().startsWith(QStringLiteral("qt_"))) {
-            widget = widget->nextInFocusChain();
-        }
-        EXPECT_EQ(widget->objectName(), QString::fromLatin1(name));
-        widget = widget->nextInFocusChain();
-    }
+    ExpectTabOrder({"List1", "Option1(0)", "Option1(1)", "Command8", "Command9", "Command10",
+                    "Command11", "MSFlexGrid1", "Command2", "Command7", "Command4", "Command1"});
 }
 
 TEST_F(HotNumbersForm, EndsInTheReportOnANumberAboveSeventy) {

@@ -1,57 +1,66 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLabel>
 #include <QStringList>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "platform/Grid.h"
-#include "platform/Lists.h"
 #include "tests/support/form_test.h"
+
+/// Names of controls and their texts.
+using Words = std::vector<std::pair<const char*, const char*>>;
+
+/// The filter buttons of a form.
+struct FilterNames {
+    const char* oddEven = "Command13";
+    const char* highLow = "Command14";
+    const char* longRuns = "Command15";
+    const char* previousDraws = "Command9";
+};
 
 /// A form that makes lines, on a folder in memory. A test fills the folder, then shows its form.
 class LinesFormTest : public testing::Test {
   protected:
-    LinesFormTest() {
-        test_.services.saveLines = [this](QWidget*, Grid&) { ++saves_; };
-    }
+    LinesFormTest();
 
-    void ShowForm(std::unique_ptr<Form> form) {
-        form_ = std::move(form);
-        form_->Load();
-        form_->show();
-    }
+    void ShowForm(std::unique_ptr<Form> form);
 
     Grid& Lines() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
-
-    int ShownLines() {
-        int count = 0;
-        while (!Lines().Cell(count + 1, 1).isEmpty()) ++count;
-        return count;
-    }
+    int ShownLines();
 
     /// Every text below the headings, to see whether lines are others.
-    QStringList Texts() {
-        QStringList texts;
-        for (int row = 1; row < Lines().RowCount(); ++row) {
-            for (int column = 0; column < 9; ++column) texts << Lines().Cell(row, column);
-        }
-        return texts;
-    }
+    QStringList Texts();
 
     /// Columns 1 to `columns` of the lines shown; 0 where a cell is empty.
-    std::vector<std::vector<int>> Rows(int columns) {
-        std::vector<std::vector<int>> rows;
-        for (int row = 1; row <= ShownLines(); ++row) {
-            std::vector<int>& line = rows.emplace_back();
-            for (int column = 1; column <= columns; ++column) {
-                line.push_back(Lines().Cell(row, column).toInt());
-            }
-        }
-        return rows;
-    }
+    std::vector<std::vector<int>> Rows(int columns);
 
-    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+    QLabel& Label(const char* name) { return *Find<QLabel>(*form_, name); }
+    QString Text(const char* label) { return Label(label).text(); }
+    QColor TextColour(const char* label);
+
+    void ExpectLabels(const Words& words);
+    void ExpectCaptions(const Words& words);
+
+    /// The captions and tool-tips that all these forms have in common.
+    void ExpectFrameWords(const FilterNames& filters, const char* help);
+
+    /// Makes these numbers the only line of `Lines`; the grid stays.
+    void MakeOnlyLine(const std::vector<int>& numbers);
+
+    /// Each filter takes out a line that fails it. The form can generate; it shows a lottery of 6
+    /// of 49 with a draw of 3 17 22 34 41 48; the filters have strength 2.
+    void ExpectFiltersTakeLinesOut(const FilterNames& filters);
+
+    /// Colour n of the skin becomes a red of n, the background what is told.
+    void TakeSkinColours(const char* background);
+
+    /// Follows the Tab key from the first of these controls on.
+    void ExpectTabOrder(const std::vector<const char*>& order);
+
+    void ChooseLottery(int index);
 
     TestProgram test_;
     std::unique_ptr<Form> form_;
