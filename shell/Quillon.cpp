@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "core/british_dates.h"
 #include "core/draw_database.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
@@ -232,9 +233,8 @@ void Quillon::FileExit_Click() {
 }
 
 QString Quillon::DownloadEntry() const {
-    // Day-first dates are the program's whole test for a user in the UK.
-    const bool dayFirst = program_.services.region.order == Region::Order::DayMonthYear;
-    return dayFirst ? QStringLiteral("DatabaseUpdate") : QStringLiteral("DatabaseUS");
+    return BritishDates(program_.services.region) ? QStringLiteral("DatabaseUpdate")
+                                                  : QStringLiteral("DatabaseUS");
 }
 
 void Quillon::Image1_Click(int index) {

@@ -29,7 +29,7 @@ class Quillon final : public QMainWindow {
     /// Opens the address of WebLinks entry `index`, 0 to 10.
     void LinksLink(int index);
 
-    /// The menu entry of the download for the user's country: UK where dates begin with the day.
+    /// The menu entry of the download for the user's country: UK where dates are British ones.
     QString DownloadEntry() const;
 
   Q_SIGNALS:

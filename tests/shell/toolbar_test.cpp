@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "core/settings.h"
+#include "platform/Region.h"
 #include "tests/shell/main_window.h"
 
 namespace {
@@ -24,6 +25,13 @@ constexpr std::array<const char*, 16> toolTips = {" Show notes, checklist, etc. 
                                                   " Lottery information ",
                                                   " Help ",
                                                   " Quit "};
+
+/// The menu entries that the pictures stand for.
+constexpr std::array<const char*, 16> pictureEntries = {
+    "FileNotes",           "DatabaseUpdate",  "wDatabaseView",   "DatabaseCheck",
+    "DatabaseStoreDrawsW", "AnalysisCommon",  "AnalyseNumStats", "AnalyseOddEven",
+    "PlayFullSel",         "PlayHot",         "PlayLucky",       "PlayDIYWheels",
+    "LinksLink(0)",        "HelpLotteryInfo", "HelpHelp",        "FileExit"};
 
 class ToolbarOfWindow : public MainWindow {
   protected:
@@ -170,28 +178,26 @@ TEST_F(ToolbarOfWindow, PicturesOfFormsThatDoNotExistYetDoNothingButTakeTheBorde
 
 TEST_F(ToolbarOfWindow, APictureIsDimmedWhileItsEntryIsDisabled) {
     Start();
-    const std::array<const char*, 16> entries = {
-        "FileNotes",           "DatabaseUpdate",  "wDatabaseView",   "DatabaseCheck",
-        "DatabaseStoreDrawsW", "AnalysisCommon",  "AnalyseNumStats", "AnalyseOddEven",
-        "PlayFullSel",         "PlayHot",         "PlayLucky",       "PlayDIYWheels",
-        "LinksLink(0)",        "HelpLotteryInfo", "HelpHelp",        "FileExit"};
     for (int index = 0; index < 16; ++index) {
         EXPECT_EQ(Picture(index)->Dimmed(),
-                  !Entry(entries.at(static_cast<std::size_t>(index)))->isEnabled())
+                  !Entry(pictureEntries.at(static_cast<std::size_t>(index)))->isEnabled())
             << index;
     }
 }
 
-TEST_F(ToolbarOfWindow, DayFirstDatesMeanTheDownloadForTheUk) {
+TEST_F(ToolbarOfWindow, BritishDatesMeanTheDownloadForTheUk) {
     Start();
     EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUpdate"));
 }
 
 TEST_F(ToolbarOfWindow, OtherDatesMeanTheDownloadForTheUs) {
-    for (const auto order : {Region::Order::MonthDayYear, Region::Order::YearMonthDay}) {
-        program.services.region.order = order;
+    for (const QLocale& locale :
+         {QLocale(QLocale::English, QLocale::UnitedStates),
+          QLocale(QLocale::Swedish, QLocale::Sweden), QLocale(QLocale::German, QLocale::Germany)}) {
+        program.services.region = RegionOf(locale);
         Start();
-        EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUS"));
+        EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUS"))
+            << locale.name().toStdString();
     }
 }
 
