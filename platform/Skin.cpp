@@ -123,7 +123,9 @@ QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QStri
     if (!SkinChoiceOf(state).pictures || !folder.Exists(name)) return {};
     const std::string bytes = folder.Read(name);
     QPixmap picture;
-    picture.loadFromData(QByteArray::fromStdString(bytes));
+    if (!picture.loadFromData(QByteArray::fromStdString(bytes))) {
+        throw Failure(name + ": expected a picture, but the file holds none that can be read.");
+    }
     return picture;
 }
 

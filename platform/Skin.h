@@ -22,7 +22,8 @@ struct SkinChoice {
 };
 SkinChoice SkinChoiceOf(const State& state);
 
-/// The picture, where pictures are chosen and the file exists; otherwise a null pixmap.
+/// The picture, where pictures are chosen and the file exists; otherwise a null pixmap. A file that
+/// holds no picture is a `Failure`.
 QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QString& pictureFile);
 
 /// Gives the form's palette the background colour of the settings, with text that can be read on

@@ -171,9 +171,21 @@ TEST_F(TheSkin, HasNoPictureWherePicturesAreSwitchedOff) {
     EXPECT_TRUE(SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg")).isNull());
 }
 
-TEST_F(TheSkin, TakesAFileThatIsNoPictureAsMissing) {
+TEST_F(TheSkin, ReportsAFileThatIsNoPicture) {
+    const std::string half = Picture(30, 20, "JPG").substr(0, 20);
+    for (const std::string& bytes : {std::string("this is no picture"), std::string(), half}) {
+        test.folder.Write("SkinPlay.jpg", bytes);
+        EXPECT_EQ(TextOf([this] {
+                      SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg"));
+                  }),
+                  "SkinPlay.jpg: expected a picture, but the file holds none that can be read.");
+    }
+}
+
+TEST_F(TheSkin, DoesNotReadAPictureWherePicturesAreSwitchedOff) {
     test.folder.Write("SkinPlay.jpg", "this is no picture");
-    EXPECT_TRUE(SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg")).isNull());
+    test.state.Settings(10) = "2";
+    EXPECT_NO_THROW(SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg")));
 }
 
 QPixmap Halves() {

@@ -128,6 +128,11 @@ TEST_F(Process, AColourThatIsNoNumberIsReported) {
     ExpectReport({"quillon.ini, line 5", "mauve"});
 }
 
+TEST_F(Process, ABackgroundPictureThatIsNoneIsReported) {
+    Write("SkinMain.jpg", "this is no picture");
+    ExpectReport({"SkinMain.jpg"});
+}
+
 TEST_F(Process, WhatCannotBeSavedAtQuitIsReported) {
     QDir(folderPath).mkdir(QStringLiteral("Notes.txt"));
     const Outcome outcome = RunToItsEnd({QStringLiteral("quit")});
