@@ -6,6 +6,7 @@
 #include <QAction>
 #include <memory>
 
+#include "core/settings.h"
 #include "shell/Quillon.h"
 #include "tests/support/form_test.h"
 
@@ -24,6 +25,13 @@ class MainWindow : public testing::Test {
     QAction* Entry(const char* name) { return Find<QAction>(*window, name); }
 
     void Choose(const char* entry) { Entry(entry)->trigger(); }
+
+    /// Changes one entry of the settings on disk, which are made with the defaults where missing.
+    void WriteSettings(int entry, const std::string& text) {
+        LoadSettings(program.state, program.folder);
+        program.state.Settings(entry) = text;
+        SaveSettings(program.state, program.folder);
+    }
 
     std::string Setting(int entry) { return program.state.Settings(entry); }
 

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QLabel>
-#include <QRadioButton>
-#include <QTimer>
 
 #include "core/settings.h"
 #include "entries/saved_entries.h"
 #include "platform/Lists.h"
-#include "platform/Skin.h"
-#include "platform/Widgets.h"
-#include "shell/form_catalogue.h"
 #include "tests/shell/main_window.h"
+#include "tests/shell/telling_form.h"
 
 namespace {
 
@@ -25,43 +21,10 @@ class QuillonForm : public MainWindow {
         }
         return {};
     }
-
-    void WriteSettings(int entry, const std::string& text) {
-        MakeDefaultSettings(program.state, program.folder);
-        program.state.Settings(entry) = text;
-        SaveSettings(program.state, program.folder);
-    }
 };
 
 std::string Database(const std::string& name) {
     return name + "\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n";
-}
-
-/// A form for the main window to open; tells what happens to it.
-class TellingForm final : public Form {
-  public:
-    TellingForm(Program& openedFor, QWidget* parent)
-        : Form(openedFor, QStringLiteral("TellingForm"), QStringLiteral("Telling"), parent) {
-        auto* option = Named(new QRadioButton(this), QStringLiteral("Option1(1)"));
-        connect(option, &QRadioButton::clicked, this, [] { steps.push_back("option"); });
-        QTimer::singleShot(0, this, [] { steps.push_back("messages"); });
-    }
-
-    void Load() override { steps.push_back("load"); }
-
-    int exec() override {
-        steps.push_back("exec");
-        if (whileOpen) whileOpen(program());
-        return 0;
-    }
-
-    static inline std::vector<std::string> steps;
-    static inline std::function<void(Program&)> whileOpen;
-};
-
-std::unique_ptr<Form> MakeTellingForm(Program& program, QWidget* parent) {
-    TellingForm::steps.clear();
-    return std::make_unique<TellingForm>(program, parent);
 }
 
 void SelectOption(Form& form) {
@@ -170,43 +133,6 @@ TEST_F(QuillonForm, AColourThatIsNoNumberFailsTheStartWhereColoursAreSwitchedOn)
     program.state.Settings(10) = "3";
     SaveSettings(program.state, program.folder);
     EXPECT_NE(FailureOfStart().find("blue"), std::string::npos);
-}
-
-TEST_F(QuillonForm, TakesTheBackgroundColourOfTheSettings) {
-    WriteSettings(5, "&H00C0FFC0");
-    program.state.Settings(10) = "2";
-    SaveSettings(program.state, program.folder);
-    Start();
-    EXPECT_EQ(window->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
-}
-
-TEST_F(QuillonForm, KeepsItsOwnBackgroundColourWhereColoursAreSwitchedOff) {
-    const QColor own = QMainWindow().palette().color(QPalette::Window);
-    WriteSettings(5, "&H00C0FFC0");
-    Start();
-    EXPECT_EQ(window->palette().color(QPalette::Window), own);
-}
-
-CatalogueEntry SettingsForm() {
-    return {.menuEntry = "FilePreferences",
-            .form = "TellingForm",
-            .make = MakeTellingForm,
-            .changesSettings = true};
-}
-
-TEST_F(QuillonForm, GivesTheRememberedBackgroundBackWhenColoursAreSwitchedOffAgain) {
-    WriteSettings(5, "&H00C0FFC0");
-    program.state.Settings(10) = "2";
-    SaveSettings(program.state, program.folder);
-    const QColor own = QMainWindow().palette().color(QPalette::Window);
-    Start();
-    TellingForm::whileOpen = [](Program& opened) {
-        opened.state.Settings(10) = "0";
-        SaveSettings(opened.state, opened.folder);
-    };
-    window->Open(SettingsForm());
-    TellingForm::whileOpen = {};
-    EXPECT_EQ(window->palette().color(QPalette::Window), own);
 }
 
 TEST_F(QuillonForm, ReadsTheSettingsAndLinksAfreshAfterPreferences) {
