@@ -89,6 +89,40 @@ TEST_F(QuillonForm, ThePanelsAreReadBeforeTheBirthDateFails) {
     EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos) << "notes come first";
 }
 
+TEST_F(QuillonForm, BackupIsMadeBeforeTheSettings) {
+    program.folder.FailAfterBytes(0);
+    EXPECT_NE(FailureOfStart(), "");
+    EXPECT_TRUE(program.folder.FolderExists("Backup"));
+    EXPECT_FALSE(program.folder.Exists("quillon.ini"));
+}
+
+TEST_F(QuillonForm, EachStepOfTheStartComesInItsTurn) {
+    WriteSettings(5, "no colour");
+    WriteSettings(10, "2");
+    WriteSettings(15, "no date");
+    WriteSettings(16, "SMembers.000");
+    const std::string settings = program.folder.Read("quillon.ini");
+    program.folder.Write("quillon.ini", settings + "line 101\r\n");
+    program.folder.Write("Notes.txt", "");
+    program.folder.Write("SMembers.000", "");
+    for (int i = 10; i < 87; ++i) {
+        program.folder.Write("dbase" + std::to_string(i) + ".txt", Database("Lottery"));
+    }
+    EXPECT_NE(FailureOfStart().find("quillon.ini, line 101"), std::string::npos);
+    program.folder.Write("quillon.ini", settings);
+    EXPECT_NE(FailureOfStart().find("quillon.ini, line 5"), std::string::npos);
+    WriteSettings(10, "0");
+    EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos);
+    program.folder.Delete("Notes.txt");
+    EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
+    WriteSettings(15, "01/01/1970");
+    EXPECT_NE(FailureOfStart().find("SMembers.000"), std::string::npos);
+    WriteSettings(16, "");
+    EXPECT_NE(FailureOfStart(), "") << "there are 77 databases";
+    program.folder.Delete("dbase10.txt");
+    EXPECT_EQ(FailureOfStart(), "");
+}
+
 TEST_F(QuillonForm, ASeventySeventhDatabaseFailsTheStart) {
     for (int i = 10; i < 87; ++i) {
         program.folder.Write("dbase" + std::to_string(i) + ".txt", Database("Lottery"));
@@ -250,6 +284,14 @@ TEST_F(QuillonForm, ExitSavesNotesAndSettingsAndEndsTheRunOnce) {
     EXPECT_EQ(timesEnded, 1);
     EXPECT_TRUE(program.folder.Exists("Notes.txt"));
     EXPECT_NE(program.folder.Read("quillon.ini").find("01-Jan-1970"), std::string::npos);
+}
+
+TEST_F(QuillonForm, ExitLetsMessagesRunBeforeItSaves) {
+    Start();
+    QMetaObject::invokeMethod(
+        window.get(), [this] { program.state.Settings(17) = "Ann"; }, Qt::QueuedConnection);
+    Choose("FileExit");
+    EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
 }
 
 TEST_F(QuillonForm, ClosingTheWindowIsTheSameEnd) {
