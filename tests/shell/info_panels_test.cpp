@@ -12,6 +12,7 @@
 #include "platform/DatePicker.h"
 #include "platform/Lists.h"
 #include "tests/shell/main_window.h"
+#include "tests/shell/telling_form.h"
 
 namespace {
 
@@ -377,6 +378,20 @@ TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
          {"SyndicateMembers", "SyndicatePayments", "SyndicatesNotes", "SyndicateManager"}) {
         EXPECT_FALSE(Entry(entry)->isEnabled()) << entry;
     }
+}
+
+TEST_F(InfoPanelsOfWindow, ShowAnotherSyndicateOnceTheFormThatOpenedItHasClosed) {
+    program.folder.Write("SMembers.003", SyndicateFile("Club", "Ann"));
+    Start();
+    TellingForm::whileOpen = [](Program& opened) { opened.state.Settings(16) = "SMembers.003"; };
+    CatalogueEntry entry{.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm};
+    window->Open(entry);
+    EXPECT_EQ(TextOf("Label3"), QString()) << "no form that changes the syndicate";
+    entry.changesSyndicate = true;
+    window->Open(entry);
+    TellingForm::whileOpen = {};
+    EXPECT_EQ(TextOf("Label3"), QStringLiteral("Club"));
+    EXPECT_EQ(TextOf("Label6"), QStringLiteral("Ann"));
 }
 
 TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {

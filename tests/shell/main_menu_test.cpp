@@ -12,7 +12,8 @@ namespace {
 struct EntryOfTable {
     const char* name;
     const char* caption;
-    bool works;  // without a form behind it
+    bool works;             // without a form behind it
+    const char* form = "";  // the form that it opens, if it opens one
 };
 
 struct MenuOfTable {
@@ -27,67 +28,67 @@ const std::vector<MenuOfTable>& Table() {
          " &File",
          {{"FileCopyToA", "Copy data files to floppy", false},
           {"FileCopyFromA", "Copy data files from floppy", false},
-          {"FileBackup", "Backup and Restore data", false},
-          {"FileDelete", "Delete lottery database", false},
+          {"FileBackup", "Backup and Restore data", false, "Backup"},
+          {"FileDelete", "Delete lottery database", false, "DeleteDbaseW"},
           {"FileDeleteSaved", "Delete saved lottery entries", true},
           {"FileNotes", "Show/Hide info panels", true},
-          {"FileOpen", "Open lottery data in Notepad", false},
-          {"FilePreferences", "Preferences", false},
-          {"FilePrintSetup", "Print setup", false},
+          {"FileOpen", "Open lottery data in Notepad", false, "OpenDbase"},
+          {"FilePreferences", "Preferences", false, "Preferences"},
+          {"FilePrintSetup", "Print setup", false, "PrintSetup"},
           {"FileExit", "Exit", true}}},
         {"wDatabase",
          " &Databases",
-         {{"DatabasesCreate", "Create  lottery database", false},
-          {"wUpdateDbase", "Update lottery database", false},
-          {"wDatabaseView", "View lottery databases", false},
-          {"DatabaseUS", "Download US lottery results", false},
-          {"DatabaseUpdate", "Download UK lottery results", false},
-          {"DatabaseCheck", "Check my lottery entries", false},
-          {"DatabaseViewCheck", "Show my lottery entries", false},
-          {"DatabaseStoreDrawsW", "Store my lottery entries", false}}},
+         {{"DatabasesCreate", "Create  lottery database", false, "CreateDbase"},
+          {"wUpdateDbase", "Update lottery database", false, "DbaseUpdateW"},
+          {"wDatabaseView", "View lottery databases", false, "HistoryW"},
+          {"DatabaseUS", "Download US lottery results", false, "DbaseUpdateUS"},
+          {"DatabaseUpdate", "Download UK lottery results", false, "DbaseUpdate"},
+          {"DatabaseCheck", "Check my lottery entries", false, "ShowMyDrawsW"},
+          {"DatabaseViewCheck", "Show my lottery entries", false, "ShowMyDrawsW"},
+          {"DatabaseStoreDrawsW", "Store my lottery entries", false, "StoreMyDrawsW"}}},
         {"AnalysisMenu",
          " &Analyse",
-         {{"AnalysisCommon", "Hot numbers", false},
-          {"AnalyseColdNums", "Cold numbers", false},
-          {"AnalysisSums", "Draw sums", false},
-          {"AnalyseLowHigh", "High/low numbers", false},
-          {"AnalysisAverages", "Number averages", false},
-          {"AnalyseRange", "Number range", false},
-          {"AnalyseNumStats", "Number statistics", false},
-          {"AnalyseOddEven", "Odd/Even ratio", false},
-          {"AnalyseBiorhythms", "Biorhythms", false},
-          {"AnalyseWhatIf", "What if...?", false}}},
+         {{"AnalysisCommon", "Hot numbers", false, "ACommonNumbers"},
+          {"AnalyseColdNums", "Cold numbers", false, "ACommonNumbers"},
+          {"AnalysisSums", "Draw sums", false, "ASums"},
+          {"AnalyseLowHigh", "High/low numbers", false, "ASums"},
+          {"AnalysisAverages", "Number averages", false, "AAverages"},
+          {"AnalyseRange", "Number range", false, "ARange"},
+          {"AnalyseNumStats", "Number statistics", false, "ANumberStats"},
+          {"AnalyseOddEven", "Odd/Even ratio", false, "AOddEven"},
+          {"AnalyseBiorhythms", "Biorhythms", false, "Biorhythm"},
+          {"AnalyseWhatIf", "What if...?", false, "WhatIf"}}},
         {"PlayMenu",
          " &Play",
-         {{"PlayAverages", "Averages", false},
-          {"PlayFullSel", "Full selection", false},
-          {"PlayColdNums", "Cold Numbers", false},
-          {"PlayHot", "Hot numbers", false},
-          {"PlayLuckyDip", "Lucky dip", false},
-          {"Play1Key", "One key number", false},
-          {"Play2Key", "Two key numbers", false},
-          {"Play3Key", "Three key numbers", false},
-          {"PlayBudgetWheels", "Budget wheels", false},
-          {"PlayColdWheels", "ColdWheels", false},
-          {"PlayDIYWheels", "Create-a-wheel", false},
-          {"PlayGuarantee3", "Guaranteed 3-match", false},
-          {"PlayGuarantee4", "Guaranteed 4-match", false},
-          {"PlayGuaranteed", "Guaranteed win wheels", false},
-          {"PlayHotWheels", "Hot wheels", false},
-          {"PlayWheel49", "Wheel 49", false},
-          {"PlayWheel2", "Wheeling pairs", false},
-          {"PlayWheel3", "Wheeling triplets", false},
-          {"PlayStarSign", "Astrology", false},
-          {"PlayLucky", "Numerology", false}}},
+         {{"PlayAverages", "Averages", false, "PAverage"},
+          {"PlayFullSel", "Full selection", false, "PFullSel"},
+          {"PlayColdNums", "Cold Numbers", false, "PHotNumbers"},
+          {"PlayHot", "Hot numbers", false, "PHotNumbers"},
+          {"PlayLuckyDip", "Lucky dip", false, "PLuckyDip"},
+          {"Play1Key", "One key number", false, "P1Key"},
+          {"Play2Key", "Two key numbers", false, "P2KeyNum"},
+          {"Play3Key", "Three key numbers", false, "P3KeyNum"},
+          {"PlayBudgetWheels", "Budget wheels", false, "PBudgetWheel"},
+          {"PlayColdWheels", "ColdWheels", false, "PHotWheels"},
+          {"PlayDIYWheels", "Create-a-wheel", false, "PDIYWheels"},
+          {"PlayGuarantee3", "Guaranteed 3-match", false, "PThreeMatch"},
+          {"PlayGuarantee4", "Guaranteed 4-match", false, "PThreeMatch"},
+          {"PlayGuaranteed", "Guaranteed win wheels", false, "PGuaranteed"},
+          {"PlayHotWheels", "Hot wheels", false, "PHotWheels"},
+          {"PlayWheel49", "Wheel 49", false, "Wheel49"},
+          {"PlayWheel2", "Wheeling pairs", false, "PWheel2"},
+          {"PlayWheel3", "Wheeling triplets", false, "PWheel3"},
+          {"PlayStarSign", "Astrology", false, "PStarSign"},
+          {"PlayLucky", "Numerology", false, "PLuckyNumbers"}}},
         {"SyndicatesMenu",
          " &Syndicates",
-         {{"SyndicateNew", "New syndicate", false},
-          {"SyndicateOpen", "Open syndicate", false},
-          {"SyndicatesDelete", "Delete syndicate", false},
-          {"SyndicateManager", "View manager", false},
-          {"SyndicateMembers", "View members", false},
-          {"SyndicatePayments", "View payments", false},
-          {"SyndicatesNotes", "Notes and checklist", false}}},
+         {{"SyndicateNew", "New syndicate", false, "NewSyndicate"},
+          {"SyndicateOpen", "Open syndicate", false, "OpenSyndicate"},
+          {"SyndicatesDelete", "Delete syndicate", false, "DeleteSyndicate"},
+          {"SyndicateManager", "View manager", false, "SManager"},
+          {"SyndicateMembers", "View members", false, "SMembers"},
+          {"SyndicatePayments", "View payments", false, "SPayments"},
+          {"SyndicatesNotes", "Notes and checklist", false, "SNotes"}}},
         {"LinksMenu",
          " &WebLinks",
          {{"LinksLink(0)", "Lottery Quillon", true},
@@ -105,11 +106,11 @@ const std::vector<MenuOfTable>& Table() {
          " &Help",
          {{"HelpNewVersion", "Check for new version", false},
           {"HelpHelp", "Help and tips", true},
-          {"HelpLotteryInfo", "Lottery information", false},
+          {"HelpLotteryInfo", "Lottery information", false, "LotteryInfo"},
           {"HelpWebSite", "Lottery Quillon website", true},
           {"HelpBackupSite", "Alternative website", false},
           {"HelpEmail", "Email technical support", false},
-          {"HelpAbout", "About...", false}}},
+          {"HelpAbout", "About...", false, "About"}}},
     };
     return table;
 }
@@ -148,6 +149,37 @@ TEST_F(MainMenuOfWindow, DisablesExactlyTheEntriesThatCannotBeAnsweredYet) {
             const bool answered = entry.works || (form != nullptr && form->make != nullptr);
             EXPECT_EQ(Entry(entry.name)->isEnabled(), answered) << entry.name;
         }
+    }
+}
+
+TEST_F(MainMenuOfWindow, OpensTheFormOfEachEntry) {
+    for (const MenuOfTable& menu : Table()) {
+        for (const EntryOfTable& entry : menu.entries) {
+            const CatalogueEntry* form = FindCatalogueEntry(QString::fromLatin1(entry.name));
+            EXPECT_STREQ(form == nullptr ? "" : form->form, entry.form) << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, FourEntriesOpenTheirFormWithItsSecondOption) {
+    const std::set<std::string> second = {"AnalyseColdNums", "PlayColdNums", "PlayColdWheels",
+                                          "PlayGuarantee4"};
+    for (const CatalogueEntry& entry : FormCatalogue()) {
+        EXPECT_EQ(entry.prepare != nullptr, second.contains(entry.menuEntry)) << entry.menuEntry;
+        const bool withoutMessages = std::string(entry.menuEntry) == "PlayGuarantee4";
+        EXPECT_EQ(entry.messageRuns, withoutMessages ? 0 : 5) << entry.menuEntry;
+    }
+}
+
+TEST_F(MainMenuOfWindow, WhatFollowsTheClosingOfAFormDependsOnItsEntry) {
+    const std::set<std::string> syndicate = {"SyndicateNew", "SyndicateOpen", "SyndicatesDelete",
+                                             "SyndicateManager"};
+    const std::set<std::string> entries = {"DatabaseCheck", "DatabaseViewCheck"};
+    for (const CatalogueEntry& entry : FormCatalogue()) {
+        const std::string name = entry.menuEntry;
+        EXPECT_EQ(entry.changesSyndicate, syndicate.contains(name)) << name;
+        EXPECT_EQ(entry.needsSavedEntries, entries.contains(name)) << name;
+        EXPECT_EQ(entry.changesSettings, name == "FilePreferences") << name;
     }
 }
 

@@ -185,6 +185,25 @@ TEST_F(ToolbarOfWindow, APictureIsDimmedWhileItsEntryIsDisabled) {
     }
 }
 
+TEST_F(ToolbarOfWindow, APictureTriggersItsEntryAndNoOther) {
+    Start();
+    std::vector<QString> triggered;
+    const auto actions = window->findChildren<QAction*>();
+    for (QAction* action : actions) {
+        QObject::disconnect(action, &QAction::triggered, nullptr, nullptr);
+        action->setEnabled(true);
+        QObject::connect(action, &QAction::triggered, window.get(),
+                         [&triggered, action] { triggered.push_back(action->objectName()); });
+    }
+    for (int index = 0; index < 16; ++index) {
+        if (index == 12) continue;  // the internet has no entry that can be counted on
+        triggered.clear();
+        Click(*window, Name(index).c_str());
+        const char* entry = pictureEntries.at(static_cast<std::size_t>(index));
+        EXPECT_EQ(triggered, std::vector<QString>{QString::fromLatin1(entry)}) << index;
+    }
+}
+
 TEST_F(ToolbarOfWindow, BritishDatesMeanTheDownloadForTheUk) {
     Start();
     EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUpdate"));
