@@ -236,7 +236,25 @@ TEST_F(LuckyDipForm, EachFilterButtonHasItsFilter) {
     }
 }
 
+TEST_F(LuckyDipForm, TakesColoursOneToFourOfTheSkin) {
+    test_.state.Settings(10) = "2";
+    for (int slot = 1; slot <= 4; ++slot) {
+        test_.state.Settings(slot) = "&H" + std::to_string(slot);
+    }
+    test_.state.Settings(5) = "&HFFFFFF";
+    Open();
+    const std::vector<std::pair<const char*, int>> reds = {
+        {"Label7", 1}, {"Label2", 2}, {"Label1", 3}, {"Label5", 4}};
+    for (const auto& [name, red] : reds) {
+        EXPECT_EQ(Find<QLabel>(*form_, name)->palette().color(QPalette::WindowText),
+                  QColor(red, 0, 0))
+            << name;
+    }
+}
+
 TEST_F(LuckyDipForm, NothingButTheScrollBarReactsWhileBusy) {
+    int prints = 0;
+    test_.services.printLines = [&](QWidget*, Grid&) { ++prints; };
     Open();
     const QStringList before = Texts();
     test_.state.Busy = -1;
@@ -244,10 +262,11 @@ TEST_F(LuckyDipForm, NothingButTheScrollBarReactsWhileBusy) {
     for (const char* name : {"Command2", "Command13", "Command14", "Command15", "Command9"}) {
         Click(*form_, name);
     }
+    Click(*form_, "Command6");
     Click(*form_, "Command7");
     Find<ListBox>(*form_, "List1")->SetIndex(2);
     EXPECT_EQ(Texts(), before);
-    EXPECT_EQ(saves_, 0);
+    EXPECT_EQ(saves_ + prints, 0);
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
     test_.state.Busy = 0;
 }
@@ -315,7 +334,12 @@ TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
     QMetaObject::invokeMethod(close, "click", Qt::QueuedConnection);
     bool generated = false;
     QMetaObject::invokeMethod(
-        form_.get(), [&] { generated = true; }, Qt::QueuedConnection);
+        form_.get(),
+        [&] {
+            generated = true;
+            EXPECT_TRUE(form_->isVisible()) << "the form waits for the generation to end";
+        },
+        Qt::QueuedConnection);
     Find<QPushButton>(*form_, "Command2")->click();
     EXPECT_TRUE(generated) << "the waiting click was handled inside the generation";
     EXPECT_FALSE(form_->isVisible());

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/PlayFrame.h"
+
+#include "platform/Grid.h"
+#include "platform/Lists.h"
+#include "tests/support/form_test.h"
+#include "tests/support/sample_lotteries.h"
+
+namespace {
+
+/// What a form sees of the run at one of its steps.
+struct Sight {
+    std::string lottery;
+    int busy = 0;
+    bool hourglass = false;
+    bool gridCleared = false;
+};
+
+/// A form on the frame that shows one line, and notes down what it sees while it works.
+class WatchingForm final : public PlayFrame {
+  public:
+    explicit WatchingForm(Program& program)
+        : PlayFrame(program, {QStringLiteral("Watching"), {}, {}, {}}, {}, 5, nullptr) {}
+
+    std::vector<Sight> loaded;
+    std::vector<Sight> generated;
+
+  protected:
+    void DatabaseLoaded() override { loaded.push_back(Look()); }
+
+    void Generate() override {
+        generated.push_back(Look());
+        state().Lines(1, 1) = 7;
+        state().Lines(2, 1) = 0;
+        ShowResult();
+    }
+
+  private:
+    Sight Look() const {
+        const Grid& grid = *Find<Grid>(*this, "MSFlexGrid1");
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return {.lottery = state().LotteryName,
+                .busy = state().Busy,
+                .hourglass = cursor != nullptr && cursor->shape() == Qt::WaitCursor,
+                .gridCleared = grid.Cell(1, 0).isEmpty() && !grid.Cell(0, 0).isEmpty()};
+    }
+};
+
+struct ThePlayFrame : testing::Test {
+    ThePlayFrame() {
+        AddUkLotto(test.folder);
+        AddThunderball(test.folder);
+        form = std::make_unique<WatchingForm>(test.program);
+        form->Load();
+        form->loaded.clear();
+        form->generated.clear();
+    }
+
+    void ChooseSecondLottery() { Find<ListBox>(*form, "List1")->SetIndex(1); }
+
+    TestProgram test;
+    std::unique_ptr<WatchingForm> form;
+};
+
+TEST_F(ThePlayFrame, LoadsALotteryBusyUnderTheHourglassWithTheGridCleared) {
+    ChooseSecondLottery();
+    ASSERT_EQ(form->loaded.size(), 1U);
+    EXPECT_EQ(form->loaded[0].lottery, "UK Thunderball");
+    EXPECT_EQ(form->loaded[0].busy, -1);
+    EXPECT_TRUE(form->loaded[0].hourglass);
+    EXPECT_TRUE(form->loaded[0].gridCleared);
+}
+
+TEST_F(ThePlayFrame, GeneratesAfterTheLoadBusyUnderTheHourglass) {
+    ChooseSecondLottery();
+    ASSERT_EQ(form->generated.size(), 1U);
+    EXPECT_EQ(form->generated[0].lottery, "UK Thunderball");
+    EXPECT_EQ(form->generated[0].busy, -1);
+    EXPECT_TRUE(form->generated[0].hourglass);
+    EXPECT_EQ(Find<Grid>(*form, "MSFlexGrid1")->Cell(1, 1), QStringLiteral("7"));
+}
+
+TEST_F(ThePlayFrame, IsNeitherBusyNorUnderTheHourglassAfterwards) {
+    ChooseSecondLottery();
+    EXPECT_EQ(test.state.Busy, 0);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ThePlayFrame, ClearsTheGridBeforeALoadThatFails) {
+    test.folder.Lock(test.state.DbaseFiles(1));
+    EXPECT_THROW(ChooseSecondLottery(), std::runtime_error);
+    EXPECT_EQ(Find<Grid>(*form, "MSFlexGrid1")->Cell(1, 1), QString());
+    EXPECT_TRUE(form->generated.empty());
+}
+
+}  // namespace
