@@ -8,7 +8,6 @@
 #include <QRadioButton>
 #include <algorithm>
 
-#include "core/text.h"
 #include "platform/NumberBox.h"
 #include "platform/ShowTip.h"
 #include "platform/Text.h"
@@ -211,14 +210,14 @@ void WheelFrame::Generate() {
 
 // The message does not say which number it means; the cursor does.
 void WheelFrame::FocusWrongBox() {
-    const auto inUse = text1_.begin() + boxesInUse_;
-    const auto wrong = std::find_if(text1_.begin(), inUse, [this](const QLineEdit* box) {
-        const int number = LeadingWhole(FromQString(box->text()));
-        return number < 1 || number > state().MaxNum;
+    const wheels::Boxes boxes = Read();
+    const auto wrong = std::ranges::find_if(boxes, [this](const wheels::Box& box) {
+        return box.inUse && !rules_.boxes.accepts(box, state().MaxNum);
     });
-    if (wrong == inUse) return;
-    (*wrong)->setFocus();
-    (*wrong)->selectAll();
+    if (wrong == boxes.end()) return;
+    QLineEdit& box = *text1_[static_cast<std::size_t>(wrong - boxes.begin())];
+    box.setFocus();
+    box.selectAll();
 }
 
 void WheelFrame::MoveOn(const QObject* from) {

@@ -21,11 +21,6 @@ std::int16_t PoolNumber(const Box& box) {
     return static_cast<std::int16_t>(number);
 }
 
-bool InRange(const Box& box, int maxNum) {
-    const double number = LeadingNumber(box.text);
-    return number >= 1 && number <= maxNum;
-}
-
 int Count(const Boxes& boxes) { return static_cast<int>(boxes.size()); }
 
 Box& At(Boxes& boxes, int index) { return boxes[static_cast<std::size_t>(index)]; }
@@ -63,6 +58,15 @@ int MixPool(State& state, Random& random, const Boxes& boxes) {
 
 }  // namespace
 
+bool IsInField(const Box& box, int maxNum) {
+    const double number = LeadingNumber(box.text);
+    return number >= 1 && number <= maxNum;
+}
+
+bool IsAboveZero(const Box& box, int) { return LeadingNumber(box.text) >= 1; }
+
+bool HasNumber(const Box& box, int) { return LeadingNumber(box.text) != 0; }
+
 void ChooseSize(Boxes& boxes, int count, UnusedTexts unused) {
     for (int i = 0; i < Count(boxes); ++i) {
         Box& box = At(boxes, i);
@@ -73,7 +77,7 @@ void ChooseSize(Boxes& boxes, int count, UnusedTexts unused) {
 
 void EmptyInvalid(Boxes& boxes, int maxNum) {
     for (Box& box : boxes) {
-        if (!InRange(box, maxNum)) box.text.clear();
+        if (!IsInField(box, maxNum)) box.text.clear();
     }
 }
 
@@ -93,7 +97,7 @@ bool ReadAndEmptyUnused(State& state, Boxes& boxes) {
 bool ReadInRange(State& state, const Boxes& boxes) {
     ReadAll(state, boxes);
     bool good = true;
-    for (const Box& box : boxes) good = good && (!box.inUse || InRange(box, state.MaxNum));
+    for (const Box& box : boxes) good = good && (!box.inUse || IsInField(box, state.MaxNum));
     return good;
 }
 
@@ -102,14 +106,14 @@ bool ReadFirst(State& state, const Boxes& boxes, int count) {
     for (int i = 0; i < count; ++i) {
         const Box& box = boxes.at(static_cast<std::size_t>(i));
         state.Pool(i) = PoolNumber(box);
-        good = good && LeadingNumber(box.text) >= 1;
+        good = good && IsAboveZero(box, state.MaxNum);
     }
     return good;
 }
 
 bool EachInUseHasNumber(const Boxes& boxes) {
     for (const Box& box : boxes) {
-        if (box.inUse && LeadingNumber(box.text) == 0) return false;
+        if (box.inUse && !HasNumber(box, 0)) return false;
     }
     return true;
 }

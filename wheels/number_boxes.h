@@ -22,6 +22,15 @@ using Boxes = std::vector<Box>;
 /// What happens to the texts of boxes that a choice of size puts out of use.
 enum class UnusedTexts { Emptied, Kept };
 
+/// Whether a box holds a number from 1 to `maxNum`. For `PWheel2`, `PWheel3` and `PThreeMatch`.
+bool IsInField(const Box& box, int maxNum);
+
+/// Whether a box holds a number of 1 or more, however high. For `PDIYWheels`.
+bool IsAboveZero(const Box& box, int maxNum);
+
+/// Whether a box holds a number other than 0, negative and too high ones too. For `PBudgetWheel`.
+bool HasNumber(const Box& box, int maxNum);
+
 /// Puts the first `count` boxes to use and the others out of it.
 void ChooseSize(Boxes& boxes, int count, UnusedTexts unused);
 
@@ -44,7 +53,7 @@ bool ReadInRange(State& state, const Boxes& boxes);
 /// false where one is below 1. There is no upper limit. For `PDIYWheels`.
 bool ReadFirst(State& state, const Boxes& boxes, int count);
 
-/// Whether no box in use has the number 0; negative and too high ones pass. For `PBudgetWheel`.
+/// Whether `HasNumber` says so of each box in use. For `PBudgetWheel`.
 bool EachInUseHasNumber(const Boxes& boxes);
 
 /// Shuffles 1 to `MaxNum` in `Pool(1)` onward and gives box i in use the text of `Pool(i + 1)`,

@@ -25,6 +25,8 @@ struct BoxRules {
     BoxKeys keys = BoxKeys::Digits;
     UnusedTexts unusedTexts = UnusedTexts::Emptied;
     bool unusedDisabled = false;  ///< Whether a box out of use takes no keys.
+    /// Whether the number of a box in use can be played; the cursor goes to the first that cannot.
+    bool (*accepts)(const Box&, int maxNum) = IsInField;
     /// What `Command12`, random selection, does.
     void (*select)(State&, Random&, Boxes&) = nullptr;
     /// What `Command8`, random order, does.

@@ -264,7 +264,8 @@ const std::vector<BoxForm> boxForms = {
 INSTANTIATE_TEST_SUITE_P(Forms, EachWheelForm, testing::ValuesIn(boxForms),
                          [](const auto& form) { return std::string(form.param.name); });
 
-/// A form under another form's rules, with as many boxes in use as a test asks for.
+/// A form under another form's rules, with as many boxes in use and with the outcome that a test
+/// asks for.
 class RuledForm final : public WheelFrame {
   public:
     RuledForm(Program& program, const QString& rules)
@@ -272,13 +273,14 @@ class RuledForm final : public WheelFrame {
                      WheelButtonNames(QStringLiteral("Command4")), {}, 20, nullptr) {}
 
     using WheelFrame::UseBoxes;
+    wheels::Outcome outcome = wheels::Outcome::Done;
 
   protected:
     void SizeChosen() override { UseBoxes(8); }
     wheels::Outcome MakeLines(wheels::Boxes&) override {
         state().Lines(1, 1) = 7;
         state().Lines(2, 1) = 0;
-        return wheels::Outcome::Done;
+        return outcome;
     }
 };
 
@@ -336,6 +338,34 @@ TEST_F(WheelRules, LetAnyTextIntoTheBoxesOfBudgetWheels) {
     std::ranges::sort(texts);
     EXPECT_EQ(texts, (QStringList{QString(), QStringLiteral("0"), QStringLiteral("3"),
                                   QStringLiteral("5")}));
+}
+
+TEST_F(WheelRules, LeadToTheFirstBoxInUseThatTheFormDoesNotAccept) {
+    const std::vector<std::pair<const char*, int>> firstWrong = {
+        {"PThreeMatch", 1}, {"PDIYWheels", 2}, {"PBudgetWheel", 4}};
+    for (const auto& [rules, wrong] : firstWrong) {
+        Open(rules);
+        // Too high for the lottery, and then, where any text can stand, below zero and empty.
+        for (const int index : {0, 3, 5, 6, 7}) TypeBox(index, QStringLiteral("7"));
+        TypeBox(1, QStringLiteral("50"));
+        TypeBox(2, QStringLiteral("-"));
+        if (std::string(rules) == "PBudgetWheel") TypeBox(2, QStringLiteral("-3"));
+        Ruled().outcome = wheels::Outcome::CheckInput;
+        ExpectInputTip();
+        Click(*form_, "Command2");
+        EXPECT_EQ(form_->focusWidget(), &Box(wrong)) << rules;
+        EXPECT_EQ(Box(wrong).selectedText(), Box(wrong).text()) << rules;
+    }
+}
+
+TEST_F(WheelRules, StayWithTheButtonWhereNoBoxIsToBlame) {
+    Open("PBudgetWheel");
+    Box(0).setFocus();
+    Ruled().outcome = wheels::Outcome::NoOtherNumber;
+    ExpectInputTip();
+    QTest::keyClick(Find<QPushButton>(*form_, "Command2"), Qt::Key_Space);
+    EXPECT_EQ(form_->focusWidget(), &Box(0));
+    EXPECT_EQ(ShownLines(), 0);
 }
 
 TEST_F(WheelRules, SelectFromTheStartOfThePool) {

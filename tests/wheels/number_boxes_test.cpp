@@ -37,6 +37,27 @@ TEST(ChoiceOfSize, OfAllBoxesLeavesNoneGrey) {
     Boxes boxes(20);
     wheels::ChooseSize(boxes, 20, wheels::UnusedTexts::Emptied);
     for (const wheels::Box& box : boxes) EXPECT_TRUE(box.inUse);
+    wheels::ChooseSize(boxes, 0, wheels::UnusedTexts::Emptied);
+    for (const wheels::Box& box : boxes) EXPECT_FALSE(box.inUse);
+}
+
+TEST(AcceptedNumbers, DifferInTheirLimitsBetweenForms) {
+    struct Row {
+        const char* text;
+        bool inField;
+        bool aboveZero;
+        bool number;
+    };
+    const std::vector<Row> rows = {
+        {"1", true, true, true},    {"10", true, true, true},   {"11", false, true, true},
+        {"0", false, false, false}, {"", false, false, false},  {"x1", false, false, false},
+        {"7x", true, true, true},   {"-1", false, false, true}, {"0.4", false, false, true}};
+    for (const auto& [text, inField, aboveZero, number] : rows) {
+        const wheels::Box box{.text = text};
+        EXPECT_EQ(wheels::IsInField(box, 10), inField) << text;
+        EXPECT_EQ(wheels::IsAboveZero(box, 10), aboveZero) << text;
+        EXPECT_EQ(wheels::HasNumber(box, 10), number) << text;
+    }
 }
 
 TEST(ChangeOfLottery, EmptiesBoxesWhoseNumbersNoLongerExist) {
