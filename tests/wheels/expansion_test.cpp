@@ -45,6 +45,72 @@ TEST(LetterPosition, GoesOnBehindTheLettersInUse) {
     EXPECT_EQ(wheels::OneBasedPosition('\xB8'), 120);
 }
 
+/// Writes the numbers into row 1 from column 1 on.
+void FillRow(State& state, const Line& numbers) {
+    int column = 1;
+    for (const int number : numbers) state.Lines(1, column++) = static_cast<std::int16_t>(number);
+}
+
+TEST(OtherNumber, IsFoundWhereOnlyTheLowestOrTheHighestIsLeft) {
+    for (const auto& [line, left] : {std::pair(Line{2, 3, 4, 3}, 1), {Line{2, 1, 3, 3}, 4}}) {
+        const auto state = LotteryOf({.maxNum = 4});
+        Random random = RandomOf(1);
+        FillRow(*state, line);
+        EXPECT_TRUE(wheels::DrawOtherNumber(*state, random, 1, 5));
+        EXPECT_EQ(state->Lines(1, 5), left);
+    }
+}
+
+TEST(OtherNumber, OfAFieldOfOneOrNoneCanOnlyBeOne) {
+    for (const int maxNum : {0, 1}) {
+        const auto state = LotteryOf({.maxNum = maxNum});
+        Random random = RandomOf(1);
+        FillRow(*state, {1, 1});
+        EXPECT_FALSE(wheels::DrawOtherNumber(*state, random, 1, 3)) << maxNum;
+        EXPECT_EQ(state->Lines(1, 3), 0);
+        FillRow(*state, {2, 2});
+        EXPECT_TRUE(wheels::DrawOtherNumber(*state, random, 1, 3)) << maxNum;
+        EXPECT_EQ(state->Lines(1, 3), 1);
+    }
+}
+
+TEST(OtherNumber, MayBeTheOneThatStoodInItsColumnBefore) {
+    std::set<int> drawn;
+    std::set<int> fromPool;
+    for (std::uint64_t seed = 0; seed < 50; ++seed) {
+        const auto state = LotteryOf({.maxNum = 8});
+        Random random = RandomOf(seed);
+        FillPool(*state, 0, 8);
+        FillRow(*state, {1, 2, 3, 4, 5, 6, 7});
+        EXPECT_TRUE(wheels::DrawOtherNumber(*state, random, 1, 7));
+        drawn.insert(state->Lines(1, 7));
+        FillRow(*state, {1, 2, 3, 4, 5, 6, 7});
+        EXPECT_TRUE(wheels::DrawOtherFromPool(*state, random, 1, 7, 8));
+        fromPool.insert(state->Lines(1, 7));
+    }
+    EXPECT_EQ(drawn, (std::set<int>{7, 8}));
+    EXPECT_EQ(fromPool, (std::set<int>{7, 8}));
+}
+
+TEST(OtherNumber, FromThePoolIsFoundAtItsFirstAndItsLastPlaceAndNotBehind) {
+    for (const int place : {0, 8}) {
+        const auto state = LotteryOf({});
+        Random random = RandomOf(1);
+        for (int i = 0; i <= 9; ++i) state->Pool(i) = 5;
+        state->Pool(place) = 7;
+        FillRow(*state, {5, 5, 5, 5, 5, 5});
+        EXPECT_TRUE(wheels::DrawOtherFromPool(*state, random, 1, 7, 9)) << place;
+        EXPECT_EQ(state->Lines(1, 7), 7);
+    }
+    const auto state = LotteryOf({});
+    Random random = RandomOf(1);
+    for (int i = 0; i <= 8; ++i) state->Pool(i) = 5;
+    state->Pool(9) = 7;
+    FillRow(*state, {5, 5, 5, 5, 5, 5});
+    EXPECT_FALSE(wheels::DrawOtherFromPool(*state, random, 1, 7, 9));
+    EXPECT_EQ(state->Lines(1, 7), 0);
+}
+
 TEST(SixLetterWheel, ReadsTheLastPlaceOfThePoolAndFailsBeyond) {
     const auto state = LotteryOf({});
     Random random = RandomOf(1);

@@ -157,8 +157,9 @@ TEST(ReadingOfBudgetWheels, CountsTwoDigitsAndALetterAsTheTwoDigits) {
 
 TEST(Reading, OfANumberBeyondThePoolFails) {
     const auto state = LotteryOf({});
-    wheels::ReadAll(*state, BoxesOf(1, {"32767"}));
+    wheels::ReadAll(*state, BoxesOf(2, {"32767", "-32768"}));
     EXPECT_EQ(state->Pool(0), 32767);
+    EXPECT_EQ(state->Pool(1), -32768);
     try {
         wheels::ReadAll(*state, BoxesOf(1, {"32768"}));
         FAIL() << "the pool holds no number above 32767";
@@ -315,6 +316,16 @@ TEST(RandomOrder, MixesPlaceByPlaceBelowTheLast) {
             std::swap(expected[i], expected[static_cast<std::size_t>(same.Next() * 11)]);
         }
         EXPECT_EQ(TextsOf(boxes), expected);
+    }
+}
+
+TEST(RandomOrder, GoesUpToALastNumberOfOne) {
+    for (std::uint64_t seed = 0; seed < 50; ++seed) {
+        const auto state = LotteryOf({});
+        Random random = RandomOf(seed);
+        Boxes boxes = BoxesOf(3, {"2", "1", "0"});
+        wheels::MixOrder(*state, random, boxes);
+        EXPECT_EQ(TextsOf(boxes), (Texts{"1", "2", ""}));
     }
 }
 
