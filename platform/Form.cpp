@@ -46,10 +46,18 @@ void Form::CloseAsTheUserDoes() {
     }
 }
 
+// What was added to the inner layouts of a frame reaches the size hint only with an activation, and
+// a text that wraps may need more lines in the form's width than the hint counts on.
 void Form::TakeOpeningSize() {
     if (openingSize_.isEmpty()) return;
+    layout()->activate();
     const QSize room = screen()->availableSize() - QSize(16, titleBarRoom);
-    resize(openingSize_.boundedTo(room).expandedTo(sizeHint().boundedTo(room)));
+    QSize size = openingSize_.expandedTo(sizeHint()).boundedTo(room).expandedTo(minimumSize());
+    if (layout()->hasHeightForWidth()) {
+        const int wrapped = layout()->totalHeightForWidth(size.width());
+        size.setHeight(qMax(size.height(), qMin(wrapped, room.height())));
+    }
+    resize(size);
     openingSize_ = {};
 }
 

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "platform/Widgets.h"
@@ -148,6 +149,49 @@ std::string RedPicture() {
     QBuffer buffer(&bytes);
     image.save(&buffer, "PNG");
     return bytes.toStdString();
+}
+
+/// A frame that opens small, with a text that wraps and a place for what a form on it adds.
+class WrappingForm final : public Form {
+  public:
+    WrappingForm(Program& program, int boxes)
+        : Form(program, QStringLiteral("WrappingForm"), QStringLiteral("Wrapping"), nullptr),
+          place_(new QVBoxLayout) {
+        auto* layout = new QVBoxLayout(this);
+        auto* body = new QLabel(QStringLiteral("one two three four five ").repeated(8));
+        body->setWordWrap(true);
+        layout->addWidget(body);
+        layout->addLayout(place_);
+        SetOpeningSize({sizeHint().width(), 60});
+        for (int box = 0; box < boxes; ++box) {
+            auto* line = new QLineEdit;
+            line->setMinimumSize(200, 30);
+            place_->addWidget(line);
+        }
+    }
+
+  private:
+    QVBoxLayout* place_;
+};
+
+TEST(AFormOnAFrame, OpensWithRoomForAllThatWasAddedAndForEachLineOfItsText) {
+    for (const int boxes : {0, 1, 5, 12}) {
+        TestProgram test;
+        WrappingForm form(test.program, boxes);
+        form.show();
+        EXPECT_GE(form.height(), form.layout()->totalHeightForWidth(form.width())) << boxes;
+        EXPECT_LE(form.height(), form.screen()->availableSize().height());
+    }
+}
+
+TEST(AFormOnAFrame, OpensNoHigherThanTheScreenWhereItCanBeLower) {
+    TestProgram test;
+    WrappingForm form(test.program, 0);
+    auto* tall = new QLabel(QStringLiteral("tall\n").repeated(200));
+    tall->setMinimumHeight(50);
+    static_cast<QVBoxLayout*>(form.layout())->addWidget(tall);
+    form.show();
+    EXPECT_LE(form.height(), form.screen()->availableSize().height());
 }
 
 TEST_F(AForm, PaintsItsPictureOverAllOfItself) {
