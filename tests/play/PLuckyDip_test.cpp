@@ -9,6 +9,7 @@
 #include "platform/Grid.h"
 #include "platform/Lists.h"
 #include "tests/support/form_test.h"
+#include "tests/support/hourglass_watch.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
@@ -199,6 +200,33 @@ TEST_F(LuckyDipForm, ConditionsThatNoLineMeetsEndAfterTenSecondsAndSaySo) {
         << Status().toStdString();
     EXPECT_GE(ShownLines(), 1);
     EXPECT_EQ(test_.state.Busy, 0);
+}
+
+TEST_F(LuckyDipForm, EachConditionBoxAsksForItsOwnCondition) {
+    AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0", {"28 May 05,1,2,0,0,0,0,0,0"});
+    Open();
+    test_.tick = 2;
+    const std::vector<std::pair<const char*, int>> boxes = {
+        {"Check1", 11}, {"Check2", 12}, {"Check3", 13}};
+    for (const auto& [box, slot] : boxes) {
+        Find<QCheckBox>(*form_, box)->setChecked(true);
+        for (int unmeetable = 11; unmeetable <= 13; ++unmeetable) {
+            for (int other = 11; other <= 13; ++other) test_.state.Settings(other) = "0";
+            test_.state.Settings(unmeetable) = "3";
+            Click(*form_, "Command2");
+            EXPECT_EQ(Status().endsWith(QStringLiteral("conditions)")), slot == unmeetable)
+                << box << ", strength " << unmeetable << ": " << Status().toStdString();
+        }
+        Find<QCheckBox>(*form_, box)->setChecked(false);
+    }
+}
+
+TEST_F(LuckyDipForm, TheStatusLineIsPaintedWhileTheGeneratorRuns) {
+    Open();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(form_.get()));
+    const HourglassWatch watch(*Find<QLabel>(*form_, "Label5"), QEvent::Paint);
+    Click(*form_, "Command2");
+    EXPECT_GE(watch.UnderHourglass(), 1);
 }
 
 TEST_F(LuckyDipForm, AFilterButtonRemovesWhatFailsAndRenumbersTheRest) {

@@ -281,6 +281,7 @@ TEST_F(InfoPanelsOfWindow, TheChartShowsTheThreeWavesAndTheirAverage) {
 
 TEST_F(InfoPanelsOfWindow, TomorrowAddsADayAtOnce) {
     StartShown();
+    EXPECT_TRUE(Find<QRadioButton>(*window, "Option1(0)")->isChecked());
     Click(*window, "Option1(1)");
     EXPECT_NEAR(Value(1), Wave(12936, 33), 1e-9);
     Click(*window, "Option1(0)");

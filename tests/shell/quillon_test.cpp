@@ -112,7 +112,9 @@ TEST_F(QuillonForm, EachStepOfTheStartComesInItsTurn) {
     program.folder.Write("quillon.ini", settings);
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 5"), std::string::npos);
     WriteSettings(10, "0");
+    WriteSettings(19, "1");
     EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos);
+    EXPECT_FALSE(Find<QLabel>(*window, "Label7")->isHidden()) << "panels come before the notes";
     program.folder.Delete("Notes.txt");
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
     WriteSettings(15, "01/01/1970");
