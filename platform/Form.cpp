@@ -7,14 +7,12 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <vector>
 
+#include "platform/RoomOnScreen.h"
 #include "platform/Skin.h"
 
 namespace {
-
-constexpr int titleBarRoom = 64;
 
 /// The widgets of a layout that take the focus, in the order in which they stand in it.
 void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
@@ -51,7 +49,7 @@ void Form::CloseAsTheUserDoes() {
 void Form::TakeOpeningSize() {
     if (openingSize_.isEmpty()) return;
     layout()->activate();
-    const QSize room = screen()->availableSize() - QSize(16, titleBarRoom);
+    const QSize room = RoomOnScreen(*this);
     QSize size = openingSize_.expandedTo(sizeHint()).boundedTo(room).expandedTo(minimumSize());
     if (layout()->hasHeightForWidth()) {
         const int wrapped = layout()->totalHeightForWidth(size.width());

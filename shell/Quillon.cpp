@@ -14,6 +14,7 @@
 #include "core/syndicate.h"
 #include "entries/saved_entries.h"
 #include "platform/MessageBoxes.h"
+#include "platform/RoomOnScreen.h"
 #include "platform/Skin.h"
 #include "platform/Text.h"
 #include "platform/Widgets.h"
@@ -70,7 +71,7 @@ void Quillon::Build() {
     // Wherever the mouse moves but on a picture, the pictures lose their border.
     centre->setMouseTracking(true);
     setMouseTracking(true);
-    resize(1000, 660);
+    resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
     connect(toolbar_, &Toolbar::clicked, this, &Quillon::Image1_Click);
 }
 

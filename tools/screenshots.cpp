@@ -196,6 +196,7 @@ int TakePictures(Program& program, const QString& outFolder) {
     QDir().mkpath(outFolder);
     Quillon window(program);
     window.Load();
+    window.resize(1000, 660);  // the screen of the offscreen platform is smaller than most
     bool good = Save(window, outFolder % QStringLiteral("/Quillon.png"));
     std::set<QString> taken;
     for (const CatalogueEntry& entry : FormCatalogue()) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QLabel>
+#include <QScreen>
 
 #include "core/settings.h"
 #include "entries/saved_entries.h"
@@ -35,6 +36,13 @@ TEST_F(QuillonForm, HasItsNameAndTitle) {
     Start();
     EXPECT_EQ(window->objectName(), QStringLiteral("Quillon"));
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Lottery Quillon World"));
+}
+
+TEST_F(QuillonForm, OpensNoLargerThanTheScreen) {
+    Start();
+    const QSize screen = window->screen()->availableSize();
+    EXPECT_LT(window->width(), screen.width());
+    EXPECT_LT(window->height(), screen.height());
 }
 
 TEST_F(QuillonForm, TheFirstRunInAnEmptyFolderMakesBackupAndSettingsWithoutAMessage) {
