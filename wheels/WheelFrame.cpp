@@ -75,6 +75,7 @@ WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayBut
       rules_(wheels::RulesOf(FromQString(text.name))),
       label8_(MakeLabel(QStringLiteral("Label8"), QString())) {
     SetBusyRules(rules_.busy);
+    label8_->hide();
     Column().addWidget(label8_);
     Column().addLayout(BuildBoxes(grouping));
     Column().addSpacing(4);
@@ -162,7 +163,10 @@ void WheelFrame::UseBoxes(int count) {
     Write(boxes);
 }
 
-void WheelFrame::SetPrompt(const std::string& text) { label8_->setText(ToQString(text)); }
+void WheelFrame::SetPrompt(const std::string& text) {
+    label8_->setText(ToQString(text));
+    label8_->show();
+}
 
 wheels::Boxes WheelFrame::Read() const {
     wheels::Boxes boxes;
@@ -204,6 +208,7 @@ void WheelFrame::Generate() {
         ShowResult();
         return;
     }
+    if (outcome == wheels::Outcome::Refused) return;
     ShowTip(services(), this, inputTip);
     if (outcome == wheels::Outcome::CheckInput) FocusWrongBox();
 }

@@ -66,7 +66,7 @@ class WheelFrame : public PlayFrame {
     /// Puts the first `count` boxes to use.
     void UseBoxes(int count);
 
-    /// The text of `Label8`, leading blanks and all.
+    /// The text of `Label8`, leading blanks and all; a form without a prompt does not show it.
     void SetPrompt(const std::string& text);
 
   private:

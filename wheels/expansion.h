@@ -15,6 +15,7 @@ enum class Outcome {
     Done,           ///< The lines stand; the form shows them.
     CheckInput,     ///< A box holds no number that can be played.
     NoOtherNumber,  ///< A line needs one more number and none is left that differs.
+    Refused,        ///< The form has said why there are no lines; the grid stays as it is.
 };
 
 /// The position of a letter, whose codes run on from "A" without a break: 0 for "A", 26 for "[".

@@ -314,7 +314,7 @@ class RuledForm final : public WheelFrame {
   protected:
     void SizeChosen() override { UseBoxes(8); }
     wheels::Outcome MakeLines(wheels::Boxes&) override {
-        state().Lines(1, 1) = 7;
+        state().Lines(1, 1) = outcome == wheels::Outcome::Done ? 7 : 0;
         state().Lines(2, 1) = 0;
         return outcome;
     }
@@ -392,6 +392,24 @@ TEST_F(WheelRules, LeadToTheFirstBoxInUseThatTheFormDoesNotAccept) {
         EXPECT_EQ(form_->focusWidget(), &Box(wrong)) << rules;
         EXPECT_EQ(Box(wrong).selectedText(), Box(wrong).text()) << rules;
     }
+}
+
+TEST_F(WheelRules, SayAndShowNothingWhereAFormRefusesInItsOwnWords) {
+    Open("PBudgetWheel");
+    Click(*form_, "Command2");
+    Box(0).setFocus();
+    Ruled().outcome = wheels::Outcome::Refused;
+    QTest::keyClick(Find<QPushButton>(*form_, "Command2"), Qt::Key_Space);
+    EXPECT_EQ(test_.messages.Shown(), 0);
+    EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7")) << "the grid keeps what it showed";
+    EXPECT_EQ(form_->focusWidget(), &Box(0));
+}
+
+TEST_F(WheelRules, ShowAPromptOnlyWhereTheFormHasOne) {
+    Open("PBudgetWheel");
+    EXPECT_FALSE(Find<QLabel>(*form_, "Label8")->isVisible());
+    ShowForm(std::make_unique<PWheel2>(test_.program, nullptr));
+    EXPECT_TRUE(Find<QLabel>(*form_, "Label8")->isVisible());
 }
 
 TEST_F(WheelRules, StayWithTheButtonWhereNoBoxIsToBlame) {

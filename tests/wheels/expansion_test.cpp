@@ -92,6 +92,15 @@ TEST(OtherNumber, MayBeTheOneThatStoodInItsColumnBefore) {
     EXPECT_EQ(fromPool, (std::set<int>{7, 8}));
 }
 
+TEST(ExtraBall, IsDrawnWhereTheLotteryHasJustOneAndNotWithoutAny) {
+    for (const int maxPball : {1, 0, -1}) {
+        const auto state = LotteryOf({.maxPball = maxPball});
+        Random random = RandomOf(1);
+        wheels::DrawExtraBall(*state, random, 1);
+        EXPECT_EQ(state->Lines(1, 8), maxPball > 0 ? 1 : 0) << maxPball;
+    }
+}
+
 TEST(OtherNumber, FromThePoolIsFoundAtItsFirstAndItsLastPlaceAndNotBehind) {
     for (const int place : {0, 8}) {
         const auto state = LotteryOf({});
