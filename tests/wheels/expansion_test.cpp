@@ -268,6 +268,17 @@ TEST(BudgetWheel, OfFivePicksDropsTheLastOrTheFirstNumberOfItsSecondGroup) {
     EXPECT_EQ(seen, (std::set<Line>{{1, 2, 3, 4, 5, 0}, {1, 2, 3, 5, 6, 0}}));
 }
 
+TEST(BudgetWheel, OfFivePicksTakesADrawForOneHalfThatIsSoInSinglePrecision) {
+    constexpr std::uint64_t seedOfHalf = 68716939;  // its first draw is 0.50000000836857805
+    Random same = RandomOf(seedOfHalf);
+    ASSERT_GT(same.Next(), 0.5);
+    const auto state = LotteryOf({.picks = 5});
+    Random random = RandomOf(seedOfHalf);
+    FillPool(*state, 0, 9);
+    budget_wheels::Do_Wheel5(*state, random, "AB");
+    EXPECT_EQ(LinesOf(*state, 5), (std::vector<Line>{{1, 2, 3, 5, 6}})) << "one half is not above";
+}
+
 TEST(BudgetWheel, OfOneNumberNineTimesEndsAtOnceAndLeavesNoLines) {
     const auto state = LotteryOf({.picks = 7});
     Random random = RandomOf(1);
