@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <vector>
 
+#include "platform/OneLine.h"
 #include "platform/RoomOnScreen.h"
 #include "platform/Skin.h"
 
@@ -64,6 +65,7 @@ void Form::setVisible(bool visible) {
     if (visible) {
         const auto buttons = findChildren<QPushButton*>();
         for (QPushButton* button : buttons) button->setAutoDefault(false);
+        KeepTextBoxesToOneLine(*this);
         TakeOpeningSize();
     }
     QDialog::setVisible(visible);

@@ -14,6 +14,7 @@
 #include "core/syndicate.h"
 #include "entries/saved_entries.h"
 #include "platform/MessageBoxes.h"
+#include "platform/OneLine.h"
 #include "platform/RoomOnScreen.h"
 #include "platform/Skin.h"
 #include "platform/Text.h"
@@ -68,6 +69,7 @@ void Quillon::Build() {
     layout->addWidget(panels_, 1);
     setMenuBar(menu_);
     setCentralWidget(centre);
+    KeepTextBoxesToOneLine(*this);
     // Wherever the mouse moves but on a picture, the pictures lose their border.
     centre->setMouseTracking(true);
     setMouseTracking(true);

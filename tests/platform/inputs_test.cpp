@@ -3,11 +3,14 @@
 
 #include <QCalendarWidget>
 #include <QClipboard>
+#include <QLineEdit>
 #include <QSignalSpy>
+#include <QValidator>
 
 #include "platform/ClickableLabel.h"
 #include "platform/DatePicker.h"
 #include "platform/NumberBox.h"
+#include "platform/OneLine.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -170,6 +173,51 @@ TEST_F(ADatePicker, TakesYearsOfFourDigitsAsTheyAreTyped) {
     birth.setSelectedSection(QDateTimeEdit::YearSection);
     QTest::keyClicks(&birth, QStringLiteral("1912"));
     EXPECT_EQ(birth.Value(), Day(1912, 1, 1));
+}
+
+struct ATextBoxOfOneLine : testing::Test {
+    ATextBoxOfOneLine() { KeepTextBoxesToOneLine(form); }
+
+    void Paste(const char* text) {
+        QApplication::clipboard()->setText(QString::fromLatin1(text));
+        box.paste();
+    }
+
+    QWidget form;
+    QLineEdit box{&form};
+};
+
+TEST_F(ATextBoxOfOneLine, TurnsThePastedLineEndsIntoBlanks) {
+    Paste("one\r\ntwo\nthree\r\n\r\nfour");
+    EXPECT_EQ(box.text(), QStringLiteral("one two three four"));
+}
+
+TEST_F(ATextBoxOfOneLine, HasNoBlankForALineEndAtEitherEnd) {
+    Paste("\r\nAnn\r\n");
+    EXPECT_EQ(box.text(), QStringLiteral("Ann"));
+}
+
+TEST_F(ATextBoxOfOneLine, PutsTheCursorBehindWhatWasPasted) {
+    box.setText(QStringLiteral("xy"));
+    box.setCursorPosition(1);
+    Paste("a\r\nb");
+    EXPECT_EQ(box.text(), QStringLiteral("xa by"));
+    EXPECT_EQ(box.cursorPosition(), 4);
+}
+
+TEST_F(ATextBoxOfOneLine, KeepsEveryOtherCharacter) {
+    const QString text = QStringLiteral("  a, \"b\" & c\t.  ");
+    Paste(text.toLatin1().constData());
+    EXPECT_EQ(box.text(), text);
+    QTest::keyClicks(&box, QStringLiteral("1 "));
+    EXPECT_EQ(box.text(), text + QStringLiteral("1 "));
+}
+
+TEST_F(ATextBoxOfOneLine, LeavesABoxAloneThatChecksItsText) {
+    NumberBox number(&form);
+    const QValidator* before = number.validator();
+    KeepTextBoxesToOneLine(form);
+    EXPECT_EQ(number.validator(), before);
 }
 
 TEST(AClickableLabel, TellsOfALeftClick) {

@@ -2,7 +2,10 @@
 // What every form keeps to, walked over the form catalogue.
 #include <QAccessible>
 #include <QBuffer>
+#include <QClipboard>
 #include <QImage>
+#include <QLineEdit>
+#include <QRegularExpression>
 #include <algorithm>
 #include <map>
 #include <set>
@@ -165,6 +168,18 @@ TEST_P(EveryForm, FitsASmallScreen) {
     EXPECT_LE(form->minimumSizeHint().height(), 740) << "the title bar needs room too";
     EXPECT_LE(form->width(), 1366);
     EXPECT_LE(form->height(), 740);
+}
+
+TEST_P(EveryForm, TakesNoLineEndIntoATextBox) {
+    Open();
+    QApplication::clipboard()->setText(QStringLiteral("1\r\n2"));
+    for (QLineEdit* box : form->findChildren<QLineEdit*>()) {
+        if (box->isReadOnly()) continue;
+        box->selectAll();
+        box->paste();
+        EXPECT_FALSE(box->text().contains(QRegularExpression(QStringLiteral("[\r\n]"))))
+            << box->objectName().toStdString();
+    }
 }
 
 TEST_P(EveryForm, ClosesOnEsc) {

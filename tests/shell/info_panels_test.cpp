@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -212,6 +213,15 @@ TEST_F(InfoPanelsOfWindow, AddTakesTheFirstFreeItemAndKeepsTheBox) {
     EXPECT_EQ(Item(3)->text(), QStringLiteral("Meet at six"));
     EXPECT_EQ(Item(6)->text(), QString());
     EXPECT_EQ(TextOf("Text2"), QStringLiteral("Meet at six"));
+}
+
+TEST_F(InfoPanelsOfWindow, AnItemOfTwoPastedLinesStaysOneLineOfTheFile) {
+    StartShown();
+    QApplication::clipboard()->setText(QStringLiteral("Phone Ann\r\nand Tom\r\n"));
+    Find<QLineEdit>(*window, "Text2")->paste();
+    Click(*window, "Command3");
+    Quit();
+    EXPECT_NE(NotesFile().find("\r\n 0 ,Phone Ann and Tom\r\n 0 ,\r\n"), std::string::npos);
 }
 
 TEST_F(InfoPanelsOfWindow, AddDoesNothingWhereEveryItemIsTaken) {
