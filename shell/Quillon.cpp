@@ -152,11 +152,16 @@ void Quillon::ShowWelcome(bool shown) {
         auto* layout = qobject_cast<QVBoxLayout*>(centralWidget()->layout());
         layout->insertWidget(1, welcome_, 1, Qt::AlignCenter);
     }
-    if (welcome_ != nullptr) welcome_->setVisible(shown);
+    if (welcome_ == nullptr) return;
+    welcome_->SuitLotteries(anyLottery_);
+    welcome_->setVisible(shown);
 }
 
 void Quillon::ListDatabases() {
-    panels_->ShowDatabases(::ListDatabases(program_.state, program_.folder));
+    const std::vector<std::string> names = ::ListDatabases(program_.state, program_.folder);
+    panels_->ShowDatabases(names);
+    anyLottery_ = !names.empty();
+    if (welcome_ != nullptr) welcome_->SuitLotteries(anyLottery_);
 }
 
 void Quillon::UpdateSyndicate() {

@@ -68,5 +68,6 @@ class Quillon final : public QMainWindow {
     InfoPanels* panels_;
     Welcome* welcome_ = nullptr;  // made when it is first shown
     QPixmap picture_;
+    bool anyLottery_ = false;
     bool painted_ = false;
 };

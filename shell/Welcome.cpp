@@ -17,8 +17,13 @@ struct Step {
     const char* description;
 };
 
-constexpr std::array<Step, 3> steps = {{
-    {"PlayLuckyDip", "toolbar10", QT_TRANSLATE_NOOP("Welcome", "Generate entries"),
+constexpr const char* needsALottery = "PlayLuckyDip";
+constexpr const char* bringsALottery = "DatabasesCreate";
+
+constexpr std::array<Step, 4> steps = {{
+    {bringsALottery, "toolbar02", QT_TRANSLATE_NOOP("Welcome", "Create a lottery"),
+     QT_TRANSLATE_NOOP("Welcome", "There is none yet: tell how many numbers are drawn")},
+    {needsALottery, "toolbar10", QT_TRANSLATE_NOOP("Welcome", "Generate entries"),
      QT_TRANSLATE_NOOP("Welcome", "A lucky dip under conditions of your choice")},
     {"DatabaseStoreDrawsW", "toolbar04", QT_TRANSLATE_NOOP("Welcome", "Store your own entries"),
      QT_TRANSLATE_NOOP("Welcome", "Type in the numbers that you have played")},
@@ -50,6 +55,15 @@ Welcome::Welcome(QWidget* parent) : QWidget(parent) {
                 [this, &step] { Q_EMIT stepChosen(QString::fromLatin1(step.menuEntry)); });
     }
     setFixedWidth(460);
+}
+
+void Welcome::SuitLotteries(bool any) {
+    Button(needsALottery)->setVisible(any);
+    Button(bringsALottery)->setVisible(!any);
+}
+
+QWidget* Welcome::Button(const char* menuEntry) const {
+    return findChild<QCommandLinkButton*>(QStringLiteral("Welcome") + QLatin1String(menuEntry));
 }
 
 void Welcome::paintEvent(QPaintEvent*) {

@@ -354,6 +354,27 @@ TEST_F(QuillonForm, ReopenedFormsStartOnTheFirstLotteryAgain) {
              });
 }
 
+TEST_F(QuillonForm, TheWelcomeBeginsWithALotteryWhereThereIsNone) {
+    program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
+    Start();
+    auto* create = Find<QAbstractButton>(*window, "WelcomeDatabasesCreate");
+    auto* generate = Find<QAbstractButton>(*window, "WelcomePlayLuckyDip");
+    EXPECT_FALSE(generate->isVisible());
+    program.messages.Expect({.title = QStringLiteral("Are you sure?"),
+                             .text = QStringLiteral("Close and discard data?    "),
+                             .sign = Sign::Question,
+                             .buttons = Buttons::YesNo},
+                            Answer::Yes);
+    InDialog([this] { Click(*window, "WelcomeDatabasesCreate"); },
+             [this](QDialog& form) {
+                 EXPECT_EQ(form.objectName(), QStringLiteral("CreateDbase"));
+                 program.folder.Write("dbase1.txt", Database("First"));
+                 QTest::keyClick(&form, Qt::Key_Escape);
+             });
+    EXPECT_FALSE(create->isVisible());
+    EXPECT_TRUE(generate->isVisible());
+}
+
 TEST_F(QuillonForm, TheWelcomeLeadsToTheFirstSteps) {
     program.folder.Write("dbase1.txt", Database("First"));
     Start();
