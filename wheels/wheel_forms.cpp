@@ -5,6 +5,9 @@
 
 #include "core/failure.h"
 #include "core/text.h"
+#include "wheels/budget_wheels.h"
+#include "wheels/pairs_triplets.h"
+#include "wheels/six_letter_wheels.h"
 
 namespace wheels {
 namespace {
@@ -27,16 +30,18 @@ constexpr auto forms = std::to_array<WheelFormRules>({
     {.form = "PWheel2",
      .skin = {},
      .busy = generatesAnyway,
-     .boxes = {.count = 18, .select = SelectFromOne, .mix = MixOrder}},
+     .boxes = {.count = pairs::boxCount, .select = SelectFromOne, .mix = MixOrder}},
     {.form = "PWheel3",
      .skin = {.small = {}, .status = {"Label4"}},
      .busy = generatesAnyway,
-     .boxes =
-         {.count = 24, .unusedTexts = UnusedTexts::Kept, .select = SelectFromOne, .mix = MixOrder}},
+     .boxes = {.count = triplets::boxCount,
+               .unusedTexts = UnusedTexts::Kept,
+               .select = SelectFromOne,
+               .mix = MixOrder}},
     {.form = "PBudgetWheel",
      .skin = {.small = {"Label1"}, .status = {}},
      .busy = budget,
-     .boxes = {.count = 18,
+     .boxes = {.count = budget_wheels::boxCount,
                .keys = BoxKeys::Any,
                .unusedDisabled = true,
                .accepts = HasNumber,
@@ -58,7 +63,7 @@ constexpr auto forms = std::to_array<WheelFormRules>({
     {.form = "PThreeMatch",
      .skin = {.small = {"Label1", "Label5"}, .status = {}},
      .busy = careless,
-     .boxes = {.count = 20,
+     .boxes = {.count = match_wheels::boxCount,
                .keys = BoxKeys::DigitsAndEnter,
                .unusedDisabled = true,
                .select = SelectFromZero,
