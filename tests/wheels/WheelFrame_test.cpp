@@ -15,6 +15,7 @@ struct BoxForm {
     const char* name;
     int boxCount;
     int firstSize;
+    int boxesInGroup;
     std::unique_ptr<Form> (*make)(Program&);
 };
 
@@ -44,6 +45,36 @@ TEST_P(EachWheelForm, TakesThreeDigitsInTheMiddleOfABoxAndNothingElse) {
         EXPECT_EQ(Box(index).maxLength(), 3);
         EXPECT_EQ(Box(index).alignment(), Qt::AlignCenter);
     }
+}
+
+TEST_P(EachWheelForm, HasALetterBesideEachGroupAndSpeaksItWithEachBox) {
+    Open();
+    QApplication::processEvents();
+    const int boxesInGroup = GetParam().boxesInGroup;
+    for (int index = 0; index < GetParam().boxCount; ++index) {
+        const int group = index / boxesInGroup;
+        const std::string name = "Label1(" + std::to_string(group + 1) + ")";
+        const QRect letter = Find<QLabel>(*form_, name.c_str())->geometry();
+        const QRect box = Box(index).geometry();
+        EXPECT_LT(letter.right(), box.left()) << index;
+        EXPECT_NEAR(letter.center().y(), box.center().y(), 1) << index;
+        EXPECT_EQ(Box(index).accessibleName(),
+                  QStringLiteral("%1 %2").arg(QChar('A' + group)).arg(index % boxesInGroup + 1));
+    }
+}
+
+TEST_P(EachWheelForm, TakesASizeFromTheArrowKeysToo) {
+    Open();
+    form_->activateWindow();
+    QApplication::processEvents();
+    auto* first = Find<QRadioButton>(*form_, "Option1(0)");
+    first->setFocus();
+    QTest::keyClick(first, Qt::Key_Down);
+    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(1)")->isChecked());
+    const int count = Size() + GetParam().boxesInGroup;
+    EXPECT_EQ(Background(count - 1), white);
+    EXPECT_EQ(Background(count), grey);
+    EXPECT_TRUE(Text("Label8").startsWith(QStringLiteral("   Enter %1 different").arg(count)));
 }
 
 TEST_P(EachWheelForm, MakesNothingOnEnterInABoxAndStaysThere) {
@@ -289,11 +320,11 @@ TEST_P(EachWheelForm, EndsInTheReportWithoutALottery) {
 }
 
 const std::vector<BoxForm> boxForms = {
-    {"PWheel2", 18, 8,
+    {"PWheel2", 18, 8, 2,
      [](Program& program) -> std::unique_ptr<Form> {
          return std::make_unique<PWheel2>(program, nullptr);
      }},
-    {"PWheel3", 24, 9, [](Program& program) -> std::unique_ptr<Form> {
+    {"PWheel3", 24, 9, 3, [](Program& program) -> std::unique_ptr<Form> {
          return std::make_unique<PWheel3>(program, nullptr);
      }}};
 
@@ -341,6 +372,13 @@ TEST_F(WheelRules, DisableAndEmptyTheBoxesOutOfUse) {
             EXPECT_EQ(Box(index).text(), index < 10 ? QStringLiteral("7") : QString());
         }
     }
+}
+
+TEST_F(WheelRules, NumberTheBoxesOfAFormWithoutLetters) {
+    Open("PDIYWheels");
+    EXPECT_EQ(Box(0).accessibleName(), QStringLiteral("Number 1"));
+    EXPECT_EQ(Box(19).accessibleName(), QStringLiteral("Number 20"));
+    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Label1(1)")), nullptr);
 }
 
 TEST_F(WheelRules, LeadEnterOnToTheNextBoxInUse) {
