@@ -6,15 +6,14 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-#include "platform/Grid.h"
 #include "platform/Lists.h"
-#include "tests/support/form_test.h"
 #include "tests/support/hourglass_watch.h"
+#include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
 
-class LuckyDipForm : public testing::Test {
+class LuckyDipForm : public LinesFormTest {
   protected:
     LuckyDipForm() {
         AddUkLotto(test_.folder);
@@ -24,85 +23,31 @@ class LuckyDipForm : public testing::Test {
         test_.state.Settings(12) = "1 High/Low filter";
         test_.state.Settings(13) = "1 History  filter";
         test_.state.Settings(14) = "3 Long Run filter";
-        test_.services.saveLines = [this](QWidget*, Grid&) { ++saves_; };
     }
 
-    void Open() {
-        form_ = std::make_unique<PLuckyDip>(test_.program, nullptr);
-        form_->Load();
-        form_->show();
-    }
+    void Open() { ShowForm(std::make_unique<PLuckyDip>(test_.program, nullptr)); }
 
-    Grid& Lines() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
-
-    int ShownLines() {
-        int count = 0;
-        while (!Lines().Cell(count + 1, 1).isEmpty()) ++count;
-        return count;
-    }
-
-    QString Status() { return Find<QLabel>(*form_, "Label5")->text(); }
-
-    /// Every text of the grid, to see whether lines are others.
-    QStringList Texts() {
-        QStringList texts;
-        for (int row = 1; row < Lines().RowCount(); ++row) {
-            for (int column = 0; column < 9; ++column) texts << Lines().Cell(row, column);
-        }
-        return texts;
-    }
-
-    void ShowOneLine(const std::vector<std::int16_t>& numbers) {
-        for (int column = 1; column <= 8; ++column) test_.state.Lines(1, column) = 0;
-        for (std::size_t i = 0; i < numbers.size(); ++i) {
-            test_.state.Lines(1, static_cast<long long>(i) + 1) = numbers[i];
-        }
-        test_.state.Lines(2, 1) = 0;
-    }
-
-    TestProgram test_;
-    std::unique_ptr<PLuckyDip> form_;
-    int saves_ = 0;
+    QString Status() { return Text("Label5"); }
 };
 
 TEST_F(LuckyDipForm, BearsItsWords) {
     Open();
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Lucky Dip"));
-    const std::vector<std::pair<const char*, const char*>> labels = {
-        {"Label7", "Lucky dip"},
-        {"Label2",
-         "Don't accept any old ticket the lottery terminal prints out. It might be biased! If you "
-         "have not had any wins and want a completely random selection of lottery numbers, try "
-         "these below. They may just bring you luck."},
-        {"Label1", "Select a lottery:"},
-        {"Label8", "Lines to generate"},
-        {"Label4", "5"},
-        {"Label6", "Do not pick lottery entries with..."},
-        {"Label6(1)", "Filters"}};
-    for (const auto& [name, text] : labels) {
-        EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
-    }
-    const std::vector<std::pair<const char*, const char*>> buttons = {
-        {"Check1", "Too many odd or even numbers"},
-        {"Check2", "Too many low or high numbers"},
-        {"Check3", "Same numbers as a previous draw"},
-        {"Command3", "?"},
-        {"Command13", "Odd/even"},
-        {"Command14", "High/low"},
-        {"Command15", "Long runs"},
-        {"Command9", "Previous draws"},
-        {"Command8", " Help "}};
-    for (const auto& [name, text] : buttons) {
-        EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
-    }
-    const std::vector<std::pair<const char*, const char*>> toolTips = {
-        {"Command2", "Generate another selection of lottery entries"},
-        {"Command6", "Print out the lottery entries"},
-        {"Command7", "Save these lottery entries to disk"},
-        {"Command1", " Close "}};
-    for (const auto& [name, text] : toolTips) {
-        EXPECT_EQ(Find<QPushButton>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
-    }
+    ExpectLabels(
+        {{"Label7", "Lucky dip"},
+         {"Label2",
+          "Don't accept any old ticket the lottery terminal prints out. It might be biased! If you "
+          "have not had any wins and want a completely random selection of lottery numbers, try "
+          "these below. They may just bring you luck."},
+         {"Label8", "Lines to generate"},
+         {"Label4", "5"},
+         {"Label6", "Do not pick lottery entries with..."},
+         {"Label6(1)", "Filters"}});
+    ExpectCaptions({{"Check1", "Too many odd or even numbers"},
+                    {"Check2", "Too many low or high numbers"},
+                    {"Check3", "Same numbers as a previous draw"},
+                    {"Command3", "?"}});
+    ExpectFrameWords({}, "Command8");
 }
 
 TEST_F(LuckyDipForm, OpeningYieldsFiveLinesOfTheFirstLotteryAtTheFirstTry) {
@@ -162,7 +107,7 @@ TEST_F(LuckyDipForm, TheScrollBarChangesItsLabelAtOnceAndTheLinesOnlyWithGenerat
     EXPECT_EQ(scroll->minimum(), 1);
     EXPECT_EQ(scroll->maximum(), 30);
     scroll->setValue(30);
-    EXPECT_EQ(Find<QLabel>(*form_, "Label4")->text(), QStringLiteral("30"));
+    EXPECT_EQ(Text("Label4"), QStringLiteral("30"));
     EXPECT_EQ(ShownLines(), 5);
     Click(*form_, "Command2");
     EXPECT_EQ(ShownLines(), 30);
@@ -249,35 +194,15 @@ TEST_F(LuckyDipForm, AFilterButtonRemovesWhatFailsAndRenumbersTheRest) {
 
 TEST_F(LuckyDipForm, EachFilterButtonHasItsFilter) {
     Open();
-    const std::vector<std::pair<const char*, std::vector<std::int16_t>>> cases = {
-        {"Command13", {1, 3, 25, 27, 35, 41}},
-        {"Command14", {1, 4, 7, 12, 15, 24}},
-        {"Command15", {1, 2, 3, 4, 30, 41}},
-        {"Command9", {3, 17, 22, 34, 41, 48}}};
-    for (const auto& [button, failing] : cases) {
-        ShowOneLine({2, 9, 16, 29, 33, 44});
-        Click(*form_, button);
-        EXPECT_EQ(ShownLines(), 1) << button << " keeps a line that complies";
-        ShowOneLine(failing);
-        Click(*form_, button);
-        EXPECT_EQ(ShownLines(), 0) << button << " removes a line that fails";
-    }
+    ExpectFiltersTakeLinesOut({});
 }
 
 TEST_F(LuckyDipForm, TakesColoursOneToFourOfTheSkin) {
-    test_.state.Settings(10) = "2";
-    for (int slot = 1; slot <= 4; ++slot) {
-        test_.state.Settings(slot) = "&H" + std::to_string(slot);
-    }
-    test_.state.Settings(5) = "&HFFFFFF";
+    TakeSkinColours("&HFFFFFF");
     Open();
     const std::vector<std::pair<const char*, int>> reds = {
         {"Label7", 1}, {"Label2", 2}, {"Label1", 3}, {"Label5", 4}};
-    for (const auto& [name, red] : reds) {
-        EXPECT_EQ(Find<QLabel>(*form_, name)->palette().color(QPalette::WindowText),
-                  QColor(red, 0, 0))
-            << name;
-    }
+    for (const auto& [name, red] : reds) EXPECT_EQ(TextColour(name), QColor(red, 0, 0)) << name;
 }
 
 TEST_F(LuckyDipForm, NothingButTheScrollBarReactsWhileBusy) {

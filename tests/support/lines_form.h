@@ -50,8 +50,8 @@ class LinesFormTest : public testing::Test {
     /// Makes these numbers the only line of `Lines`; the grid stays.
     void MakeOnlyLine(const std::vector<int>& numbers);
 
-    /// Each filter takes out a line that fails it. The form can generate; it shows a lottery of 6
-    /// of 49 with a draw of 3 17 22 34 41 48; the filters have strength 2.
+    /// Each filter takes out a line that fails it and no other. The lottery is one of 6 of 49 with
+    /// a draw of 3 17 22 34 41 48; the filters have strength 1 or 2, long runs 2 or 3.
     void ExpectFiltersTakeLinesOut(const FilterNames& filters);
 
     /// Colour n of the skin becomes a red of n, the background what is told.
