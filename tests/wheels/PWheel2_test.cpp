@@ -129,6 +129,22 @@ TEST_F(WheelingPairs, PutsTheChosenSizeToUseAndEmptiesTheRest) {
     }
 }
 
+TEST_F(WheelingPairs, EmptiesTheRestAgainOnAClickOnTheSizeChosenAlready) {
+    Open();
+    TypeBox(7, QStringLiteral("7"));
+    TypeBox(8, QStringLiteral("8"));
+    ChooseSize(0);
+    EXPECT_EQ(Box(7).text(), QStringLiteral("7"));
+    EXPECT_EQ(Box(8).text(), QString());
+}
+
+TEST_F(WheelingPairs, TakesASizeChosenInCode) {
+    Open();
+    Find<QRadioButton>(*form_, "Option1(4)")->setChecked(true);
+    EXPECT_EQ(Background(15), white);
+    EXPECT_EQ(Background(16), grey);
+}
+
 TEST_F(WheelingPairs, MakesThreeLinesOfSixFromEightNumbers) {
     Open();
     TypeCounting(8);

@@ -450,13 +450,13 @@ TEST_F(WheelRules, ShowAPromptOnlyWhereTheFormHasOne) {
     EXPECT_TRUE(Find<QLabel>(*form_, "Label8")->isVisible());
 }
 
-TEST_F(WheelRules, StayWithTheButtonWhereNoBoxIsToBlame) {
+TEST_F(WheelRules, LeaveTheCursorWhereNoBoxIsToBlame) {
     Open("PBudgetWheel");
-    Box(0).setFocus();
+    Box(3).setFocus();
     Ruled().outcome = wheels::Outcome::NoOtherNumber;
     ExpectInputTip();
     QTest::keyClick(Find<QPushButton>(*form_, "Command2"), Qt::Key_Space);
-    EXPECT_EQ(form_->focusWidget(), &Box(0));
+    EXPECT_EQ(form_->focusWidget(), &Box(3));
     EXPECT_EQ(ShownLines(), 0);
 }
 
