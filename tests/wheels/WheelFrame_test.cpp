@@ -341,10 +341,12 @@ class RuledForm final : public WheelFrame {
 
     using WheelFrame::UseBoxes;
     wheels::Outcome outcome = wheels::Outcome::Done;
+    int busyAtWork = 1;  ///< What `Busy` was while the lines were made.
 
   protected:
     void SizeChosen() override { UseBoxes(8); }
     wheels::Outcome MakeLines(wheels::Boxes&) override {
+        busyAtWork = state().Busy;
         state().Lines(1, 1) = outcome == wheels::Outcome::Done ? 7 : 0;
         state().Lines(2, 1) = 0;
         return outcome;
@@ -495,6 +497,20 @@ TEST_F(WheelRules, IgnoreTheCloseOfABusyBudgetWheelAndLetItFilter) {
     EXPECT_TRUE(form_->isVisible()) << "the ignored click is not made up for";
 }
 
+TEST_F(WheelRules, LeaveItToSomeFormsToSetBusy) {
+    const std::vector<std::pair<const char*, int>> setByTheFrame = {{"PWheel2", -1},
+                                                                    {"PWheel3", -1},
+                                                                    {"PBudgetWheel", 0},
+                                                                    {"PDIYWheels", 0},
+                                                                    {"PThreeMatch", 0}};
+    for (const auto& [rules, busy] : setByTheFrame) {
+        Open(rules);
+        Click(*form_, "Command2");
+        EXPECT_EQ(Ruled().busyAtWork, busy) << rules;
+        EXPECT_EQ(test_.state.Busy, 0) << rules;
+    }
+}
+
 TEST_F(WheelRules, LetMatchAndOwnWheelsDoEverythingWhileBusy) {
     for (const char* rules : {"PDIYWheels", "PThreeMatch"}) {
         Open(rules);
@@ -522,6 +538,17 @@ TEST_F(WheelRules, KnowAllEightForms) {
               (std::vector<std::string>{"PBudgetWheel", "PDIYWheels", "PGuaranteed", "PHotWheels",
                                         "PThreeMatch", "PWheel2", "PWheel3", "Wheel49"}));
     EXPECT_THROW(wheels::RulesOf("PLuckyDip"), Failure);
+}
+
+TEST_F(WheelRules, GiveEachFormItsNumberOfBoxes) {
+    const std::vector<std::pair<const char*, int>> counts = {{"PWheel2", 18},
+                                                             {"PWheel3", 24},
+                                                             {"PBudgetWheel", 18},
+                                                             {"PDIYWheels", 20},
+                                                             {"PThreeMatch", 20}};
+    for (const auto& [form, count] : counts) {
+        EXPECT_EQ(wheels::RulesOf(form).boxes.count, count) << form;
+    }
 }
 
 TEST_F(WheelRules, ColourTheLabelsOfEachForm) {
