@@ -31,6 +31,14 @@ void ClearLinesGrid(Grid& grid) {
     SetLinesHeadings(grid);
 }
 
+void WipeLines(Grid& grid, int row) {
+    for (; !grid.Cell(row, 0).isEmpty(); ++row) {
+        for (int column = extraBallColumn; column >= 0; --column) {
+            grid.SetCell(row, column, QString());
+        }
+    }
+}
+
 void ShowLines(const State& state, Grid& grid) {
     int row = 1;
     for (; state.Lines(row, 1) >= 1; ++row) {
@@ -40,10 +48,6 @@ void ShowLines(const State& state, Grid& grid) {
         }
         grid.SetCellColour(row, extraBallColumn, ExtraBallColour());
     }
-    for (; !grid.Cell(row, 0).isEmpty(); ++row) {
-        for (int column = extraBallColumn; column >= 0; --column) {
-            grid.SetCell(row, column, QString());
-        }
-    }
+    WipeLines(grid, row);
     grid.ScrollToTop();
 }

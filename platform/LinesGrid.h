@@ -16,6 +16,9 @@ void SetLinesHeadings(Grid& grid);
 /// Empties the grid and sets its headings, as for a new lottery.
 void ClearLinesGrid(Grid& grid);
 
+/// Empties the rows from `row` on, as far as lines stand there.
+void WipeLines(Grid& grid, int row);
+
 /// Shows `state.Lines`: one row a line, empty cells for 0, the extra ball in dark red; wipes what a
 /// longer result left and scrolls to the top. The grid needs a row more than there are lines.
 void ShowLines(const State& state, Grid& grid);

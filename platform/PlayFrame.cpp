@@ -135,6 +135,8 @@ bool PlayFrame::Lets(bool waits) const { return !waits || state().Busy == 0; }
 
 void PlayFrame::ShowResult() { ShowLines(state(), *grid_); }
 
+void PlayFrame::EmptyGrid() { WipeLines(*grid_, 1); }
+
 void PlayFrame::DropWaitingInput() { InputDropper::Run(*command1_); }
 
 void PlayFrame::List1_Click() {
@@ -151,7 +153,7 @@ void PlayFrame::List1_Click() {
 }
 
 void PlayFrame::Command2_Click() {
-    if (!Lets(busyRules_.generateWaits)) return;
+    if (!Lets(busyRules_.generateWaits) || !MayGenerate()) return;
     if (!busyRules_.generateSets) {
         Generate();
         return;

@@ -49,6 +49,10 @@ class PlayFrame : public Form {
     /// rules say so.
     virtual void Generate() = 0;
 
+    /// Whether the form can make lines of what is chosen; where it cannot, it has said so itself.
+    /// Asked before `Busy` is set.
+    virtual bool MayGenerate() { return true; }
+
     /// A form's own steps with the lottery just loaded, `Busy` and the hourglass still set.
     virtual void DatabaseLoaded() {}
 
@@ -63,6 +67,9 @@ class PlayFrame : public Form {
 
     /// Shows `state().Lines` in the grid.
     void ShowResult();
+
+    /// Takes the lines out of the grid; `state().Lines` stays.
+    void EmptyGrid();
 
     /// Throws away what was clicked and typed during long work, but for the close button.
     void DropWaitingInput();

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
+#include <array>
+#include <span>
 
 #include "platform/NumberBox.h"
 #include "platform/ShowTip.h"
@@ -51,10 +53,10 @@ QString SpokenName(const BoxGrouping& grouping, int index) {
         .arg(index % grouping.boxesInGroup + 1);
 }
 
-std::vector<QLabel*> LabelsOf(const QWidget& form, const std::array<std::string_view, 4>& names) {
+std::vector<QLabel*> LabelsOf(const Form& form, std::span<const std::string_view> names) {
     std::vector<QLabel*> labels;
     for (const std::string_view name : names) {
-        auto* label = form.findChild<QLabel*>(ToQString(std::string(name)));
+        auto* label = form.findChild<QLabel*>(ToQString(name));
         if (!name.empty() && label != nullptr) labels.push_back(label);
     }
     return labels;
@@ -67,6 +69,16 @@ PlayButtonNames WheelButtonNames(const QString& help) {
     names.help = help;
     names.filtersLabel = QStringLiteral("Label6");
     return names;
+}
+
+SkinLabels WheelSkinLabels(const Form& form) {
+    constexpr std::array<std::string_view, 1> title = {"Label7"};
+    constexpr std::array<std::string_view, 1> body = {"Label2"};
+    const wheels::SkinSlots& colours = wheels::RulesOf(FromQString(form.objectName())).skin;
+    return {.title = LabelsOf(form, title),
+            .body = LabelsOf(form, body),
+            .small = LabelsOf(form, colours.small),
+            .status = LabelsOf(form, colours.status)};
 }
 
 WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
@@ -113,13 +125,13 @@ QLineEdit* WheelFrame::BuildBox(int index) {
 }
 
 QLayout* WheelFrame::BuildRandomButtons() {
-    QPushButton* selection = MakeButton(QStringLiteral("Command12"), tr("Random selection"));
-    QPushButton* order = MakeButton(QStringLiteral("Command8"), tr("Random order"));
-    connect(selection, &QPushButton::clicked, this, [this] { Change(rules_.boxes.select); });
-    connect(order, &QPushButton::clicked, this, [this] { Change(rules_.boxes.mix); });
+    command12_ = MakeButton(QStringLiteral("Command12"), tr("Random selection"));
+    command8_ = MakeButton(QStringLiteral("Command8"), tr("Random order"));
+    connect(command12_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.select); });
+    connect(command8_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.mix); });
     auto* row = new QHBoxLayout;
-    row->addWidget(selection);
-    row->addWidget(order);
+    row->addWidget(command12_);
+    row->addWidget(command8_);
     return row;
 }
 
@@ -149,12 +161,7 @@ void WheelFrame::Load() {
     PlayFrame::Load();
 }
 
-SkinLabels WheelFrame::SkinnedLabels() const {
-    SkinLabels labels = PlayFrame::SkinnedLabels();
-    labels.small = LabelsOf(*this, rules_.skin.small);
-    labels.status = LabelsOf(*this, rules_.skin.status);
-    return labels;
-}
+SkinLabels WheelFrame::SkinnedLabels() const { return WheelSkinLabels(*this); }
 
 void WheelFrame::UseBoxes(int count) {
     wheels::Boxes boxes = Read();

@@ -9,10 +9,14 @@
 #include "wheels/wheel_forms.h"
 
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 
 /// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
 PlayButtonNames WheelButtonNames(const QString& help);
+
+/// The labels of a wheel form, found by its name and theirs, that take the skin's colours.
+SkinLabels WheelSkinLabels(const Form& form);
 
 /// How the number boxes of a form stand.
 struct BoxGrouping {
@@ -63,6 +67,10 @@ class WheelFrame : public PlayFrame {
 
     QRadioButton& SizeOption(int option) { return *sizes_.at(static_cast<std::size_t>(option)); }
 
+    /// The buttons `Command12` and `Command8`, for the tool-tips that some forms give them.
+    QPushButton& RandomSelection() { return *command12_; }
+    QPushButton& RandomOrder() { return *command8_; }
+
     /// Puts the first `count` boxes to use.
     void UseBoxes(int count);
 
@@ -81,6 +89,8 @@ class WheelFrame : public PlayFrame {
 
     const wheels::WheelFormRules& rules_;
     QLabel* label8_;
+    QPushButton* command12_;
+    QPushButton* command8_;
     std::vector<QLineEdit*> text1_;
     std::vector<QRadioButton*> sizes_;
     int boxesInUse_ = 0;

@@ -30,41 +30,17 @@ class WheelingPairs : public WheelFormTest {
 TEST_F(WheelingPairs, BearsItsWords) {
     Open();
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Wheeling pairs"));
-    const std::vector<std::pair<const char*, const char*>> labels = {
-        {"Label7", "Wheeling pairs"},
-        {"Label2",
-         "This method of selecting Lotto entries tries to increase your chance of winning the "
-         "smaller prizes by placing numbers into pairs. Each pair is played with every other pair. "
-         "Pick up to 9 pairs of numbers."},
-        {"Label1", "Select a lottery:"},
-        {"Label6", "Filters"},
-        {"Label8", "   Enter 8 different pairs of numbers, starting with A:"}};
-    for (const auto& [name, text] : labels) {
-        EXPECT_EQ(Text(name), QString::fromLatin1(text)) << name;
-    }
-    for (int pair = 0; pair < 9; ++pair) {
-        const std::string name = "Label1(" + std::to_string(pair + 1) + ")";
-        EXPECT_EQ(Text(name.c_str()), QString(QChar('A' + pair)));
-    }
-    const std::vector<std::pair<const char*, const char*>> buttons = {
-        {"Command12", "Random selection"},
-        {"Command8", "Random order"},
-        {"Command13", "Odd/even"},
-        {"Command14", "High/low"},
-        {"Command15", "Long runs"},
-        {"Command9", "Previous draws"},
-        {"Command3", " Help "}};
-    for (const auto& [name, text] : buttons) {
-        EXPECT_EQ(Find<QPushButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
-    }
-    const std::vector<std::pair<const char*, const char*>> toolTips = {
-        {"Command2", "Generate another selection of lottery entries"},
-        {"Command6", "Print out the lottery entries"},
-        {"Command7", "Save these lottery entries to disk"},
-        {"Command1", " Close "}};
-    for (const auto& [name, text] : toolTips) {
-        EXPECT_EQ(Find<QPushButton>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
-    }
+    ExpectLabels(
+        {{"Label7", "Wheeling pairs"},
+         {"Label2",
+          "This method of selecting Lotto entries tries to increase your chance of winning the "
+          "smaller prizes by placing numbers into pairs. Each pair is played with every other "
+          "pair. Pick up to 9 pairs of numbers."},
+         {"Label6", "Filters"},
+         {"Label8", "   Enter 8 different pairs of numbers, starting with A:"}});
+    ExpectLetters(9);
+    ExpectCaptions({{"Command12", "Random selection"}, {"Command8", "Random order"}});
+    ExpectFrameWords({}, "Command3");
 }
 
 TEST_F(WheelingPairs, HasNoLineCountNoConditionsAndNoTries) {
@@ -76,16 +52,7 @@ TEST_F(WheelingPairs, HasNoLineCountNoConditionsAndNoTries) {
 
 TEST_F(WheelingPairs, OpensWithEightEmptyWhiteBoxesAndMakesNothing) {
     Open();
-    EXPECT_EQ(test_.state.LotteryName, "Lotto");
-    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
-    for (int index = 0; index < boxCount; ++index) {
-        EXPECT_EQ(Background(index), index < 8 ? white : grey) << index;
-        EXPECT_TRUE(Box(index).isEnabled());
-        EXPECT_TRUE(Box(index).text().isEmpty());
-    }
-    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Text1(18)")), nullptr);
-    EXPECT_EQ(ShownLines(), 0);
-    EXPECT_EQ(test_.state.Lines(1, 1), 0);
+    ExpectEmptyForm(8, boxCount);
 }
 
 TEST_F(WheelingPairs, TellsTheLinesOfEachSizeForTheLotteryChosen) {
@@ -266,18 +233,11 @@ TEST_F(WheelingPairs, FillsBoxesBeyondASmallFieldWithWhatThePoolHeld) {
 }
 
 TEST_F(WheelingPairs, TakesColoursOneAndTwoOfTheSkinOnly) {
-    test_.state.Settings(10) = "2";
-    const std::array colours = {"&H000001", "&H000002", "&H000003", "&H000004", "&H202020"};
-    for (int slot = 1; slot <= 5; ++slot) {
-        test_.state.Settings(slot) = colours[static_cast<std::size_t>(slot) - 1];
-    }
+    TakeSkinColours("&H202020");
     Open();
-    const auto colourOf = [this](const char* name) {
-        return Find<QLabel>(*form_, name)->palette().color(QPalette::WindowText);
-    };
-    EXPECT_EQ(colourOf("Label7"), QColor(1, 0, 0));
-    EXPECT_EQ(colourOf("Label2"), QColor(2, 0, 0));
-    EXPECT_EQ(colourOf("Label1"), form_->palette().color(QPalette::WindowText));
+    EXPECT_EQ(TextColour("Label7"), QColor(1, 0, 0));
+    EXPECT_EQ(TextColour("Label2"), QColor(2, 0, 0));
+    EXPECT_EQ(TextColour("Label1"), form_->palette().color(QPalette::WindowText));
     EXPECT_EQ(Background(0), white);
     EXPECT_EQ(Background(17), grey);
     EXPECT_EQ(Box(0).palette().color(QPalette::Text), QColor(Qt::black));
@@ -287,18 +247,7 @@ TEST_F(WheelingPairs, WheelsTheNumbersOfRealLotteries) {
     test_.folder = MemoryFolder();
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no folder of real histories";
     Open();
-    ChooseSize(5);
-    for (int index = 0; index < Find<ListBox>(*form_, "List1")->count(); ++index) {
-        ChooseLottery(index);
-        Click(*form_, "Command12");
-        Click(*form_, "Command2");
-        EXPECT_EQ(ShownLines(), test_.state.Picks < 6 ? 36 : 28) << test_.state.LotteryName;
-        for (const auto& row : Rows(8)) {
-            const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
-            EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
-            EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
-        }
-    }
+    ExpectWheelsOfRealLotteries([this] { return test_.state.Picks < 6 ? 36 : 28; });
 }
 
 }  // namespace

@@ -21,53 +21,35 @@ class WheelingTriplets : public WheelFormTest {
 TEST_F(WheelingTriplets, BearsItsWords) {
     Open();
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Wheeling triplets"));
-    const std::vector<std::pair<const char*, const char*>> labels = {
-        {"Label7", "Wheeling triplets"},
-        {"Label2",
-         "This method of selecting Lotto entries tries to increase your chance of winning the "
-         "smaller prizes by placing numbers into groups of three. Each group is played with every "
-         "other group. Pick up to 8 groups of three numbers."},
-        {"Label1", "Select a lottery:"},
-        {"Label6", "Filters"},
-        {"Label8", "   Enter 9 different numbers in groups of three, starting with group A:"}};
-    for (const auto& [name, text] : labels) {
-        EXPECT_EQ(Text(name), QString::fromLatin1(text)) << name;
-    }
-    for (int group = 0; group < 8; ++group) {
-        const std::string name = "Label1(" + std::to_string(group + 1) + ")";
-        EXPECT_EQ(Text(name.c_str()), QString(QChar('A' + group)));
-    }
-    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Label1(9)")), nullptr);
-    const std::vector<std::pair<const char*, const char*>> buttons = {
-        {"Option1(0)", "Wheel   9 numbers in   3 lines"},
-        {"Option1(1)", "Wheel 12 numbers in   6 lines"},
-        {"Option1(2)", "Wheel 15 numbers in 10 lines"},
-        {"Option1(3)", "Wheel 18 numbers in 15 lines"},
-        {"Option1(4)", "Wheel 21 numbers in 21 lines"},
-        {"Option1(5)", "Wheel 24 numbers in 28 lines"},
-        {"Command12", "Random selection"},
-        {"Command8", "Random order"},
-        {"Command3", " Help "}};
+    ExpectLabels(
+        {{"Label7", "Wheeling triplets"},
+         {"Label2",
+          "This method of selecting Lotto entries tries to increase your chance of winning the "
+          "smaller prizes by placing numbers into groups of three. Each group is played with every "
+          "other group. Pick up to 8 groups of three numbers."},
+         {"Label6", "Filters"},
+         {"Label8", "   Enter 9 different numbers in groups of three, starting with group A:"}});
+    ExpectLetters(8);
+    ExpectCaptions({{"Command12", "Random selection"}, {"Command8", "Random order"}});
+    ExpectFrameWords({}, "Command3");
+}
+
+TEST_F(WheelingTriplets, TellsTheSameLinesOfEachSizeForEveryLottery) {
+    Open();
     for (const int lottery : {Lotto, Five}) {
         ChooseLottery(lottery);
-        for (const auto& [name, text] : buttons) {
-            EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text))
-                << name;
-        }
+        ExpectCaptions({{"Option1(0)", "Wheel   9 numbers in   3 lines"},
+                        {"Option1(1)", "Wheel 12 numbers in   6 lines"},
+                        {"Option1(2)", "Wheel 15 numbers in 10 lines"},
+                        {"Option1(3)", "Wheel 18 numbers in 15 lines"},
+                        {"Option1(4)", "Wheel 21 numbers in 21 lines"},
+                        {"Option1(5)", "Wheel 24 numbers in 28 lines"}});
     }
 }
 
 TEST_F(WheelingTriplets, OpensWithNineEmptyWhiteBoxesAndMakesNothing) {
     Open();
-    EXPECT_EQ(test_.state.LotteryName, "Lotto");
-    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
-    for (int index = 0; index < boxCount; ++index) {
-        EXPECT_EQ(Background(index), index < 9 ? white : grey) << index;
-        EXPECT_TRUE(Box(index).isEnabled());
-        EXPECT_TRUE(Box(index).text().isEmpty());
-    }
-    EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Text1(24)")), nullptr);
-    EXPECT_EQ(ShownLines(), 0);
+    ExpectEmptyForm(9, boxCount);
 }
 
 TEST_F(WheelingTriplets, SaysWhichLotteriesTheMethodSuits) {
@@ -200,37 +182,19 @@ TEST_F(WheelingTriplets, AnswersANumberThatCannotBeFoundWithTheTip) {
 }
 
 TEST_F(WheelingTriplets, GivesColourFourOfTheSkinToTheAdvice) {
-    test_.state.Settings(10) = "2";
-    const std::array colours = {"&H000001", "&H000002", "&H000003", "&H000004", "&H202020"};
-    for (int slot = 1; slot <= 5; ++slot) {
-        test_.state.Settings(slot) = colours[static_cast<std::size_t>(slot) - 1];
-    }
+    TakeSkinColours("&H202020");
     Open();
-    const auto colourOf = [this](const char* name) {
-        return Find<QLabel>(*form_, name)->palette().color(QPalette::WindowText);
-    };
-    EXPECT_EQ(colourOf("Label7"), QColor(1, 0, 0));
-    EXPECT_EQ(colourOf("Label2"), QColor(2, 0, 0));
-    EXPECT_EQ(colourOf("Label4"), QColor(4, 0, 0));
-    EXPECT_EQ(colourOf("Label1"), form_->palette().color(QPalette::WindowText));
+    EXPECT_EQ(TextColour("Label7"), QColor(1, 0, 0));
+    EXPECT_EQ(TextColour("Label2"), QColor(2, 0, 0));
+    EXPECT_EQ(TextColour("Label4"), QColor(4, 0, 0));
+    EXPECT_EQ(TextColour("Label1"), form_->palette().color(QPalette::WindowText));
 }
 
 TEST_F(WheelingTriplets, WheelsTheNumbersOfRealLotteries) {
     test_.folder = MemoryFolder();
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no folder of real histories";
     Open();
-    ChooseSize(5);
-    for (int index = 0; index < Find<ListBox>(*form_, "List1")->count(); ++index) {
-        ChooseLottery(index);
-        Click(*form_, "Command12");
-        Click(*form_, "Command2");
-        EXPECT_EQ(ShownLines(), 28) << test_.state.LotteryName;
-        for (const auto& row : Rows(8)) {
-            const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
-            EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
-            EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
-        }
-    }
+    ExpectWheelsOfRealLotteries([] { return 28; });
 }
 
 }  // namespace

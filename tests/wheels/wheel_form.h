@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -37,13 +39,53 @@ class WheelFormTest : public LinesFormTest {
 
     QColor Background(int index) { return Box(index).palette().color(QPalette::Base); }
 
-    QString Text(const char* label) { return Find<QLabel>(*form_, label)->text(); }
-
     void ChooseSize(int option) {
         Click(*form_, ("Option1(" + std::to_string(option) + ")").c_str());
     }
 
     void TypeBox(int index, const QString& text) { Type(*form_, BoxName(index).c_str(), text); }
+
+    /// The letters beside the groups, "A" to that of the last.
+    void ExpectLetters(int groups) {
+        for (int group = 0; group <= groups; ++group) {
+            const QString name = QStringLiteral("Label1(%1)").arg(group + 1);
+            const auto* letter = form_->findChild<QLabel*>(name);
+            ASSERT_EQ(letter != nullptr, group < groups) << name.toStdString();
+            if (letter == nullptr) continue;
+            EXPECT_EQ(letter->text(), QString(QChar('A' + group)));
+        }
+    }
+
+    /// As the form opens: the first lottery and size, the first boxes white, nothing in any of the
+    /// `count` boxes and no lines.
+    void ExpectEmptyForm(int inUse, int count) {
+        EXPECT_EQ(test_.state.LotteryName, "Lotto");
+        EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
+        for (int index = 0; index < count; ++index) {
+            EXPECT_EQ(Background(index), index < inUse ? white : grey) << index;
+            EXPECT_TRUE(Box(index).isEnabled());
+            EXPECT_TRUE(Box(index).text().isEmpty());
+        }
+        EXPECT_EQ(form_->findChild<QObject*>(QStringLiteral("Text1(%1)").arg(count)), nullptr);
+        EXPECT_EQ(ShownLines(), 0);
+        EXPECT_EQ(test_.state.Lines(1, 1), 0);
+    }
+
+    /// Random selections of the sixth size for every real lottery make this many whole lines.
+    void ExpectWheelsOfRealLotteries(const std::function<int()>& lineCount) {
+        ChooseSize(5);
+        for (int index = 0; index < Find<ListBox>(*form_, "List1")->count(); ++index) {
+            ChooseLottery(index);
+            Click(*form_, "Command12");
+            Click(*form_, "Command2");
+            EXPECT_EQ(ShownLines(), lineCount()) << test_.state.LotteryName;
+            for (const auto& row : Rows(8)) {
+                const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
+                EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
+                EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
+            }
+        }
+    }
 
     /// Types 1 to `count` into the first boxes.
     void TypeCounting(int count) {
