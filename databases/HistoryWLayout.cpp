@@ -85,20 +85,10 @@ void HistoryW::MakeEditPanel() {
     dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
                        QStringLiteral("DTPicker1"));
     dtPicker1_->setAccessibleName(tr("Date of the draw"));
-    dtPicker1_->setFixedWidth(grid_->columnWidth(0));
-    auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(0);
-    boxes->addSpacing(grid_->frameWidth());
-    boxes->addWidget(dtPicker1_);
     text1_ = MakeDrawBoxes(1);
-    for (int index = 1; index <= 8; ++index) {
-        NumberBox* box = Text1(index);
-        // A hidden box keeps its place, so that each stands under its column.
-        box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        KeepPlaceWhenHidden(box);
-        box->setFixedWidth(grid_->columnWidth(index));
-        boxes->addWidget(box);
-    }
+    std::vector<QWidget*> inputs = {dtPicker1_};
+    inputs.insert(inputs.end(), text1_.begin(), text1_.end());
+    QHBoxLayout* boxes = BuildAtColumns(*grid_, 0, inputs);
     boxes->addStretch(1);
     command3_ = MakeButton(QStringLiteral("Command3"), tr("Update Draw"));
     command3_->setToolTip(tr(" Update selected draw "));

@@ -19,7 +19,6 @@ namespace {
 
 constexpr int rowCount = 100;
 constexpr int columnCount = 12;
-constexpr int airBetweenBoxes = 4;
 
 }  // namespace
 
@@ -100,17 +99,7 @@ QLayout* StoreMyDrawsW::BuildTop() {
 }
 
 QLayout* StoreMyDrawsW::BuildNumbers() {
-    auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(airBetweenBoxes);
-    boxes->addSpacing(grid_->frameWidth() + grid_->columnWidth(0) + airBetweenBoxes / 2);
-    for (int index = 1; index <= 8; ++index) {
-        NumberBox* box = Text1(index);
-        // A hidden box keeps its place, so that each stands above its column.
-        box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-        KeepPlaceWhenHidden(box);
-        box->setFixedWidth(grid_->columnWidth(index) - airBetweenBoxes);
-        boxes->addWidget(box);
-    }
+    QHBoxLayout* boxes = BuildAtColumns(*grid_, 1, {text1_.begin(), text1_.end()});
     command2_ = MakeButton(QStringLiteral("Command2"), tr("Add"));
     command2_->setToolTip(tr(" Add this entry to the grid "));
     command2_->setDefault(true);

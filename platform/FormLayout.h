@@ -5,7 +5,9 @@
 #include <QLabel>
 #include <QString>
 #include <initializer_list>
+#include <vector>
 
+class Grid;
 class QHBoxLayout;
 class QVBoxLayout;
 class QWidget;
@@ -25,6 +27,10 @@ Control* Titled(QLabel* title, Control* control) {
     title->setBuddy(control);
     return control;
 }
+
+/// A row of inputs, each centred on the column of the grid that it belongs to, the first on
+/// `firstColumn`. What is hidden keeps its place.
+QHBoxLayout* BuildAtColumns(const Grid& grid, int firstColumn, const std::vector<QWidget*>& inputs);
 
 /// Lets the widget's place stay free while it is hidden, so that nothing beside it moves.
 void KeepPlaceWhenHidden(QWidget* widget);

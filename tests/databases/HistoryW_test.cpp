@@ -152,14 +152,15 @@ TEST_F(DrawsHistory, OffersTheBoxesThatTheNewestDrawFills) {
     EXPECT_EQ(boxes, (std::vector<int>{1, 2, 3, 4, 5, 6, 8}));
 }
 
-TEST_F(DrawsHistory, EachBoxStandsUnderItsColumn) {
+TEST_F(DrawsHistory, EachBoxStandsInTheMiddleUnderItsColumn) {
     Open();
     for (const int column : {1, 6, 8}) {
-        const int cell = Draws()
-                             .viewport()
-                             ->mapTo(form_.get(), QPoint(Draws().columnViewportPosition(column), 0))
-                             .x();
-        EXPECT_EQ(Box(column).mapTo(form_.get(), QPoint()).x(), cell) << column;
+        const QPoint corner(Draws().columnViewportPosition(column), 0);
+        const int left = Draws().viewport()->mapTo(form_.get(), corner).x();
+        const int right = left + Draws().columnWidth(column);
+        const int boxLeft = Box(column).mapTo(form_.get(), QPoint()).x();
+        EXPECT_GT(boxLeft, left) << column;
+        EXPECT_EQ(boxLeft - left, right - (boxLeft + Box(column).width())) << column;
     }
 }
 
