@@ -49,6 +49,9 @@ ChartPlot& Chart::Plot() {
         plot_ = std::make_unique<ChartPlot>(figures_, *this);
         plot_->Widget().installEventFilter(this);
         layout()->addWidget(&plot_->Widget());
+        // The labels are fitted to the place that the plot has now.
+        plot_->Widget().show();
+        layout()->activate();
         plot_->Draw();
         copyPicture_->setIcon(ThemeIcon(QStringLiteral("image-x-generic")));
         copyTable_->setIcon(ThemeIcon(QStringLiteral("edit-copy")));
@@ -56,8 +59,10 @@ ChartPlot& Chart::Plot() {
     return *plot_;
 }
 
+// A window polishes what is hidden in it too.
 bool Chart::event(QEvent* event) {
-    if (event->type() == QEvent::Polish) Plot();
+    const bool toBeSeen = isWindow() || isVisibleTo(window());
+    if (event->type() == QEvent::Show || (event->type() == QEvent::Polish && toBeSeen)) Plot();
     return QWidget::event(event);
 }
 

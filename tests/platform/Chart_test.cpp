@@ -126,6 +126,16 @@ TEST_F(ABiochart, IsLightOnADarkDesktop) {
     QApplication::setPalette(QPalette());
 }
 
+TEST(AChart, IsDrawnOnlyOnceItIsToBeSeen) {
+    QWidget window;
+    auto* chart = new Chart(1, 1, &window);
+    chart->hide();
+    window.show();
+    EXPECT_TRUE(chart->findChildren<QWidget*>().isEmpty()) << "nobody sees it yet";
+    chart->show();
+    EXPECT_FALSE(chart->findChildren<QWidget*>().isEmpty());
+}
+
 TEST(AChart, HasATitleAndRowsWithSeveralSeries) {
     Chart chart(2, 2);
     chart.SetTitle(QStringLiteral(" Odd and even "));
