@@ -118,7 +118,9 @@ QLineEdit* WheelFrame::BuildBox(int index) {
     box->setMaxLength(longestNumber);
     box->setAlignment(Qt::AlignCenter);
     box->setMinimumHeight(boxHeight);
+    // A box asks for the room of three digits and no more, as many stand in a row.
     box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
+    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     box->installEventFilter(this);
     text1_.push_back(box);
     return box;

@@ -47,6 +47,11 @@ TEST_P(EachWheelForm, TakesThreeDigitsInTheMiddleOfABoxAndNothingElse) {
     }
 }
 
+TEST_P(EachWheelForm, AsksForNoWiderWindowThanItsControlsNeed) {
+    Open();
+    EXPECT_LE(form_->sizeHint().width(), form_->minimumSizeHint().width() + 40);
+}
+
 TEST_P(EachWheelForm, HasALetterBesideEachGroupAndSpeaksItWithEachBox) {
     Open();
     QApplication::processEvents();
