@@ -45,6 +45,17 @@ class WheelFormTest : public LinesFormTest {
 
     void TypeBox(int index, const QString& text) { Type(*form_, BoxName(index).c_str(), text); }
 
+    /// What the forms of lettered groups say alike, and the controls that they do not have.
+    void ExpectGroupWords(int groups) {
+        ExpectLabels({{"Label6", "Filters"}});
+        ExpectLetters(groups);
+        ExpectCaptions({{"Command12", "Random selection"}, {"Command8", "Random order"}});
+        ExpectFrameWords({}, "Command3");
+        for (const char* name : {"HScroll1", "Check1", "Check2", "Check3", "Label5"}) {
+            EXPECT_EQ(form_->findChild<QObject*>(QString::fromLatin1(name)), nullptr) << name;
+        }
+    }
+
     /// The letters beside the groups, "A" to that of the last.
     void ExpectLetters(int groups) {
         for (int group = 0; group <= groups; ++group) {
