@@ -7,7 +7,3 @@
 Hourglass::Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
 
 Hourglass::~Hourglass() { QGuiApplication::restoreOverrideCursor(); }
-
-NormalPointer::NormalPointer() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
-
-NormalPointer::~NormalPointer() { QGuiApplication::restoreOverrideCursor(); }

@@ -9,13 +9,3 @@ class Hourglass {
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 };
-
-/// Shows the normal pointer while it lives, also over an hourglass: for a message in the middle of
-/// long work.
-class NormalPointer {
-  public:
-    NormalPointer();
-    ~NormalPointer();
-    NormalPointer(const NormalPointer&) = delete;
-    NormalPointer& operator=(const NormalPointer&) = delete;
-};

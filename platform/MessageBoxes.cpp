@@ -1,11 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/MessageBoxes.h"
 
+#include <QCursor>
+#include <QGuiApplication>
 #include <QMessageBox>
 
-#include "platform/Hourglass.h"
-
 namespace {
+
+/// Shows the normal pointer while it lives, also over an hourglass: for a message in the middle of
+/// long work.
+class NormalPointer {
+  public:
+    NormalPointer() { QGuiApplication::setOverrideCursor(Qt::ArrowCursor); }
+    ~NormalPointer() { QGuiApplication::restoreOverrideCursor(); }
+    NormalPointer(const NormalPointer&) = delete;
+    NormalPointer& operator=(const NormalPointer&) = delete;
+};
 
 QMessageBox::Icon IconOf(Sign sign) {
     switch (sign) {
