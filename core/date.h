@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
 #include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
 
-using Date = std::chrono::year_month_day;
+#include "core/region.h"
 
-/// What the user's region says about dates. Month names are in Windows-1252.
-struct Region {
-    enum class Order { DayMonthYear, MonthDayYear, YearMonthDay };
-    Order order = Order::DayMonthYear;
-    std::array<std::string, 12> monthNames;       ///< January first, in full.
-    std::array<std::string, 12> shortMonthNames;  ///< January first, abbreviated.
-};
+using Date = std::chrono::year_month_day;
 
 /// The system's date conversion, or nothing where the text is no date.
 ///

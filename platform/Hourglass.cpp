@@ -1,9 +1,0 @@
-// SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Hourglass.h"
-
-#include <QCursor>
-#include <QGuiApplication>
-
-Hourglass::Hourglass() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-
-Hourglass::~Hourglass() { QGuiApplication::restoreOverrideCursor(); }

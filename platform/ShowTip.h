@@ -1,7 +1,0 @@
-// SPDX-License-Identifier: GPL-3.0-or-later
-#pragma once
-
-#include "platform/Services.h"
-
-/// Shows the tip of that number, 1 to 6, over `parent`; any other number shows nothing.
-void ShowTip(Services& services, QWidget* parent, int tip);

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <vector>
+
+#include "platform/system/Services.h"
+
+class QAbstractButton;
+class QLabel;
+
+/// The labels of a form that take the colours of the settings' entries 1 to 4.
+struct SkinLabels {
+    std::vector<QLabel*> title;
+    std::vector<QLabel*> body;
+    std::vector<QLabel*> small;
+    std::vector<QLabel*> status;
+};
+
+/// A form opened modally from the main window.
+///
+/// Esc and the title bar's cross click the form's close button, F1 opens its help page, Enter
+/// clicks the button that was made the default one and no other. A form does its loading in
+/// `Load()`, which its opener calls once before `exec()`.
+class Form : public QDialog {
+    Q_OBJECT
+  public:
+    /// `name` is the form's name, `caption` its title.
+    Form(Program& program, const QString& name, const QString& caption, QWidget* parent);
+
+    /// What the form does when it is loaded: skin, lists, first selection.
+    virtual void Load() {}
+
+    void reject() override;
+    void setVisible(bool visible) override;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+    State& state() const { return program_.state; }
+    ProgramFolder& folder() const { return program_.folder; }
+    Services& services() const { return program_.services; }
+    Program& program() const { return program_; }
+
+    /// Lets the Tab key follow the form's layout, row by row, whatever was added last.
+    void TabInReadingOrder();
+
+    /// The button that Esc and the cross stand for.
+    void SetCloseButton(QAbstractButton* button) { closeButton_ = button; }
+
+    /// The size in which the form opens, where the screen has the room; never less than it needs.
+    void SetOpeningSize(const QSize& size) { openingSize_ = size; }
+
+    /// The page that F1 opens; "help.html" where none is set.
+    void SetHelpPage(const QString& page) { helpPage_ = page; }
+
+    /// Closes the form for good, without a click on the close button.
+    void Unload();
+
+    /// Background picture and colours as the settings say; `pictureFile` is named bare. A colour
+    /// entry that is no number is a `Failure`.
+    void Skinning(const QString& pictureFile, const SkinLabels& labels);
+
+  private:
+    void TakeOpeningSize();
+    void CloseAsTheUserDoes();
+
+    Program& program_;
+    QString helpPage_;
+    QSize openingSize_;
+    QAbstractButton* closeButton_ = nullptr;
+    QPixmap picture_;
+    bool unloading_ = false;
+};

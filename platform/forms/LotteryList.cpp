@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/forms/LotteryList.h"
+
+#include "core/draw_database.h"
+#include "core/failure.h"
+#include "platform/widgets/Lists.h"
+#include "platform/system/Text.h"
+
+void ListDatabases(Program& program, ListBox& list) {
+    for (const std::string& name : ListDatabases(program.state, program.folder)) {
+        list.addItem(ToQString(name));
+    }
+    list.SetIndex(-1);
+}
+
+void ChooseFirstLottery(ListBox& list) {
+    if (list.count() == 0) {
+        throw Failure(
+            "There is no lottery to choose: no draw database (dbase*.txt) was found in the "
+            "program's folder. Put one there and start the program again.");
+    }
+    list.SetIndex(0);
+}

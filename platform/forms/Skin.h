@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QString>
+
+#include "core/colour.h"
+#include "platform/forms/Form.h"
+
+class QPainter;
+class QWidget;
+
+/// The colour of a value: red in the low byte, or a system colour by its number. System colours are
+/// those of a light desktop, as the system's own colours are made for it.
+QColor ToQColor(Colour colour);
+
+/// Bits of entry 10 of the settings.
+struct SkinChoice {
+    bool pictures = false;
+    bool colours = false;
+};
+SkinChoice SkinChoiceOf(const State& state);
+
+/// The picture, where pictures are chosen and the file exists; otherwise a null pixmap. A file that
+/// holds no picture is a `Failure`.
+QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QString& pictureFile);
+
+/// Gives the form's palette the background colour of the settings, with text that can be read on
+/// it, and the labels theirs; or takes both back where colours are switched off.
+void ApplySkinColours(const State& state, QWidget& form, const SkinLabels& labels);
+
+/// Paints the picture over the whole of `area`, cut rather than distorted. On a dark desktop it is
+/// toned down so that light text stays readable.
+void PaintSkin(QPainter& painter, const QRect& area, const QPixmap& picture,
+               const QPalette& palette);

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/DiskFolder.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <array>
+
+#include "core/failure.h"
+#include "core/text.h"
+#include "platform/system/Region.h"
+#include "platform/system/Text.h"
+#include "platform/system/file_io.h"
+
+namespace {
+
+// A name as the core gives it: bare, or with one folder in front.
+struct NameParts {
+    std::string_view folder;
+    std::string_view file;
+};
+
+NameParts PartsOf(std::string_view name) {
+    const std::size_t slash = name.find('/');
+    if (slash == std::string_view::npos) return {{}, name};
+    return {name.substr(0, slash), name.substr(slash + 1)};
+}
+
+bool IsPlain(std::string_view name) {
+    constexpr std::string_view separators("/\0", 2);
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(separators) == std::string_view::npos;
+}
+
+// Whether the name stays within the program's folder.
+bool IsWithin(std::string_view name) {
+    const NameParts parts = PartsOf(name);
+    if (!IsPlain(parts.file)) return false;
+    return parts.folder.empty() ? name.front() != '/' : IsPlain(parts.folder);
+}
+
+// Does what is told, and says of which file it could not be done and why.
+template <typename Action>
+auto Try(std::string_view name, const char* done, Action action) {
+    try {
+        return action();
+    } catch (const FileError& error) {
+        throw Failure(std::string(name) + " could not be " + done + ": " + error.reason + ".");
+    }
+}
+
+// The names in a folder that the core can tell, each with its bytes on disk.
+std::vector<std::array<std::string, 2>> TellableNames(const std::string& folder) {
+    std::vector<std::array<std::string, 2>> names;
+    for (const std::string& onDisk : NamesIn(folder)) {
+        const QString decoded = QFile::decodeName(onDisk.c_str());
+        const std::string name = FromQString(decoded);
+        if (ToQString(name) == decoded) names.push_back({name, onDisk});
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+std::string BytesOnDisk(const QString& name) { return QFile::encodeName(name).toStdString(); }
+
+bool IsThere(const std::string& path) {
+    const QFileInfo info(QFile::decodeName(path.c_str()));
+    return info.exists() || info.isSymLink();
+}
+
+bool IsDirectory(const std::string& path) {
+    return QFileInfo(QFile::decodeName(path.c_str())).isDir();
+}
+
+// The path of an entry as it is spelled, or of one that differs from it in case only.
+std::string EntryPath(const std::string& folder, std::string_view name) {
+    const std::string spelled = folder + '/' + BytesOnDisk(ToQString(name));
+    if (IsThere(spelled) || !IsDirectory(folder)) return spelled;
+    const std::string wanted = LowerCase(name);
+    for (const auto& [told, onDisk] : TellableNames(folder)) {
+        if (LowerCase(told) == wanted) return folder + '/' + onDisk;
+    }
+    return spelled;
+}
+
+void ClearUnfinishedFiles(const std::string& folder) {
+    for (const std::string& name : NamesIn(folder)) {
+        if (IsUnfinishedFile(name)) RemoveUnfinishedFile(folder + '/' + name);
+    }
+}
+
+}  // namespace
+
+DiskFolder::DiskFolder(const QString& path) : path_(path) {
+    Try(FromQString(path), "opened", [&] { ClearUnfinishedFiles(BytesOnDisk(path)); });
+}
+
+std::string DiskFolder::PathOf(std::string_view name) const {
+    if (!IsWithin(name))
+        throw Failure(Quoted(name) + " is no name of a file in the program's folder.");
+    const NameParts parts = PartsOf(name);
+    const std::string root = BytesOnDisk(path_);
+    return EntryPath(parts.folder.empty() ? root : EntryPath(root, parts.folder), parts.file);
+}
+
+bool DiskFolder::Exists(std::string_view name) const {
+    if (!IsWithin(name)) return false;
+    const std::string path = Try(name, "looked for", [&] { return PathOf(name); });
+    return QFileInfo::exists(QFile::decodeName(path.c_str())) && !IsDirectory(path);
+}
+
+std::string DiskFolder::Read(std::string_view name) const {
+    return Try(name, "read", [&] { return ReadWholeFile(PathOf(name)); });
+}
+
+void DiskFolder::Write(std::string_view name, std::string_view bytes) {
+    Try(name, "written", [&] { WriteFileSafely(PathOf(name), bytes); });
+}
+
+void DiskFolder::Append(std::string_view name, std::string_view records) {
+    Write(name, Appended(Exists(name) ? Read(name) : std::string(), records));
+}
+
+std::vector<std::string> DiskFolder::Find(std::string_view pattern) const {
+    const NameParts parts = PartsOf(pattern);
+    const std::string root = BytesOnDisk(path_);
+    const std::string folder = parts.folder.empty() ? root : EntryPath(root, parts.folder);
+    std::vector<std::string> found;
+    if (!IsDirectory(folder)) return found;
+    const auto names = Try(pattern, "looked for", [&] { return TellableNames(folder); });
+    for (const auto& [name, onDisk] : names) {
+        if (!NameMatches(name, parts.file) || IsUnfinishedFile(name)) continue;
+        if (!QFileInfo(QFile::decodeName((folder + '/' + onDisk).c_str())).isFile()) continue;
+        found.push_back((parts.folder.empty() ? "" : std::string(parts.folder) + '/') + name);
+    }
+    std::stable_sort(found.begin(), found.end(),
+                     [](const std::string& one, const std::string& other) {
+                         return LowerCase(one) < LowerCase(other);
+                     });
+    return found;
+}
+
+void DiskFolder::Copy(std::string_view from, std::string_view to) {
+    const std::string bytes = Read(from);
+    const timespec modified = Try(from, "read", [&] { return ModifiedTime(PathOf(from)); });
+    Try(to, "written", [&] { WriteFileSafely(PathOf(to), bytes, modified); });
+}
+
+void DiskFolder::Delete(std::string_view name) {
+    Try(name, "deleted", [&] { DeleteFile(PathOf(name)); });
+}
+
+Date DiskFolder::FileDate(std::string_view name) const {
+    const timespec modified = Try(name, "looked at", [&] { return ModifiedTime(PathOf(name)); });
+    return FromQDate(QDateTime::fromSecsSinceEpoch(modified.tv_sec).date());
+}
+
+bool DiskFolder::FolderExists(std::string_view name) const {
+    return IsWithin(name) && Try(name, "looked for", [&] { return IsDirectory(PathOf(name)); });
+}
+
+void DiskFolder::MakeFolder(std::string_view name) {
+    Try(name, "made", [&] { MakeDirectory(PathOf(name)); });
+}
+
+QString ProgramFolderPath(const QString& executableFolder, const QString& userDataFolder) {
+    const QString shared = QDir::cleanPath(executableFolder + QStringLiteral("/../share/quillon"));
+    if (!QFileInfo(shared).isDir()) return executableFolder;
+    if (!QDir().mkpath(userDataFolder)) {
+        throw Failure(FromQString(userDataFolder) +
+                      " could not be made; it is to hold your files.");
+    }
+    const DiskFolder supplied(shared);
+    DiskFolder own(userDataFolder);
+    for (const std::string& name : supplied.Find("*")) {
+        if (!own.Exists(name)) own.Write(name, supplied.Read(name));
+    }
+    return userDataFolder;
+}

@@ -1,0 +1,223 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/system/file_io.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstring>
+#include <memory>
+#include <utility>
+
+namespace {
+
+constexpr off_t largestFile = off_t{64} * 1024 * 1024;
+constexpr std::string_view unfinishedPrefix = ".quillon-";
+constexpr std::string_view unfinishedSuffix = ".tmp";
+
+[[noreturn]] void Fail(int error) {
+    const char* const reason = strerrordesc_np(error);
+    throw FileError{reason == nullptr ? "error " + std::to_string(error) : reason};
+}
+
+void Check(int result) {
+    if (result == -1) Fail(errno);
+}
+
+// An open file, closed at the latest when it goes.
+class Descriptor {
+  public:
+    Descriptor(const std::string& path, int flags, mode_t mode = 0)
+        : number_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+    ~Descriptor() {
+        if (IsOpen()) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool IsOpen() const { return number_ != -1; }
+    int Number() const { return number_; }
+    void Close() { Check(::close(std::exchange(number_, -1))); }
+
+    struct stat Status() const {
+        struct stat status {};
+        Check(::fstat(number_, &status));
+        return status;
+    }
+
+  private:
+    int number_;
+};
+
+std::string FolderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+// The file that a chain of symbolic links leads to, whether there is one or not.
+std::string LinkTarget(std::string path) {
+    constexpr int longestChain = 40;
+    for (int link = 0; link < longestChain; ++link) {
+        std::array<char, PATH_MAX> target{};
+        const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        if (length == -1) return path;
+        const std::string next(target.data(), static_cast<std::size_t>(length));
+        path = next.starts_with('/') ? next : FolderOf(path) + next;
+    }
+    Fail(ELOOP);
+}
+
+// The permissions of the file that is to be replaced, if there is one; fails where it is no file or
+// may not be written.
+std::optional<mode_t> PermissionsToKeep(const std::string& path) {
+    const Descriptor old(path, O_WRONLY | O_NONBLOCK);
+    if (!old.IsOpen() && errno == ENOENT) return std::nullopt;
+    if (!old.IsOpen()) Fail(errno);
+    const struct stat status = old.Status();
+    if (!S_ISREG(status.st_mode)) throw FileError{"Not a regular file"};
+    return status.st_mode & 0777U;
+}
+
+void WriteAll(int descriptor, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+        if (written == -1 && errno == EINTR) continue;
+        if (written <= 0) Fail(written == 0 ? ENOSPC : errno);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+void Flush(const Descriptor& folder) {
+    // Some network file systems cannot flush a folder and need not.
+    if (::fsync(folder.Number()) == -1 && errno != EINVAL) Fail(errno);
+}
+
+// The folder of a file, opened before anything is changed in it.
+class Folder : public Descriptor {
+  public:
+    explicit Folder(const std::string& path) : Descriptor(FolderOf(path), O_RDONLY | O_DIRECTORY) {
+        if (!IsOpen()) Fail(errno);
+    }
+};
+
+// Where the new contents of a file are written; nothing is left there by an earlier run.
+std::string UnfinishedPath(const std::string& target) {
+    std::string path = FolderOf(target) + std::string(unfinishedPrefix) +
+                       std::to_string(::getpid()) + std::string(unfinishedSuffix);
+    RemoveUnfinishedFile(path);
+    return path;
+}
+
+// A new file beside another, removed unless it takes its place.
+class UnfinishedFile {
+  public:
+    explicit UnfinishedFile(const std::string& target)
+        : path_(UnfinishedPath(target)), file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
+        if (!file_.IsOpen()) Fail(errno);
+        // Held while the file is written, so that no other run of the program clears it away.
+        ::flock(file_.Number(), LOCK_EX | LOCK_NB);
+    }
+    ~UnfinishedFile() {
+        if (!finished_) ::unlink(path_.c_str());
+    }
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+    int Number() const { return file_.Number(); }
+
+    void TakePlaceOf(const std::string& target) {
+        Check(::fsync(file_.Number()));
+        file_.Close();
+        Check(::rename(path_.c_str(), target.c_str()));
+        finished_ = true;
+    }
+
+  private:
+    std::string path_;
+    Descriptor file_;
+    bool finished_ = false;
+};
+
+}  // namespace
+
+std::string ReadWholeFile(const std::string& path) {
+    const Descriptor file(path, O_RDONLY | O_NONBLOCK);
+    if (!file.IsOpen()) Fail(errno);
+    const struct stat status = file.Status();
+    if (S_ISDIR(status.st_mode)) Fail(EISDIR);
+    if (!S_ISREG(status.st_mode)) throw FileError{"Not a regular file"};
+    if (status.st_size > largestFile) throw FileError{"Larger than 64 MiB"};
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t filled = 0;
+    while (filled < bytes.size()) {
+        const ssize_t count = ::read(file.Number(), bytes.data() + filled, bytes.size() - filled);
+        if (count == -1 && errno == EINTR) continue;
+        if (count == -1) Fail(errno);
+        if (count == 0) break;
+        filled += static_cast<std::size_t>(count);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+void WriteFileSafely(const std::string& path, std::string_view bytes,
+                     std::optional<timespec> modified) {
+    const std::string target = LinkTarget(path);
+    const std::optional<mode_t> permissions = PermissionsToKeep(target);
+    const Folder folder(target);
+    UnfinishedFile file(target);
+    WriteAll(file.Number(), bytes);
+    if (permissions) Check(::fchmod(file.Number(), *permissions));
+    if (modified) {
+        const std::array<timespec, 2> times = {*modified, *modified};
+        Check(::futimens(file.Number(), times.data()));
+    }
+    file.TakePlaceOf(target);
+    Flush(folder);
+}
+
+std::vector<std::string> NamesIn(const std::string& folder) {
+    const auto close = [](DIR* opened) { ::closedir(opened); };
+    const std::unique_ptr<DIR, decltype(close)> directory(::opendir(folder.c_str()), close);
+    if (!directory) Fail(errno);
+    std::vector<std::string> names;
+    for (;;) {
+        errno = 0;  // the end and an error both give nothing
+        const dirent* const entry = ::readdir(directory.get());
+        if (entry == nullptr && errno != 0) Fail(errno);
+        if (entry == nullptr) return names;
+        names.emplace_back(static_cast<const char*>(entry->d_name));
+    }
+}
+
+timespec ModifiedTime(const std::string& path) {
+    struct stat status {};
+    Check(::stat(path.c_str(), &status));
+    return status.st_mtim;
+}
+
+void DeleteFile(const std::string& path) {
+    const Folder folder(path);
+    Check(::unlink(path.c_str()));
+    Flush(folder);
+}
+
+void MakeDirectory(const std::string& path) {
+    const Folder folder(path);
+    Check(::mkdir(path.c_str(), 0777));
+    Flush(folder);
+}
+
+bool IsUnfinishedFile(std::string_view fileName) {
+    return fileName.starts_with(unfinishedPrefix) && fileName.ends_with(unfinishedSuffix);
+}
+
+void RemoveUnfinishedFile(const std::string& path) {
+    const Descriptor file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+    if (file.IsOpen() && ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
+}

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+#include <memory>
+
+#include "platform/widgets/ChartFigures.h"
+
+class ChartPlot;
+class QAction;
+class QPainter;
+
+/// A chart of bars or lines whose figures can be read: by tests, by screen readers, by resting the
+/// mouse over a place, and by copying (Ctrl+C and the context menu).
+///
+/// Rows and columns count from 1, others are a `Failure`; a column is a series, a row a place on
+/// the horizontal axis. With one row each of several columns is a bar of its own with the column's
+/// label below it; with more the bars of a row stand side by side above its label. Labels that do
+/// not fit side by side are staggered. The chart is light on every desktop and on paper.
+///
+/// What is set shows with the next `Refresh`.
+class Chart final : public QWidget {
+    Q_OBJECT
+  public:
+    Chart(int rowCount, int columnCount, QWidget* parent = nullptr);
+    ~Chart() override;
+
+    Q_INVOKABLE QString title() const;
+    Q_INVOKABLE int rowCount() const;
+    Q_INVOKABLE int columnCount() const;
+    Q_INVOKABLE QString rowLabel(int row) const;
+    Q_INVOKABLE QString columnLabel(int column) const;
+    Q_INVOKABLE double value(int row, int column) const;
+
+    /// The labels below the axis at the chart's present width: all of them, unless it is so narrow
+    /// that even staggered ones would overlap.
+    Q_INVOKABLE QStringList shownLabels();
+
+    /// The colours of the first series: of its pattern, and of what lies below the pattern. Without
+    /// a pattern both are the colour of the series.
+    Q_INVOKABLE QColor patternColour() const;
+    Q_INVOKABLE QColor fillColour() const;
+
+    void SetTitle(const QString& title);
+
+    /// Rows that stay keep their figures; new ones have the figure 0 and no label.
+    void SetRowCount(int rowCount);
+
+    void SetRowLabel(int row, const QString& label);
+
+    /// Names a series; the names of several stand below the title.
+    void SetColumnLabel(int column, const QString& label);
+    void SetValue(int row, int column, double value);
+
+    /// Bars, as a new chart has, or lines through the figures of each series.
+    void SetKind(ChartKind kind);
+    void SetSeriesColour(int column, const QColor& colour);
+
+    /// Draws the bars of the first series in `fill` with a pattern in `colour` over it.
+    void SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor& fill);
+
+    /// Ends of the vertical axis; without them it reaches from 0 to the furthest values.
+    void SetRange(double lowest, double highest);
+
+    /// Draws what has been set.
+    void Refresh();
+
+    /// Draws the chart into a rectangle of a page, a picture or whatever `painter` paints on.
+    void Paint(QPainter& painter, const QRectF& rectangle);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    ChartPlot& Plot();
+    void BuildMenu();
+    void CheckRow(int row) const;
+    void CheckColumn(int column) const;
+    void CopyPicture();
+    void CopyTable() const;
+    void NameItself();
+    void ShowFocus(bool focused);
+
+    ChartFigures figures_;
+    std::unique_ptr<ChartPlot> plot_;  // none before the chart is seen
+    QAction* copyPicture_;
+    QAction* copyTable_;
+    QString givenName_;  // the accessible name that the chart gave itself
+};

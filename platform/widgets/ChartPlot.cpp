@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/widgets/RoundedBars.h"
+// The plotting library comes first, as its header is written with Qt's keywords.
+
+#include <QPicture>
+#include <array>
+#include <cmath>
+
+#include "platform/widgets/ChartFigures.h"
+#include "platform/widgets/ChartPlot.h"
+
+namespace {
+
+const QColor textColour(0x1f, 0x23, 0x28);
+const QColor axisColour(0x8a, 0x90, 0x99);
+const QColor gridColour(0xe6, 0xe8, 0xec);
+constexpr double roomForBars = 0.62;       // of the distance between two places on the axis
+constexpr double roomForDenseBars = 0.74;  // the same with more than 12 places
+constexpr int denseFrom = 13;
+constexpr int airBetweenLabels = 4;
+constexpr int mostLabelRows = 3;
+constexpr double smallFont = 0.85;
+
+QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+/// Every `rows`-th label starts in the first row, the others each a row lower than the one before.
+QString Staggered(const QString& label, int place, int rows) {
+    return QString((place - 1) % rows, QLatin1Char('\n')) + label;
+}
+
+}  // namespace
+
+ChartPlot::ChartPlot(const ChartFigures& figures, QWidget& chart)
+    : figures_(figures), plot_(new QCustomPlot(&chart)) {
+    SetUp();
+}
+
+QWidget& ChartPlot::Widget() const { return *plot_; }
+
+void ChartPlot::SetUp() {
+    plot_->setBackground(QBrush(Qt::white));
+    plot_->setFocusPolicy(Qt::NoFocus);
+    plot_->setLocale(QLocale::c());
+    for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
+        axis->setTickLabelColor(textColour);
+        axis->setBasePen(Qt::NoPen);
+        axis->setTickPen(Qt::NoPen);
+        axis->setSubTickPen(Qt::NoPen);
+        axis->setTickLabelPadding(6);
+    }
+    plot_->xAxis->grid()->setVisible(false);
+    plot_->yAxis->grid()->setPen(QPen(gridColour));
+    plot_->yAxis->grid()->setZeroLinePen(QPen(axisColour, 1.2));
+    plot_->setAutoAddPlottableToLegend(false);
+}
+
+void ChartPlot::Draw() {
+    plot_->clearPlottables();
+    DrawHeading();
+    DrawAxes();
+    for (int column = 1; column <= figures_.Columns(); ++column) {
+        if (figures_.kind == ChartKind::Bars) {
+            DrawBars(column);
+        } else {
+            DrawLine(column);
+        }
+    }
+    DrawLegend();
+    FitToWidget();
+}
+
+void ChartPlot::DrawHeading() {
+    if (heading_ == nullptr && !figures_.title.isEmpty()) {
+        heading_ = new QCPTextElement(plot_);
+        heading_->setTextColor(textColour);
+        heading_->setMargins(QMargins(0, 4, 0, 4));
+        plot_->plotLayout()->insertRow(0);
+        plot_->plotLayout()->addElement(0, 0, heading_);
+    }
+    if (heading_ == nullptr) return;
+    heading_->setFont(Bold(plot_->font()));
+    heading_->setText(figures_.title);
+    heading_->setVisible(!figures_.title.isEmpty());
+}
+
+// Names of series stand between title and drawing, in one line.
+void ChartPlot::DrawLegend() {
+    if (legend_ != nullptr) {
+        plot_->plotLayout()->remove(legend_);
+        plot_->plotLayout()->simplify();
+        legend_ = nullptr;
+    }
+    const bool named = std::ranges::any_of(figures_.columnLabels,
+                                           [](const QString& name) { return !name.isEmpty(); });
+    if (!named || figures_.ColumnsAreApart() || figures_.Columns() < 2) return;
+    legend_ = new QCPLegend;
+    const int row = heading_ == nullptr ? 0 : 1;
+    plot_->plotLayout()->insertRow(row);
+    plot_->plotLayout()->addElement(row, 0, legend_);
+    legend_->setLayer(QStringLiteral("legend"));
+    legend_->setFillOrder(QCPLayoutGrid::foColumnsFirst);
+    legend_->setBorderPen(Qt::NoPen);
+    legend_->setBrush(Qt::NoBrush);
+    legend_->setFont(plot_->font());
+    legend_->setTextColor(textColour);
+    legend_->setMaximumSize(QWIDGETSIZE_MAX, legend_->minimumOuterSizeHint().height());
+    for (int i = 0; i < plot_->plottableCount(); ++i) {
+        legend_->addItem(new QCPPlottableLegendItem(legend_, plot_->plottable(i)));
+    }
+}
+
+void ChartPlot::DrawAxes() {
+    plot_->xAxis->setRange(0.4, figures_.Places() + 0.6);
+    auto [lowest, highest] = figures_.Extent();
+    if (figures_.range) {
+        plot_->yAxis->setRange(figures_.range->first, figures_.range->second);
+    } else {
+        if (lowest == highest) highest = lowest + 1;
+        const double air = (highest - lowest) * 0.06;
+        plot_->yAxis->setRange(lowest < 0 ? lowest - air : 0, highest > 0 ? highest + air : 0);
+    }
+    plot_->yAxis->setTickLabelFont(plot_->font());
+    DrawTicks();
+}
+
+void ChartPlot::DrawTicks() {
+    constexpr double fewSteps = 20;
+    if (figures_.AllWhole() && plot_->yAxis->range().size() < fewSteps) {
+        const QSharedPointer<QCPAxisTickerFixed> steps(new QCPAxisTickerFixed);
+        steps->setTickStep(1);
+        steps->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+        steps->setTickCount(4);
+        plot_->yAxis->setTicker(steps);
+        return;
+    }
+    const QSharedPointer<QCPAxisTicker> steps(new QCPAxisTicker);
+    steps->setTickCount(4);
+    plot_->yAxis->setTicker(steps);
+}
+
+void ChartPlot::DrawBars(int column) {
+    auto* bars = new RoundedBars(plot_->xAxis, plot_->yAxis);
+    const int besides = figures_.ColumnsAreApart() ? 1 : figures_.Columns();
+    const bool dense = figures_.Places() >= denseFrom;
+    const double width = (dense ? roomForDenseBars : roomForBars) / besides;
+    bars->setName(figures_.ColumnLabel(column));
+    bars->setWidth(besides == 1 ? width : width * 0.9);
+    bars->setPen(Qt::NoPen);
+    bars->setBrush(figures_.colours[static_cast<std::size_t>(column - 1)]);
+    bars->setAntialiasedFill(true);
+    if (figures_.pattern) bars->SetPattern(*figures_.pattern);
+    if (figures_.ColumnsAreApart()) {
+        bars->addData(column, figures_.Value(1, column));
+        return;
+    }
+    const double offset = (column - (besides + 1) / 2.0) * width;
+    for (int row = 1; row <= figures_.Rows(); ++row) {
+        bars->addData(row + offset, figures_.Value(row, column));
+    }
+}
+
+// Series differ in their strokes too, as colours alone are not for every eye.
+void ChartPlot::DrawLine(int column) {
+    constexpr std::array strokes = {Qt::SolidLine, Qt::DashLine, Qt::DashDotLine, Qt::DotLine};
+    QCPGraph* line = plot_->addGraph();
+    const auto series = static_cast<std::size_t>(column - 1);
+    line->setName(figures_.ColumnLabel(column));
+    line->setPen(QPen(figures_.colours[series], 2, strokes[series % strokes.size()]));
+    for (int row = 1; row <= figures_.Rows(); ++row) {
+        line->addData(row, figures_.Value(row, column));
+    }
+}
+
+// All labels stand in one row where they have room, else in two or three, and where even these are
+// too narrow only some are shown.
+void ChartPlot::FitLabels(int width) {
+    QFont font = plot_->font();
+    if (figures_.Places() >= denseFrom) font.setPointSizeF(font.pointSizeF() * smallFont);
+    const QFontMetrics metrics(font);
+    int widest = 0;
+    for (int place = 1; place <= figures_.Places(); ++place) {
+        widest = std::max(widest, metrics.horizontalAdvance(figures_.PlaceLabel(place)));
+    }
+    const int axisWidth = QFontMetrics(plot_->font()).horizontalAdvance(QStringLiteral("00000"));
+    const double room = std::max(1.0, (width - axisWidth - 16) / (figures_.Places() + 0.2));
+    const int needed = static_cast<int>(std::ceil((widest + airBetweenLabels) / room));
+    const int rows = std::clamp(needed, 1, mostLabelRows);
+    const int step = std::max(1, (needed + mostLabelRows - 1) / mostLabelRows);
+    const QSharedPointer<QCPAxisTickerText> labels(new QCPAxisTickerText);
+    shownLabels_.clear();
+    for (int place = 1; place <= figures_.Places(); place += step) {
+        shownLabels_ += figures_.PlaceLabel(place);
+        const auto shown = static_cast<int>(shownLabels_.size());
+        labels->addTick(place, Staggered(shownLabels_.back(), shown, rows));
+    }
+    plot_->xAxis->setTickLabelFont(font);
+    plot_->xAxis->setTicker(labels);
+}
+
+void ChartPlot::FitToWidget() {
+    FitLabels(plot_->width());
+    plot_->replot(QCustomPlot::rpQueuedReplot);
+}
+
+int ChartPlot::PlaceAt(const QPoint& point) const {
+    return static_cast<int>(std::lround(plot_->xAxis->pixelToCoord(point.x())));
+}
+
+QPixmap ChartPlot::Picture(const QSize& size, double scale) {
+    FitLabels(size.width());
+    const QPixmap picture = plot_->toPixmap(size.width(), size.height(), scale);
+    FitToWidget();
+    return picture;
+}
+
+void ChartPlot::Paint(QPainter& painter, const QRectF& rectangle) {
+    constexpr int paintedWidth = 900;
+    const double factor = rectangle.width() / paintedWidth;
+    const int height = static_cast<int>(std::lround(rectangle.height() / factor));
+    FitLabels(paintedWidth);
+    QPicture picture;
+    QCPPainter recorder(&picture);
+    plot_->toPainter(&recorder, paintedWidth, height);
+    recorder.end();
+    FitToWidget();
+    // A recording grows with the resolution of the device that plays it.
+    const double growth = 1.0 * painter.device()->logicalDpiX() / picture.logicalDpiX();
+    painter.save();
+    painter.translate(rectangle.topLeft());
+    painter.scale(factor / growth, factor / growth);
+    painter.drawPicture(0, 0, picture);
+    painter.restore();
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/widgets/OneLine.h"
+
+#include <QLineEdit>
+#include <QValidator>
+#include <utility>
+
+namespace {
+
+bool EndsLine(QChar character) {
+    return QStringLiteral("\r\n\f\v").contains(character) || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+/// A text box asks its validator whatever the text comes from: keys, clipboard or mouse.
+class OneLine final : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    State validate(QString& input, int& position) const override {
+        QString line;
+        int newPosition = position;
+        bool ended = false;  // a line end was met and nothing behind it yet
+        for (qsizetype i = 0; i < input.size(); ++i) {
+            if (EndsLine(input[i])) {
+                ended = true;
+                if (i < position) --newPosition;
+                continue;
+            }
+            if (std::exchange(ended, false) && !line.isEmpty()) {
+                line += QLatin1Char(' ');
+                if (i < position) ++newPosition;
+            }
+            line += input[i];
+        }
+        input = line;
+        position = newPosition;
+        return Acceptable;
+    }
+};
+
+}  // namespace
+
+void KeepTextBoxesToOneLine(const QWidget& parent) {
+    const auto boxes = parent.findChildren<QLineEdit*>();
+    for (QLineEdit* box : boxes) {
+        if (box->validator() == nullptr) box->setValidator(new OneLine(box));
+    }
+}
