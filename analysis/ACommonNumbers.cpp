@@ -6,10 +6,10 @@
 #include <QRadioButton>
 
 #include "analysis/common_numbers.h"
-#include "platform/Chart.h"
-#include "platform/HotColdBand.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Chart.h"
+#include "platform/widgets/HotColdBand.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "analysis/AnalysisForm.h"
 #include "core/frequency.h"
-#include "platform/AnalysisForm.h"
 
 class Chart;
 class HotColdBand;

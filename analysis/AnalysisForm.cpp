@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/AnalysisForm.h"
+#include "analysis/AnalysisForm.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -8,8 +8,8 @@
 #include "core/draw_database.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/Hourglass.h"
-#include "platform/widgets/Lists.h"
 #include "platform/forms/LotteryList.h"
+#include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {

@@ -3,10 +3,10 @@
 // main window on the folder of that path.
 #include <QMainWindow>
 
-#include "platform/Clock.h"
-#include "platform/DiskFolder.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Region.h"
+#include "platform/system/Clock.h"
+#include "platform/system/DiskFolder.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/system/MessageBoxes.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 

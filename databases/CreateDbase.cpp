@@ -10,11 +10,11 @@
 #include "core/text.h"
 #include "databases/lottery_templates.h"
 #include "databases/new_database.h"
-#include "platform/DatePicker.h"
-#include "platform/Lists.h"
-#include "platform/MessageBoxes.h"
-#include "platform/NumberBox.h"
-#include "platform/Text.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "databases/FormParts.h"
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 class DatePicker;
 class ListBox;

@@ -9,11 +9,11 @@
 #include <QVBoxLayout>
 
 #include "databases/CreateDbase.h"
-#include "platform/DatePicker.h"
-#include "platform/FormLayout.h"
-#include "platform/Lists.h"
-#include "platform/NumberBox.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "platform/FormLayout.h"
-#include "platform/Lists.h"
-#include "platform/LotteryList.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/forms/LotteryList.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/Widgets.h"
 
 DatabaseListForm::DatabaseListForm(Program& program, const QString& name, const QString& caption,
                                    QPushButton* command2, const QString& closeCaption,

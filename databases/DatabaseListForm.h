@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 class ListBox;
 class QPushButton;

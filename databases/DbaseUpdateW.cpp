@@ -7,12 +7,12 @@
 #include "core/draw_database.h"
 #include "core/failure.h"
 #include "databases/draw_records.h"
-#include "platform/DatePicker.h"
-#include "platform/Lists.h"
-#include "platform/LotteryList.h"
-#include "platform/NumberBox.h"
-#include "platform/ShowTip.h"
-#include "platform/Text.h"
+#include "platform/forms/LotteryList.h"
+#include "platform/forms/ShowTip.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
 
 void DbaseUpdateW::Load() {
     Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {label5_},

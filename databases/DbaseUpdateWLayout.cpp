@@ -6,11 +6,11 @@
 #include <QVBoxLayout>
 
 #include "databases/DbaseUpdateW.h"
-#include "platform/DatePicker.h"
-#include "platform/FormLayout.h"
-#include "platform/Lists.h"
-#include "platform/NumberBox.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
 
 DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("DbaseUpdateW"), tr("Update lottery databases"), parent) {

@@ -3,10 +3,10 @@
 
 #include <QPushButton>
 
-#include "platform/Lists.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/Widgets.h"
 
 DeleteDbaseW::DeleteDbaseW(Program& program, QWidget* parent)
     : DatabaseListForm(program, QStringLiteral("DeleteDbaseW"), tr("Delete lottery database"),

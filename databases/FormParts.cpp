@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/FormLayout.h"
-#include "platform/NumberBox.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

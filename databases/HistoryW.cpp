@@ -9,15 +9,15 @@
 
 #include "core/draw_database.h"
 #include "databases/draw_records.h"
-#include "platform/DatePicker.h"
-#include "platform/Grid.h"
-#include "platform/Hourglass.h"
-#include "platform/LinesGrid.h"
-#include "platform/Lists.h"
-#include "platform/LotteryList.h"
-#include "platform/MessageBoxes.h"
-#include "platform/NumberBox.h"
-#include "platform/Text.h"
+#include "platform/forms/Hourglass.h"
+#include "platform/forms/LinesGrid.h"
+#include "platform/forms/LotteryList.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
 
 void HistoryW::Load() {
     Skinning(QStringLiteral("SkinDatabases.jpg"),

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "databases/FormParts.h"
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 class DatePicker;
 class Grid;

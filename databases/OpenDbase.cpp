@@ -3,9 +3,9 @@
 
 #include <QPushButton>
 
-#include "platform/Lists.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/Widgets.h"
 
 OpenDbase::OpenDbase(Program& program, QWidget* parent)
     : DatabaseListForm(program, QStringLiteral("OpenDbase"), tr("Open lottery database"),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Skin.h"
+#include "platform/forms/Skin.h"
 
 /// The colours behind checked numbers: white, yellow for a main number of the draw, light red for
 /// the bonus or extra ball.

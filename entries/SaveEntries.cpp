@@ -9,10 +9,10 @@
 
 #include "core/text.h"
 #include "entries/saved_entries.h"
-#include "platform/DatePicker.h"
-#include "platform/FormLayout.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Widgets.h"
 
 SaveEntries::SaveEntries(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("SaveEntries"), tr("Save lottery entries"), parent),

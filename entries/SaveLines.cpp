@@ -3,8 +3,8 @@
 
 #include "entries/SaveEntries.h"
 #include "entries/saved_entries.h"
-#include "platform/Grid.h"
-#include "platform/Text.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Grid.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 
 /// Appends the lines that the grid shows to `MyLottery.txt`, after asking in `SaveEntries` how many
 /// of them, for which draw date and for whom.

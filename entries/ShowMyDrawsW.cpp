@@ -7,12 +7,12 @@
 #include <QPushButton>
 
 #include "core/text.h"
-#include "platform/DatePicker.h"
-#include "platform/Grid.h"
-#include "platform/Hourglass.h"
-#include "platform/LinesGrid.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Text.h"
+#include "platform/forms/Hourglass.h"
+#include "platform/forms/LinesGrid.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Grid.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 
 #include "entries/check_entries.h"
 #include "entries/entry_table.h"
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 class DatePicker;
 class Grid;

@@ -7,9 +7,9 @@
 
 #include "entries/MatchColours.h"
 #include "entries/ShowMyDrawsW.h"
-#include "platform/Grid.h"
-#include "platform/Hourglass.h"
-#include "platform/Text.h"
+#include "platform/forms/Hourglass.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Grid.h"
 
 namespace {
 

@@ -8,11 +8,11 @@
 
 #include "entries/MatchColours.h"
 #include "entries/ShowMyDrawsW.h"
-#include "platform/DatePicker.h"
-#include "platform/FormLayout.h"
-#include "platform/Grid.h"
-#include "platform/LinesGrid.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/forms/LinesGrid.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

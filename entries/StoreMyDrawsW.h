@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 class DatePicker;
 class Grid;

@@ -7,13 +7,13 @@
 #include <QVBoxLayout>
 
 #include "entries/StoreMyDrawsW.h"
-#include "platform/DatePicker.h"
-#include "platform/FormLayout.h"
-#include "platform/Grid.h"
-#include "platform/LinesGrid.h"
-#include "platform/Lists.h"
-#include "platform/NumberBox.h"
-#include "platform/Widgets.h"
+#include "platform/forms/FormLayout.h"
+#include "platform/forms/LinesGrid.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -7,10 +7,10 @@
 
 #include "core/filters.h"
 #include "core/lines.h"
-#include "platform/HotColdBand.h"
-#include "platform/Skin.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/forms/Skin.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/HotColdBand.h"
+#include "platform/widgets/Widgets.h"
 
 using hot_numbers::Mode;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PlayFrame.h"
+#include "play/PlayFrame.h"
 #include "play/hot_numbers.h"
 
 class HotColdBand;

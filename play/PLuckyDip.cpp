@@ -4,8 +4,8 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-#include "platform/ShowTip.h"
-#include "platform/Widgets.h"
+#include "platform/forms/ShowTip.h"
+#include "platform/widgets/Widgets.h"
 #include "play/lucky_dip.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/PlayForm.h"
+#include "play/PlayForm.h"
 
 /// Lucky dip: lines of plain random numbers.
 class PLuckyDip final : public PlayForm {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/PlayForm.h"
+#include "play/PlayForm.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/generator.h"
-#include "platform/PlayFrame.h"
+#include "play/PlayFrame.h"
 
 class QCheckBox;
 class QScrollBar;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/PlayFrame.h"
+#include "play/PlayFrame.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -8,12 +8,12 @@
 #include "core/draw_database.h"
 #include "core/filters.h"
 #include "platform/forms/FormLayout.h"
-#include "platform/widgets/Grid.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/InputDropper.h"
 #include "platform/forms/LinesGrid.h"
-#include "platform/widgets/Lists.h"
 #include "platform/forms/LotteryList.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
 
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,

@@ -7,8 +7,8 @@
 #include <new>
 
 #include "core/failure.h"
-#include "platform/FailureReport.h"
-#include "platform/Text.h"
+#include "platform/system/FailureReport.h"
+#include "platform/system/TextConversion.h"
 
 // A static library's resources are linked in only where somebody asks for them.
 static void RegisterIcons() { Q_INIT_RESOURCE(icons); }

@@ -7,9 +7,9 @@
 #include <QRadioButton>
 
 #include "core/settings.h"
-#include "platform/Chart.h"
-#include "platform/DatePicker.h"
-#include "platform/Widgets.h"
+#include "platform/widgets/Chart.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Widgets.h"
 #include "shell/biochart.h"
 
 namespace {

@@ -7,8 +7,8 @@
 #include <QPushButton>
 #include <algorithm>
 
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 #include "shell/notes_file.h"
 
 class BiochartPanel;

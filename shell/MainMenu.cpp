@@ -6,8 +6,8 @@
 #include <span>
 
 #include "core/failure.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

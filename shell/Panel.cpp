@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 
-#include "platform/Widgets.h"
+#include "platform/widgets/Widgets.h"
 
 Panel::Panel(const QString& headingName, const QString& heading, QWidget* parent)
     : QWidget(parent), heading_(MakeLabel(headingName, heading, this)), sheet_(new QGridLayout) {

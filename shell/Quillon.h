@@ -4,7 +4,7 @@
 #include <QMainWindow>
 #include <QPixmap>
 
-#include "platform/Services.h"
+#include "platform/system/Services.h"
 
 class InfoPanels;
 class MainMenu;

@@ -7,11 +7,11 @@
 #include <memory>
 
 #include "entries/SaveLines.h"
-#include "platform/Clock.h"
-#include "platform/DiskFolder.h"
-#include "platform/MessageBoxes.h"
-#include "platform/OpenPage.h"
-#include "platform/Region.h"
+#include "platform/system/Clock.h"
+#include "platform/system/DiskFolder.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/OpenPage.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 

@@ -6,9 +6,9 @@
 #include <QPlainTextEdit>
 #include <QTextDocument>
 
-#include "platform/Lists.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/Lists.h"
+#include "platform/widgets/Widgets.h"
 
 DatabasesPanel::DatabasesPanel(QWidget* parent)
     : Panel(QStringLiteral("Label9"), tr("  Databases:"), parent),

@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "platform/Widgets.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

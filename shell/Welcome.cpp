@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "platform/Widgets.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <span>
 
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 /// One way into a form.
 struct CatalogueEntry {

@@ -16,10 +16,10 @@
 #include <set>
 
 #include "core/settings.h"
-#include "platform/DiskFolder.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Region.h"
-#include "platform/Text.h"
+#include "platform/system/DiskFolder.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/TextConversion.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 #include "shell/form_catalogue.h"

@@ -3,7 +3,7 @@
 
 #include <QRadioButton>
 
-#include "platform/Text.h"
+#include "platform/system/TextConversion.h"
 #include "wheels/pairs_triplets.h"
 
 namespace {

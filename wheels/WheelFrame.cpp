@@ -10,10 +10,10 @@
 #include <array>
 #include <span>
 
-#include "platform/NumberBox.h"
-#include "platform/ShowTip.h"
-#include "platform/Text.h"
-#include "platform/Widgets.h"
+#include "platform/forms/ShowTip.h"
+#include "platform/system/TextConversion.h"
+#include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "platform/PlayFrame.h"
+#include "play/PlayFrame.h"
 #include "wheels/expansion.h"
 #include "wheels/number_boxes.h"
 #include "wheels/wheel_forms.h"

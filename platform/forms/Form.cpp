@@ -9,9 +9,9 @@
 #include <QPushButton>
 #include <vector>
 
-#include "platform/widgets/OneLine.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/Skin.h"
+#include "platform/widgets/OneLine.h"
 
 namespace {
 

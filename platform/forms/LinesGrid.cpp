@@ -3,8 +3,8 @@
 
 #include <QCoreApplication>
 
-#include "platform/widgets/Grid.h"
 #include "platform/forms/Skin.h"
+#include "platform/widgets/Grid.h"
 
 namespace {
 

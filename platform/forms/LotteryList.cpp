@@ -3,8 +3,8 @@
 
 #include "core/draw_database.h"
 #include "core/failure.h"
+#include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
-#include "platform/system/Text.h"
 
 void ListDatabases(Program& program, ListBox& list) {
     for (const std::string& name : ListDatabases(program.state, program.folder)) {

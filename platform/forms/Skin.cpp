@@ -12,7 +12,7 @@
 #include "core/program_folder.h"
 #include "core/settings.h"
 #include "core/text.h"
-#include "platform/system/Text.h"
+#include "platform/system/TextConversion.h"
 
 namespace {
 

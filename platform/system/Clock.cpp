@@ -4,7 +4,7 @@
 #include <QDate>
 #include <chrono>
 
-#include "platform/system/Region.h"
+#include "platform/system/LocaleRegion.h"
 
 double MonotonicSeconds() {
     const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();

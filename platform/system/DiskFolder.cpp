@@ -10,8 +10,8 @@
 
 #include "core/failure.h"
 #include "core/text.h"
-#include "platform/system/Region.h"
-#include "platform/system/Text.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/system/TextConversion.h"
 #include "platform/system/file_io.h"
 
 namespace {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/system/Region.h"
+#include "platform/system/LocaleRegion.h"
 
 #include <QDate>
 
-#include "platform/system/Text.h"
+#include "platform/system/TextConversion.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/system/Text.h"
+#include "platform/system/TextConversion.h"
 
 #include <QList>
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include <QScopedValueRollback>
 #include <utility>
 
-#include "platform/system/Region.h"
+#include "platform/system/LocaleRegion.h"
 
 DatePicker::DatePicker(const QString& format, Date today, QWidget* parent)
     : QDateEdit(parent),

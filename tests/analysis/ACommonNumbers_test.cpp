@@ -7,8 +7,8 @@
 #include <algorithm>
 
 #include "core/failure.h"
-#include "platform/Chart.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Chart.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/hourglass_watch.h"
 #include "tests/support/real_histories.h"

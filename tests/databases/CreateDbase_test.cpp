@@ -9,7 +9,7 @@
 #include <QScrollBar>
 
 #include "core/failure.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "core/failure.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 

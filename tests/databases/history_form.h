@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "databases/HistoryW.h"
-#include "platform/Grid.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 

@@ -6,7 +6,7 @@
 #include "databases/DeleteDbaseW.h"
 #include "databases/OpenDbase.h"
 #include "databases/new_database.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 

@@ -9,9 +9,9 @@
 #include <algorithm>
 
 #include "entries/SaveEntries.h"
-#include "platform/Grid.h"
-#include "platform/LinesGrid.h"
-#include "platform/Region.h"
+#include "platform/forms/LinesGrid.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/widgets/Grid.h"
 #include "tests/support/form_test.h"
 
 namespace {

@@ -11,8 +11,8 @@
 #include <QTimer>
 
 #include "core/failure.h"
-#include "platform/DatePicker.h"
-#include "platform/Grid.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Grid.h"
 #include "tests/support/form_test.h"
 #include "tests/support/hourglass_watch.h"
 #include "tests/support/sample_lotteries.h"

@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "platform/Grid.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 #include "tests/support/hourglass_watch.h"

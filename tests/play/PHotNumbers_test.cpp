@@ -6,7 +6,7 @@
 #include <QRadioButton>
 
 #include "core/text.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/real_histories.h"
 #include "tests/support/sample_lotteries.h"

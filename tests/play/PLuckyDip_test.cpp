@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/hourglass_watch.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/PlayFrame.h"
+#include "play/PlayFrame.h"
 
-#include "platform/Grid.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 

@@ -6,8 +6,8 @@
 #include <QFile>
 #include <QPlainTextEdit>
 
-#include "platform/Grid.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"
 #include "tests/support/form_test.h"
 

@@ -9,9 +9,9 @@
 #include <cmath>
 
 #include "core/settings.h"
-#include "platform/Chart.h"
-#include "platform/DatePicker.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Chart.h"
+#include "platform/widgets/DatePicker.h"
+#include "platform/widgets/Lists.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"
 

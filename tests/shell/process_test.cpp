@@ -10,7 +10,7 @@
 #include <map>
 
 #include "core/settings.h"
-#include "platform/DiskFolder.h"
+#include "platform/system/DiskFolder.h"
 #include "tests/support/form_test.h"
 
 namespace {

@@ -5,7 +5,7 @@
 
 #include "core/settings.h"
 #include "entries/saved_entries.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Form.h"
-#include "platform/Widgets.h"
+#include "platform/forms/Form.h"
+#include "platform/widgets/Widgets.h"
 #include "shell/form_catalogue.h"
 
 /// A form for the main window to open; tells what happens to it.

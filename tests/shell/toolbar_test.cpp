@@ -4,7 +4,7 @@
 #include <QLabel>
 
 #include "core/settings.h"
-#include "platform/Region.h"
+#include "platform/system/LocaleRegion.h"
 #include "tests/shell/main_window.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <QAction>
 
 #include "entries/SaveLines.h"
-#include "platform/Grid.h"
-#include "platform/Lists.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"

@@ -6,7 +6,7 @@
 #include <iostream>
 
 #include "core/failure.h"
-#include "platform/Region.h"
+#include "platform/system/LocaleRegion.h"
 
 namespace {
 

@@ -14,9 +14,9 @@
 #include <vector>
 
 #include "core/memory_folder.h"
-#include "platform/Form.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Services.h"
+#include "platform/forms/Form.h"
+#include "platform/system/MessageBoxes.h"
+#include "platform/system/Services.h"
 
 /// Answers to the messages that a test expects, in their order. A message that nobody prepared and
 /// an answer left over both fail the test.

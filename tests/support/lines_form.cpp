@@ -4,7 +4,7 @@
 #include <QAbstractButton>
 #include <string>
 
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 
 LinesFormTest::LinesFormTest() {
     test_.services.saveLines = [this](QWidget*, Grid&) { ++saves_; };

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/Grid.h"
+#include "platform/widgets/Grid.h"
 #include "tests/support/form_test.h"
 
 /// Names of controls and their texts.

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 

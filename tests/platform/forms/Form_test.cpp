@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Form.h"
+#include "platform/forms/Form.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "platform/Widgets.h"
+#include "platform/widgets/Widgets.h"
 #include "tests/support/form_test.h"
 
 namespace {

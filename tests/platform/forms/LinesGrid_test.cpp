@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/LinesGrid.h"
+#include "platform/forms/LinesGrid.h"
 
 #include <gtest/gtest.h>
 
 #include "core/failure.h"
-#include "platform/Grid.h"
+#include "platform/widgets/Grid.h"
 #include "tests/support/form_test.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Skin.h"
+#include "platform/forms/Skin.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/DiskFolder.h"
+#include "platform/system/DiskFolder.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@
 
 #include "core/settings.h"
 #include "entries/saved_entries.h"
-#include "platform/Text.h"
+#include "platform/system/TextConversion.h"
 #include "shell/notes_file.h"
 #include "tests/core/failures.h"
 

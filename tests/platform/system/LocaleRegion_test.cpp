@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Region.h"
+#include "platform/system/LocaleRegion.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/OpenPage.h"
+#include "platform/system/OpenPage.h"
 
 #include <gtest/gtest.h>
 

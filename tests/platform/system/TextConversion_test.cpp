@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Text.h"
+#include "platform/system/TextConversion.h"
 
 #include <gtest/gtest.h>
 

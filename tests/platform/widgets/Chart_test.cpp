@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Chart.h"
+#include "platform/widgets/Chart.h"
 
 #include <gtest/gtest.h>
 

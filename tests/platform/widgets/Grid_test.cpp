@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Grid.h"
+#include "platform/widgets/Grid.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Lists.h"
+#include "platform/widgets/Lists.h"
 
 #include <gtest/gtest.h>
 

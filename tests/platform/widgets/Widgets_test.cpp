@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Widgets.h"
+#include "platform/widgets/Widgets.h"
 
 #include <gtest/gtest.h>
 
