@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "core/memory_folder.h"
+#include "test_folders.h"
 #include "tests/core/failures.h"
 
 namespace {

@@ -12,6 +12,7 @@
 #include "core/failure.h"
 #include "core/memory_folder.h"
 #include "core/text.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "core/memory_folder.h"
+#include "test_folders.h"
 #include "tests/core/failures.h"
 #include "tests/core/regions.h"
 #include "tests/support/real_histories.h"

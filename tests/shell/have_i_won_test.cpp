@@ -9,6 +9,7 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"
+#include "test_folders.h"
 #include "tests/support/form_test.h"
 
 namespace {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/program_folder.h"
+#include "test_folders.h"
 
 /// Copies the draw databases of the folder of real histories into `folder`; false where there is
 /// no such folder, which a test answers by skipping itself.

@@ -13,6 +13,7 @@
 #include "core/draw_database.h"
 #include "core/memory_folder.h"
 #include "core/state.h"
+#include "test_folders.h"
 #include "tools/demo_databases.h"
 
 namespace {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/failure.h"
+#include "test_folders.h"
 
 namespace {
 
@@ -24,7 +25,7 @@ using Fields = std::vector<std::string>;
 
 /// The records of a table in tests/data: one a line, fields between bars, "#" before remarks.
 std::vector<Fields> ReadTable(const std::string& file) {
-    std::ifstream in(std::string(SHARED_TEST_DATA "/") + file);
+    std::ifstream in(std::string(TEST_DATA "/") + file);
     std::vector<Fields> records;
     for (std::string line; std::getline(in, line);) {
         if (line.starts_with('#')) continue;
