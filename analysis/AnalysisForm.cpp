@@ -71,13 +71,15 @@ void AnalysisForm::AddLotteryList() {
 }
 
 QLabel* AnalysisForm::AddPrompt(const QString& name, const QString& text) {
-    prompts_.push_back(MakeLabel(name, text, this));
-    return prompts_.back();
+    prompts_ += name;
+    return MakeLabel(name, text, this);
 }
 
 void AnalysisForm::ApplySkin() {
-    Skinning(QStringLiteral("SkinAnalyse.jpg"),
-             {.title = {heading_}, .body = {explanation_}, .small = prompts_, .status = {}});
+    Skinning(QStringLiteral("SkinAnalyse.jpg"), {.title = {heading_->objectName()},
+                                                 .body = {explanation_->objectName()},
+                                                 .small = prompts_,
+                                                 .status = {}});
 }
 
 void AnalysisForm::Load() {

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
-
 #include "platform/forms/Form.h"
 
 class ListBox;
@@ -71,7 +69,7 @@ class AnalysisForm : public Form {
     ListBox* list1_ = nullptr;
     QLabel* heading_;
     QLabel* explanation_;
-    std::vector<QLabel*> prompts_;
+    QStringList prompts_;
     QHBoxLayout* top_;
     QVBoxLayout* choices_;
     QHBoxLayout* results_;

@@ -34,12 +34,15 @@ void SetBar(QScrollBar& bar, const State& state, int row, int column) {
 }  // namespace
 
 void CreateDbase::Load() {
-    Skinning(QStringLiteral("SkinDatabases.jpg"),
-             {.title = {label_[17]},
-              .body = {label_[16], label_[18], label_[13]},
-              .small = {label_[3], label_[15], label_[1], label_[4], label_[9], label_[10],
-                        label_[11], label_[5], label_[7], label_[12]},
-              .status = {}});
+    Skinning(
+        QStringLiteral("SkinDatabases.jpg"),
+        {.title = {QStringLiteral("Label17")},
+         .body = {QStringLiteral("Label16"), QStringLiteral("Label18"), QStringLiteral("Label13")},
+         .small = {QStringLiteral("Label3"), QStringLiteral("Label15"), QStringLiteral("Label1"),
+                   QStringLiteral("Label4"), QStringLiteral("Label9"), QStringLiteral("Label10"),
+                   QStringLiteral("Label11"), QStringLiteral("Label5"), QStringLiteral("Label7"),
+                   QStringLiteral("Label12")},
+         .status = {}});
     dtPicker1_->SetValue(services().today());
     LoadLotteryTemplates(state(), folder());
     for (const std::string& name : TemplateNames(state())) list1_->addItem(ToQString(name));

@@ -15,10 +15,12 @@
 #include "platform/widgets/NumberBox.h"
 
 void DbaseUpdateW::Load() {
-    Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {label5_},
-                                                   .body = {label11_},
-                                                   .small = {label8_, label4_, label6_, label7_},
-                                                   .status = {label13_}});
+    Skinning(QStringLiteral("SkinDatabases.jpg"),
+             {.title = {QStringLiteral("Label5")},
+              .body = {QStringLiteral("Label11")},
+              .small = {QStringLiteral("Label8"), QStringLiteral("Label4"),
+                        QStringLiteral("Label6"), QStringLiteral("Label7")},
+              .status = {QStringLiteral("Label13")}});
     dtPicker1_->SetValue(services().today());
     ListDatabases(program(), *list1_);
     ChooseFirstLottery(*list1_);

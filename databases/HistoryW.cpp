@@ -20,8 +20,10 @@
 #include "platform/widgets/NumberBox.h"
 
 void HistoryW::Load() {
-    Skinning(QStringLiteral("SkinDatabases.jpg"),
-             {.title = {label2_}, .body = {label4_}, .small = {label3_}, .status = {}});
+    Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {QStringLiteral("Label2")},
+                                                   .body = {QStringLiteral("Label4")},
+                                                   .small = {QStringLiteral("Label3")},
+                                                   .status = {}});
     ListDatabases(program(), *list1_);
     if (list1_->count() > 0) {
         ChooseFirstLottery(*list1_);

@@ -30,9 +30,11 @@ void ShowMyDrawsW::Load() {
     entriesChanged_ = 0;
     Skinning(
         QStringLiteral("SkinDatabases.jpg"),
-        {.title = {label8_},
-         .body = {label9_, label10_},
-         .small = {label1_, label2_, label4_, label5_, label6_, label14_, deleteLabel_, sortLabel_},
+        {.title = {QStringLiteral("Label8")},
+         .body = {QStringLiteral("Label9"), QStringLiteral("Label10")},
+         .small = {QStringLiteral("Label1"), QStringLiteral("Label2"), QStringLiteral("Label4"),
+                   QStringLiteral("Label5"), QStringLiteral("Label6"), QStringLiteral("Label14"),
+                   QStringLiteral("DeleteLabel"), QStringLiteral("SortLabel")},
          .status = {}});
     dtPicker1_->SetValue(services().today());
     LoadMyDraws(entryTable_, folder());

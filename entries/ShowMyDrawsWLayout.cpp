@@ -76,8 +76,8 @@ void ShowMyDrawsW::MakeLabels() {
     label5_ = MakeLabel(QStringLiteral("Label5"), tr("   Your lottery entries"));
     label2_ = MakeLabel(QStringLiteral("Label2"), tr("Item:"));
     label1_ = MakeLabel(QStringLiteral("Label1"), tr("Date:"));
-    deleteLabel_ = MakeLabel(QString(), tr("Delete:"));
-    sortLabel_ = MakeLabel(QString(), tr("Sort:"));
+    deleteLabel_ = MakeLabel(QStringLiteral("DeleteLabel"), tr("Delete:"));
+    sortLabel_ = MakeLabel(QStringLiteral("SortLabel"), tr("Sort:"));
     label9_ = MakeBody(QStringLiteral("Label9"),
                        tr("The Check button tells you if you have won anything. Each lottery "
                           "entry is checked with the lottery draw result on the date specified. "

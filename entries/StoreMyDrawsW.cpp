@@ -35,10 +35,12 @@ constexpr int lastMovedColumn = 10;
 }  // namespace
 
 void StoreMyDrawsW::Load() {
-    Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {label5_},
-                                                   .body = {label1_},
-                                                   .small = {label7_, label8_, labelPName_},
-                                                   .status = {}});
+    Skinning(QStringLiteral("SkinDatabases.jpg"),
+             {.title = {QStringLiteral("Label5")},
+              .body = {QStringLiteral("Label1")},
+              .small = {QStringLiteral("Label7"), QStringLiteral("Label8"),
+                        QStringLiteral("LabelPName")},
+              .status = {}});
     dtPicker1_->SetValue(services().today());
     ListDatabases(program(), *list1_);
     if (list1_->count() == 0) {

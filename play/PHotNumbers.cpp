@@ -46,7 +46,7 @@ PHotNumbers::PHotNumbers(Program& program, QWidget* parent)
     band_->Heading().setText(tr("Hot numbers"));
     Foot().addWidget(band_);
     // Where the skin has no colours, the numbers keep the one of their mode.
-    if (SkinChoiceOf(state()).colours) SetStatusLabel(&band_->Numbers());
+    if (SkinChoiceOf(state()).colours) SetStatusLabel(band_->Numbers().objectName());
 }
 
 void PHotNumbers::BuildOptions() {

@@ -31,7 +31,7 @@ PlayForm::PlayForm(Program& program, const PlayFormText& text, QWidget* parent)
     Column().addSpacing(8);
     BuildConditions();
     Foot().addWidget(label5_);
-    SetStatusLabel(label5_);
+    SetStatusLabel(label5_->objectName());
     connect(hScroll1_, &QScrollBar::valueChanged, this, [this] { HScroll1_Change(); });
 }
 

@@ -126,9 +126,10 @@ void PlayFrame::Load() {
 }
 
 SkinLabels PlayFrame::SkinnedLabels() const {
-    SkinLabels labels{.title = {label7_}, .body = {label2_}, .small = {label1_}, .status = {}};
-    if (statusLabel_ != nullptr) labels.status.push_back(statusLabel_);
-    return labels;
+    return {.title = {QStringLiteral("Label7")},
+            .body = {QStringLiteral("Label2")},
+            .small = {QStringLiteral("Label1")},
+            .status = statusLabels_};
 }
 
 bool PlayFrame::Lets(bool waits) const { return !waits || state().Busy == 0; }

@@ -86,8 +86,8 @@ class PlayFrame : public Form {
     QLabel& Heading() { return *label7_; }
     QLabel& Body() { return *label2_; }
 
-    /// The label that takes the skin's colour of the status line.
-    void SetStatusLabel(QLabel* label) { statusLabel_ = label; }
+    /// The name of the label that takes the skin's colour of the status line.
+    void SetStatusLabel(const QString& name) { statusLabels_ = {name}; }
 
     void List1_Click();
     void Command2_Click();
@@ -108,7 +108,7 @@ class PlayFrame : public Form {
     QLabel* label1_;
     QLabel* label2_;
     QLabel* label7_;
-    QLabel* statusLabel_ = nullptr;
+    QStringList statusLabels_;
     QPushButton* command1_;
     QPushButton* command2_;
     QPushButton* command6_;

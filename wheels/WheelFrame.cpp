@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
-#include <array>
 #include <span>
 
 #include "platform/forms/ShowTip.h"
@@ -53,13 +52,12 @@ QString SpokenName(const BoxGrouping& grouping, int index) {
         .arg(index % grouping.boxesInGroup + 1);
 }
 
-std::vector<QLabel*> LabelsOf(const Form& form, std::span<const std::string_view> names) {
-    std::vector<QLabel*> labels;
-    for (const std::string_view name : names) {
-        auto* label = form.findChild<QLabel*>(ToQString(name));
-        if (!name.empty() && label != nullptr) labels.push_back(label);
+QStringList NamesIn(std::span<const std::string_view> slots) {
+    QStringList names;
+    for (const std::string_view name : slots) {
+        if (!name.empty()) names += ToQString(name);
     }
-    return labels;
+    return names;
 }
 
 }  // namespace
@@ -71,14 +69,12 @@ PlayButtonNames WheelButtonNames(const QString& help) {
     return names;
 }
 
-SkinLabels WheelSkinLabels(const Form& form) {
-    constexpr std::array<std::string_view, 1> title = {"Label7"};
-    constexpr std::array<std::string_view, 1> body = {"Label2"};
-    const wheels::SkinSlots& colours = wheels::RulesOf(FromQString(form.objectName())).skin;
-    return {.title = LabelsOf(form, title),
-            .body = LabelsOf(form, body),
-            .small = LabelsOf(form, colours.small),
-            .status = LabelsOf(form, colours.status)};
+SkinLabels WheelSkinLabels(const QString& form) {
+    const wheels::SkinSlots& colours = wheels::RulesOf(FromQString(form)).skin;
+    return {.title = {QStringLiteral("Label7")},
+            .body = {QStringLiteral("Label2")},
+            .small = NamesIn(colours.small),
+            .status = NamesIn(colours.status)};
 }
 
 WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
@@ -163,7 +159,7 @@ void WheelFrame::Load() {
     PlayFrame::Load();
 }
 
-SkinLabels WheelFrame::SkinnedLabels() const { return WheelSkinLabels(*this); }
+SkinLabels WheelFrame::SkinnedLabels() const { return WheelSkinLabels(objectName()); }
 
 void WheelFrame::UseBoxes(int count) {
     wheels::Boxes boxes = Read();

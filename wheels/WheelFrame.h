@@ -15,8 +15,8 @@ class QRadioButton;
 /// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
 PlayButtonNames WheelButtonNames(const QString& help);
 
-/// The labels of a wheel form, found by its name and theirs, that take the skin's colours.
-SkinLabels WheelSkinLabels(const Form& form);
+/// The labels of the wheel form of that name that take the skin's colours.
+SkinLabels WheelSkinLabels(const QString& form);
 
 /// How the number boxes of a form stand.
 struct BoxGrouping {

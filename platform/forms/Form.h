@@ -2,19 +2,18 @@
 #pragma once
 
 #include <QDialog>
-#include <vector>
+#include <QStringList>
 
 #include "platform/system/Services.h"
 
 class QAbstractButton;
-class QLabel;
 
-/// The labels of a form that take the colours of the settings' entries 1 to 4.
+/// The names of a form's labels that take the colours of the settings' entries 1 to 4.
 struct SkinLabels {
-    std::vector<QLabel*> title;
-    std::vector<QLabel*> body;
-    std::vector<QLabel*> small;
-    std::vector<QLabel*> status;
+    QStringList title;
+    QStringList body;
+    QStringList small;
+    QStringList status;
 };
 
 /// A form opened modally from the main window.
@@ -60,7 +59,7 @@ class Form : public QDialog {
     void Unload();
 
     /// Background picture and colours as the settings say; `pictureFile` is named bare. A colour
-    /// entry that is no number is a `Failure`.
+    /// entry that is no number and a label that the form does not have are each a `Failure`.
     void Skinning(const QString& pictureFile, const SkinLabels& labels);
 
   private:

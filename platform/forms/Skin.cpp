@@ -81,12 +81,21 @@ QPalette PaletteOn(const QColor& background) {
     return palette;
 }
 
-void ColourLabels(const std::vector<QLabel*>& labels, const State& state, int entry,
+QLabel& LabelOf(const QWidget& form, const QString& name) {
+    auto* label = form.findChild<QLabel*>(name);
+    if (label == nullptr) {
+        throw Failure("The form " + FromQString(form.objectName()) + " has no label " +
+                      FromQString(name));
+    }
+    return *label;
+}
+
+void ColourLabels(const QWidget& form, const QStringList& names, const State& state, int entry,
                   bool coloured) {
-    if (labels.empty()) return;
+    if (names.empty()) return;
     QPalette palette;
     if (coloured) palette.setColor(QPalette::WindowText, SettingColour(state, entry));
-    for (QLabel* label : labels) label->setPalette(palette);
+    for (const QString& name : names) LabelOf(form, name).setPalette(palette);
 }
 
 /// The picture as large as covers `size`, cut to it, toned by `veil`.
@@ -132,10 +141,10 @@ QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QStri
 void ApplySkinColours(const State& state, QWidget& form, const SkinLabels& labels) {
     const bool coloured = SkinChoiceOf(state).colours;
     form.setPalette(coloured ? PaletteOn(SettingColour(state, backgroundEntry)) : QPalette());
-    ColourLabels(labels.title, state, 1, coloured);
-    ColourLabels(labels.body, state, 2, coloured);
-    ColourLabels(labels.small, state, 3, coloured);
-    ColourLabels(labels.status, state, 4, coloured);
+    ColourLabels(form, labels.title, state, 1, coloured);
+    ColourLabels(form, labels.body, state, 2, coloured);
+    ColourLabels(form, labels.small, state, 3, coloured);
+    ColourLabels(form, labels.status, state, 4, coloured);
 }
 
 void PaintSkin(QPainter& painter, const QRect& area, const QPixmap& picture,

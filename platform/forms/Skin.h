@@ -27,7 +27,8 @@ SkinChoice SkinChoiceOf(const State& state);
 QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QString& pictureFile);
 
 /// Gives the form's palette the background colour of the settings, with text that can be read on
-/// it, and the labels theirs; or takes both back where colours are switched off.
+/// it, and the labels theirs; or takes both back where colours are switched off. A label that the
+/// form does not have is a `Failure`.
 void ApplySkinColours(const State& state, QWidget& form, const SkinLabels& labels);
 
 /// Paints the picture over the whole of `area`, cut rather than distorted. On a dark desktop it is

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // In what the rules of the wheel forms tell them apart.
+#include <QLabel>
 #include <QPushButton>
 #include <array>
 #include <string_view>
 #include <tuple>
 
 #include "core/failure.h"
+#include "platform/widgets/Widgets.h"
 #include "tests/wheels/wheel_form.h"
 #include "wheels/PWheel2.h"
 #include "wheels/WheelFrame.h"
@@ -18,7 +20,12 @@ class RuledForm final : public WheelFrame {
   public:
     RuledForm(Program& program, const QString& rules)
         : WheelFrame(program, {.name = rules, .caption = rules, .heading = rules, .body = {}},
-                     WheelButtonNames(QStringLiteral("Command4")), {}, 20, nullptr) {}
+                     WheelButtonNames(QStringLiteral("Command4")), {}, 20, nullptr) {
+        const SkinLabels skin = WheelSkinLabels(rules);
+        for (const QString& label : skin.small + skin.status) {
+            if (findChild<QLabel*>(label) == nullptr) MakeLabel(label, {}, this)->hide();
+        }
+    }
 
     using WheelFrame::EmptyGrid;
     using WheelFrame::RandomOrder;
@@ -168,17 +175,11 @@ TEST_F(WheelRules, GiveTheRandomButtonsToolTipsWhereAFormHasThem) {
 }
 
 TEST_F(WheelRules, FindTheSkinsLabelsOfAnyWheelForm) {
-    Form form(test_.program, QStringLiteral("PGuaranteed"), QString(), nullptr);
-    std::vector<QLabel*> labels;
-    for (const char* name : {"Label7", "Label2", "Label5", "Label10", "Label1"}) {
-        labels.push_back(new QLabel(&form));
-        labels.back()->setObjectName(QString::fromLatin1(name));
-    }
-    const SkinLabels found = WheelSkinLabels(form);
-    EXPECT_EQ(found.title, std::vector<QLabel*>{labels[0]});
-    EXPECT_EQ(found.body, std::vector<QLabel*>{labels[1]});
-    EXPECT_EQ(found.small, std::vector<QLabel*>{labels[2]});
-    EXPECT_EQ(found.status, std::vector<QLabel*>{labels[3]});
+    const SkinLabels found = WheelSkinLabels(QStringLiteral("PGuaranteed"));
+    EXPECT_EQ(found.title, QStringList{QStringLiteral("Label7")});
+    EXPECT_EQ(found.body, QStringList{QStringLiteral("Label2")});
+    EXPECT_EQ(found.small, QStringList{QStringLiteral("Label5")});
+    EXPECT_EQ(found.status, QStringList{QStringLiteral("Label10")});
 }
 
 TEST_F(WheelRules, ShowAPromptOnlyWhereTheFormHasOne) {

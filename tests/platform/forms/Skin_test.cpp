@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "core/failure.h"
+#include "platform/widgets/Widgets.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -52,18 +53,21 @@ struct TheSkin : testing::Test {
         test.state.Settings(10) = "3";
     }
 
-    SkinLabels Labels() { return {{&title}, {&body}, {&small}, {&status}}; }
-    void Apply() { ApplySkinColours(test.state, form, Labels()); }
+    void Apply() { ApplySkinColours(test.state, form, labels); }
     static QString TextColour(const QLabel& label) {
         return label.palette().color(QPalette::WindowText).name();
     }
 
     TestProgram test;
     QWidget form;
-    QLabel title{&form};
-    QLabel body{&form};
-    QLabel small{&form};
-    QLabel status{&form};
+    QLabel& title = *MakeLabel(QStringLiteral("Label7"), {}, &form);
+    QLabel& body = *MakeLabel(QStringLiteral("Label2"), {}, &form);
+    QLabel& small = *MakeLabel(QStringLiteral("Label1"), {}, &form);
+    QLabel& status = *MakeLabel(QStringLiteral("Label5"), {}, &form);
+    SkinLabels labels{{QStringLiteral("Label7")},
+                      {QStringLiteral("Label2")},
+                      {QStringLiteral("Label1")},
+                      {QStringLiteral("Label5")}};
 };
 
 TEST_F(TheSkin, IsChosenByTwoBitsOfEntry10) {
@@ -144,6 +148,12 @@ TEST_F(TheSkin, AsksNothingOfColoursWhereTheyAreSwitchedOff) {
 TEST_F(TheSkin, AsksNothingOfColoursForLabelsThatAFormDoesNotHave) {
     test.state.Settings(1) = "no colour";
     EXPECT_NO_THROW(ApplySkinColours(test.state, form, {}));
+}
+
+TEST_F(TheSkin, IsAFailureForALabelThatTheFormDoesNotHave) {
+    form.setObjectName(QStringLiteral("PLuckyDip"));
+    labels.status = {QStringLiteral("Label55")};
+    EXPECT_EQ(TextOf([this] { Apply(); }), "The form PLuckyDip has no label Label55");
 }
 
 std::string Picture(int width, int height, const char* format) {
