@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace {
@@ -13,7 +14,7 @@ constexpr std::int16_t passed = -1;
 constexpr std::int16_t notPassed = 0;
 constexpr int lastLine = static_cast<int>(decltype(State::Lines)::RowCount()) - 1;
 
-int Strength(const State& state, int slot) { return LeadingWhole(state.Settings(slot)); }
+int Strength(const State& state, setting::Slot slot) { return LeadingWhole(state.Settings(slot)); }
 
 // Whether `count` of the line's numbers are of one kind where at least t of either kind are asked.
 bool OutOfBalance(const State& state, int count, long long t) {
@@ -50,7 +51,7 @@ bool FailsLongRun(const State& state, int row, int t) {
 using LineFails = bool (*)(const State& state, int row, int t);
 
 template <LineFails Fails>
-std::int16_t Test(const State& state, bool boxSet, int slot) {
+std::int16_t Test(const State& state, bool boxSet, setting::Slot slot) {
     if (!boxSet) return passed;
     const int t = Strength(state, slot);
     std::int16_t result = passed;
@@ -63,7 +64,7 @@ std::int16_t Test(const State& state, bool boxSet, int slot) {
 }
 
 template <LineFails Fails>
-void Prune(State& state, int slot) {
+void Prune(State& state, setting::Slot slot) {
     const State& view = state;
     const int t = Strength(state, slot);
     int row = 1;
@@ -148,11 +149,11 @@ class LineSet {
 }  // namespace
 
 std::int16_t OddEvenOK(const State& state, bool boxSet) {
-    return Test<FailsOddEven>(state, boxSet, 11);
+    return Test<FailsOddEven>(state, boxSet, setting::OddEvenStrength);
 }
 
 std::int16_t HighLowOK(const State& state, bool boxSet) {
-    return Test<FailsHighLow>(state, boxSet, 12);
+    return Test<FailsHighLow>(state, boxSet, setting::HighLowStrength);
 }
 
 std::int16_t HistoryOK(State& state, bool boxSet) {
@@ -160,18 +161,18 @@ std::int16_t HistoryOK(State& state, bool boxSet) {
     const int lineCount = LinesBeforeEndMark(state);
     state.drawIndex.Update(state);
     if (lineCount == noEndMark || !state.drawIndex.Usable()) return plain::HistoryOK(state, boxSet);
-    const int t = Strength(state, 13);
+    const int t = Strength(state, setting::HistoryStrength);
     for (int row = 1; row <= lineCount; ++row) {
         if (RepeatsDraw(state, row, t)) return notPassed;
     }
     return passed;
 }
 
-void PruneOddEven(State& state) { Prune<FailsOddEven>(state, 11); }
+void PruneOddEven(State& state) { Prune<FailsOddEven>(state, setting::OddEvenStrength); }
 
-void PruneHighLow(State& state) { Prune<FailsHighLow>(state, 12); }
+void PruneHighLow(State& state) { Prune<FailsHighLow>(state, setting::HighLowStrength); }
 
-void PruneLongRun(State& state) { Prune<FailsLongRun>(state, 14); }
+void PruneLongRun(State& state) { Prune<FailsLongRun>(state, setting::LongRunStrength); }
 
 void PruneHistory(State& state) {
     const int lineCount = LinesBeforeEndMark(state);
@@ -181,7 +182,7 @@ void PruneHistory(State& state) {
         plain::PruneHistory(state);
         return;
     }
-    const int t = Strength(state, 13);
+    const int t = Strength(state, setting::HistoryStrength);
     KeepLines(state, lineCount, [&](int row, int) { return !RepeatsDraw(state, row, t); });
 }
 

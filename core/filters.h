@@ -9,9 +9,9 @@
 /// fail.
 ///
 /// A line means columns 1 to `Picks` of a row; column 8 never counts. The strength t of a filter is
-/// the number at the head of its settings entry, read anew at each call: 11 odd/even, 12 high/low,
-/// 13 previous draws, 14 long runs. A test whose box is not set passes at once without a look at
-/// the lines. Tests answer -1 for passed and 0 for not passed.
+/// the number at the head of its setting (`setting::OddEvenStrength` and the three behind it), read
+/// anew at each call. A test whose box is not set passes at once without a look at the lines. Tests
+/// answer -1 for passed and 0 for not passed.
 
 /// Passes where every line has at least t odd and at least t even numbers.
 std::int16_t OddEvenOK(const State& state, bool boxSet);

@@ -3,12 +3,14 @@
 #include <utility>
 
 #include "core/filters.h"
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace {
 
 long long HistoryLimit(const State& state) {
-    return static_cast<long long>(state.Picks) - LeadingWhole(state.Settings(13));
+    return static_cast<long long>(state.Picks) -
+           LeadingWhole(state.Settings(setting::HistoryStrength));
 }
 
 // With more than eight columns the checked access of the tables ends the run.

@@ -13,7 +13,8 @@
 /// Windows-1252. Tables are used from index 1; the end of one is marked by a 0 or an empty text in
 /// the first column of the row behind its last.
 struct State {
-    /// The file `quillon.ini` in memory: line n of the file is entry n; entry 0 stays empty.
+    /// The file `quillon.ini` in memory: line n of the file is slot n; slot 0 stays empty. The
+    /// slots have their names in `core/settings.h`.
     List<std::string, 101> Settings{"settings"};
 
     /// Draw history of the current lottery. Row r is the r-th draw, the newest first; columns 1 to

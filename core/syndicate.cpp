@@ -2,6 +2,7 @@
 #include "core/syndicate.h"
 
 #include "core/field_reader.h"
+#include "core/settings.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
     for (int row = 0; row <= lastRow; ++row) {
         for (int column = 0; column <= lastColumn; ++column) state.Members(row, column).clear();
     }
-    std::string& file = state.Settings(16);
+    std::string& file = state.Settings(setting::SyndicateFile);
     if (file.empty()) return;
     if (!folder.Exists(file)) {
         file.clear();

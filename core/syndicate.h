@@ -4,8 +4,8 @@
 #include "core/program_folder.h"
 #include "core/state.h"
 
-/// Reads the syndicate whose file entry 16 of the settings names into `state.Members`.
+/// Reads the syndicate whose file `setting::SyndicateFile` names into `state.Members`.
 ///
 /// All cells of rows 0 to 100 are emptied first. Without a name that is all; where the file is gone
-/// the entry is emptied too. A file with fewer than 101 rows of eleven fields is a `Failure`.
+/// the slot is emptied too. A file with fewer than 101 rows of eleven fields is a `Failure`.
 void LoadSyndicate(State& state, const ProgramFolder& folder);

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/settings.h"
 #include "core/text.h"
 #include "entries/saved_entries.h"
 #include "platform/forms/FormLayout.h"
@@ -66,7 +67,7 @@ void SaveEntries::Build() {
 }
 
 void SaveEntries::Load() {
-    text2_->setText(ToQString(state().Settings(17)));
+    text2_->setText(ToQString(state().Settings(setting::PlayerName)));
     dtPicker1_->SetValue(NextDrawDate(state(), services().region, services().today()));
 }
 
@@ -80,8 +81,8 @@ int SaveEntries::LineCount() const { return LeadingWhole(FromQString(text1_->tex
 std::string SaveEntries::PlayerName() const { return FromQString(text2_->text()); }
 
 void SaveEntries::Command7_Click() {
-    state().Settings(17) = Trim(PlayerName());
-    state().Settings(18) = MediumDate(dtPicker1_->Value());
+    state().Settings(setting::PlayerName) = Trim(PlayerName());
+    state().Settings(setting::DrawDate) = MediumDate(dtPicker1_->Value());
     hide();
     QCoreApplication::processEvents();
 }

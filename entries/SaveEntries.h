@@ -9,8 +9,7 @@ class QPushButton;
 
 /// Asks how many lines to save, for whom and for which draw.
 ///
-/// Saving keeps the name and the date in entries 17 and 18 of the settings; cancelling makes the
-/// number of lines 0.
+/// Saving keeps the name and the date in the settings; cancelling makes the number of lines 0.
 class SaveEntries final : public Form {
     Q_OBJECT
   public:

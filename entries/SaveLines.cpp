@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/SaveLines.h"
 
+#include "core/settings.h"
 #include "entries/SaveEntries.h"
 #include "entries/saved_entries.h"
 #include "platform/system/TextConversion.h"
@@ -16,7 +17,7 @@ int CountLines(const Grid& grid) {
 
 SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::string& player) {
     SavedEntry entry;
-    entry[0] = state.Settings(18);
+    entry[0] = state.Settings(setting::DrawDate);
     for (int column = 1; column <= 8; ++column) {
         entry[static_cast<std::size_t>(column)] = FromQString(grid.Cell(row, column));
     }

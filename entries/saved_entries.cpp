@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "core/settings.h"
 #include "core/text.h"
 
 namespace {
@@ -48,6 +49,6 @@ std::string SavedEntryRecord(const SavedEntry& entry) {
 Date NextDrawDate(const State& state, const Region& region, Date today) {
     const int days = DaysToDraw(UpperCase(Trim(state.LotteryName)), WeekdayNumber(today));
     if (days != open) return DaysAfter(today, days);
-    const auto chosen = ReadDate(state.Settings(18), region, today);
+    const auto chosen = ReadDate(state.Settings(setting::DrawDate), region, today);
     return chosen && *chosen > today ? *chosen : today;
 }

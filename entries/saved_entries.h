@@ -19,5 +19,5 @@ std::string SavedEntryRecord(const SavedEntry& entry);
 /// The draw date to propose for `state.LotteryName`.
 ///
 /// For the seven known lotteries it is the next draw day, today included; for others, or on a draw
-/// day, it is today, or the date in entry 18 of the settings where that lies later.
+/// day, it is today, or `setting::DrawDate` where that lies later.
 Date NextDrawDate(const State& state, const Region& region, Date today);

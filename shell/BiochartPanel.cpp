@@ -14,7 +14,6 @@
 
 namespace {
 
-constexpr int birthDateEntry = 15;
 constexpr int seriesCount = 4;
 constexpr double highest = 10;
 
@@ -73,8 +72,8 @@ void BiochartPanel::Connect() {
 
 void BiochartPanel::ShowBirthDate() {
     const Services& services = program_.services;
-    dtPicker1_->SetValue(DateFromText(program_.state.Settings(birthDateEntry), services.region,
-                                      services.today(), "quillon.ini, line 15"));
+    dtPicker1_->SetValue(DateFromText(program_.state.Settings(setting::BirthDate), services.region,
+                                      services.today(), PlaceOf(setting::BirthDate)));
 }
 
 void BiochartPanel::DoBiorhythm() {
@@ -86,7 +85,7 @@ void BiochartPanel::DoBiorhythm() {
         chart_->SetValue(1, column, values.at(static_cast<std::size_t>(column - 1)));
     }
     chart_->Refresh();
-    program_.state.Settings(birthDateEntry) = MediumDate(birthDate);
+    program_.state.Settings(setting::BirthDate) = MediumDate(birthDate);
 }
 
 void BiochartPanel::SetMoreAvailable(bool available) { more_->setEnabled(available); }

@@ -11,10 +11,6 @@
 
 namespace {
 
-constexpr int linkCount = 11;          // LinksLink(0) to LinksLink(10)
-constexpr int linksFromSettings = 10;  // the last link keeps its own caption
-constexpr int firstLinkCaption = 20;
-
 struct EntryText {
     const char* name;
     const char* caption;
@@ -143,8 +139,8 @@ void MainMenu::Answer(const QString& name, const std::function<void()>& handler)
 }
 
 void MainMenu::ShowLinks(const State& state) {
-    for (int i = 0; i < linksFromSettings; ++i) {
-        const QString caption = ToQString(state.Settings(firstLinkCaption + i));
+    for (int i = 0; i < setting::links; ++i) {
+        const QString caption = ToQString(state.Settings(setting::LinkCaptions + i));
         QAction* entry = Entry(Member(QStringLiteral("LinksLink"), i));
         entry->setVisible(!caption.isEmpty());
         if (!caption.isEmpty()) entry->setText(ShownCaption(caption));

@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <functional>
 
-#include "core/state.h"
+#include "core/settings.h"
 
 class QAction;
 
@@ -13,6 +13,9 @@ class QAction;
 class MainMenu final : public QMenuBar {
     Q_OBJECT
   public:
+    /// The links of the settings, and one more with a caption of its own.
+    static constexpr int linkCount = setting::links + 1;
+
     explicit MainMenu(QWidget* parent = nullptr);
 
     /// The entry of that name; a name that the menu does not have is a `Failure`.

@@ -28,9 +28,6 @@
 
 namespace {
 
-constexpr int panelsEntry = 19;
-constexpr int firstLinkAddress = 30;
-constexpr int linkCount = 11;
 constexpr const char* backupFolder = "Backup";
 constexpr const char* pictureFile = "SkinMain.jpg";
 constexpr int internetPicture = 12;
@@ -84,9 +81,9 @@ void Quillon::AnswerMenu() {
     menu_->Answer(QStringLiteral("HelpHelp"),
                   [this] { program_.services.openPage(QStringLiteral("help.html")); });
     menu_->Answer(QStringLiteral("HelpWebSite"), [this] {
-        program_.services.openPage(ToQString(program_.state.Settings(firstLinkAddress)));
+        program_.services.openPage(ToQString(program_.state.Settings(setting::LinkAddresses)));
     });
-    for (int i = 0; i < linkCount; ++i) {
+    for (int i = 0; i < MainMenu::linkCount; ++i) {
         menu_->Answer(Member(QStringLiteral("LinksLink"), i), [this, i] { LinksLink(i); });
     }
 }
@@ -108,7 +105,7 @@ void Quillon::Load() {
     if (!program_.folder.FolderExists(backupFolder)) program_.folder.MakeFolder(backupFolder);
     LoadSettings();
     Skinning();
-    if (program_.state.Settings(panelsEntry) == "1") ShowPanels();
+    if (program_.state.Settings(setting::InfoPanels) == "1") ShowPanels();
     if (program_.folder.Exists(notesFile)) panels_->ShowNotes(ReadNotes(program_.folder));
     panels_->Biochart().ShowBirthDate();
     panels_->Biochart().DoBiorhythm();
@@ -184,7 +181,7 @@ void Quillon::ShowPanels() {
     const bool shown = !panels_->Shown();
     if (painted_) ShowWelcome(!shown);
     panels_->SetShown(shown);
-    program_.state.Settings(panelsEntry).assign(1, shown ? '1' : '0');
+    program_.state.Settings(setting::InfoPanels).assign(1, shown ? '1' : '0');
 }
 
 void Quillon::SaveNotes() { ::SaveNotes(program_.folder, panels_->CurrentNotes()); }
@@ -213,8 +210,10 @@ void Quillon::Open(const CatalogueEntry& entry) {
 }
 
 void Quillon::LinksLink(int index) {
-    // The last link has no address of its own and opens the name of the first UK download.
-    program_.services.openPage(ToQString(program_.state.Settings(firstLinkAddress + index)));
+    // Kept on purpose: the last link has no address of its own and opens what stands behind those
+    // of the others, the name of the first UK download.
+    static_assert(setting::LinkAddresses + setting::links == setting::UkDownloadNames);
+    program_.services.openPage(ToQString(program_.state.Settings(setting::LinkAddresses + index)));
 }
 
 void Quillon::FileDeleteSaved_Click() {

@@ -82,9 +82,9 @@ void Supply(const QString& folder, const QString& databases) {
 /// What a user of some weeks has in his folder.
 void WriteUserFiles(State& state, DiskFolder& folder) {
     LoadSettings(state, folder);
-    state.Settings(15) = "12-May-1980";
-    state.Settings(17) = "Anna";
-    state.Settings(19) = "1";
+    state.Settings(setting::BirthDate) = "12-May-1980";
+    state.Settings(setting::PlayerName) = "Anna";
+    state.Settings(setting::InfoPanels) = "1";
     SaveSettings(state, folder);
     folder.Write(
         "Notes.txt",

@@ -8,7 +8,7 @@
 
 class QAbstractButton;
 
-/// The names of a form's labels that take the colours of the settings' entries 1 to 4.
+/// The names of a form's labels that take the text colours of the settings.
 struct SkinLabels {
     QStringList title;
     QStringList body;

@@ -16,9 +16,6 @@
 
 namespace {
 
-constexpr int backgroundEntry = 5;
-constexpr int choiceEntry = 10;
-
 /// System colours of a light desktop by their numbers: scroll bar, desktop, captions, menu, window
 /// and its frame and texts, borders, work space, highlight, button and its shades, tool-tip.
 constexpr std::array<QRgb, 25> systemColours = {
@@ -43,12 +40,11 @@ std::optional<QColor> Known(Colour colour) {
 constexpr const char* colourWanted =
     "expected a colour of 24 bits, or a system colour from &H80000000 to &H80000018, but ";
 
-QColor SettingColour(const State& state, int entry) {
-    const std::string& text = state.Settings(entry);
-    const std::string where = std::string(settingsFile) + ", line " + std::to_string(entry);
-    const auto known = Known(ColourFromText(text, where));
+QColor SettingColour(const State& state, setting::Slot slot) {
+    const std::string& text = state.Settings(slot);
+    const auto known = Known(ColourFromText(text, PlaceOf(slot)));
     if (!known) {
-        throw FailureInFile(settingsFile, entry, colourWanted + ("\"" + text) + "\" stands there");
+        throw FailureInFile(settingsFile, slot, colourWanted + ("\"" + text) + "\" stands there");
     }
     return *known;
 }
@@ -90,11 +86,11 @@ QLabel& LabelOf(const QWidget& form, const QString& name) {
     return *label;
 }
 
-void ColourLabels(const QWidget& form, const QStringList& names, const State& state, int entry,
-                  bool coloured) {
+void ColourLabels(const QWidget& form, const QStringList& names, const State& state,
+                  setting::Slot slot, bool coloured) {
     if (names.empty()) return;
     QPalette palette;
-    if (coloured) palette.setColor(QPalette::WindowText, SettingColour(state, entry));
+    if (coloured) palette.setColor(QPalette::WindowText, SettingColour(state, slot));
     for (const QString& name : names) LabelOf(form, name).setPalette(palette);
 }
 
@@ -123,7 +119,7 @@ QColor ToQColor(Colour colour) {
 }
 
 SkinChoice SkinChoiceOf(const State& state) {
-    const int bits = LeadingWhole(state.Settings(choiceEntry));
+    const int bits = LeadingWhole(state.Settings(setting::SkinBits));
     return {.pictures = (bits & 1) != 0, .colours = (bits & 2) != 0};
 }
 
@@ -140,11 +136,12 @@ QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QStri
 
 void ApplySkinColours(const State& state, QWidget& form, const SkinLabels& labels) {
     const bool coloured = SkinChoiceOf(state).colours;
-    form.setPalette(coloured ? PaletteOn(SettingColour(state, backgroundEntry)) : QPalette());
-    ColourLabels(form, labels.title, state, 1, coloured);
-    ColourLabels(form, labels.body, state, 2, coloured);
-    ColourLabels(form, labels.small, state, 3, coloured);
-    ColourLabels(form, labels.status, state, 4, coloured);
+    form.setPalette(coloured ? PaletteOn(SettingColour(state, setting::BackgroundColour))
+                             : QPalette());
+    ColourLabels(form, labels.title, state, setting::TitleColour, coloured);
+    ColourLabels(form, labels.body, state, setting::BodyColour, coloured);
+    ColourLabels(form, labels.small, state, setting::SmallLabelColour, coloured);
+    ColourLabels(form, labels.status, state, setting::StatusColour, coloured);
 }
 
 void PaintSkin(QPainter& painter, const QRect& area, const QPixmap& picture,

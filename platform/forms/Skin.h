@@ -15,7 +15,7 @@ class QWidget;
 /// those of a light desktop, as the system's own colours are made for it.
 QColor ToQColor(Colour colour);
 
-/// Bits of entry 10 of the settings.
+/// The bits of `setting::SkinBits`.
 struct SkinChoice {
     bool pictures = false;
     bool colours = false;

@@ -182,3 +182,18 @@ TEST_F(SettingsFile, FailsWhereItIsLocked) {
     folder_.Lock("quillon.ini");
     EXPECT_EQ(FailureOfLoading(), "quillon.ini: the file is locked.");
 }
+
+TEST_F(SettingsFile, NamesItsPlacesForReports) {
+    EXPECT_EQ(PlaceOf(setting::BackgroundColour), "quillon.ini, line 5");
+}
+
+TEST_F(SettingsFile, KeepsTheNamedSlotsInTheirPlaces) {
+    for (int slot = 1; slot <= 100; ++slot) state_.Settings(slot) = std::to_string(slot);
+    EXPECT_EQ(state_.Settings(setting::SyndicateFile), "16");
+    EXPECT_EQ(state_.Settings(setting::PlayerName), "17");
+    EXPECT_EQ(state_.Settings(setting::DrawDate), "18");
+    EXPECT_EQ(state_.Settings(setting::LinkCaptions + setting::links - 1), "29");
+    EXPECT_EQ(state_.Settings(setting::LinkAddresses + setting::links - 1), "39");
+    EXPECT_EQ(state_.Settings(setting::UkDownloadNames + setting::ukDownloads - 1), "44");
+    EXPECT_EQ(state_.Settings(setting::UkDownloadAddresses + setting::ukDownloads - 1), "54");
+}
