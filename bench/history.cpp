@@ -9,6 +9,7 @@
 #include "core/filters.h"
 #include "core/lines.h"
 #include "core/memory_folder.h"
+#include "core/settings.h"
 #include "play/lucky_dip.h"
 
 namespace {
@@ -50,12 +51,13 @@ std::unique_ptr<State> StateWithHistory(int strength) {
     folder.Write("dbase2.txt", DatabaseBytes());
     ListDatabases(*state, folder);
     LoadDatabase(*state, folder, 0);
-    for (int slot = 11; slot <= 14; ++slot) state->Settings(slot) = std::to_string(strength);
+    for (int slot = setting::OddEvenStrength; slot <= setting::LongRunStrength; ++slot) {
+        state->Settings(slot) = std::to_string(strength);
+    }
     return state;
 }
 
 void FillWithPassingLines(State& state, int count) {
-    const State& view = state;
     Random random = FixedRandom();
     Table<std::int16_t, 181, 15> passing("passing lines");
     int row = 0;
@@ -63,7 +65,7 @@ void FillWithPassingLines(State& state, int count) {
         lucky_dip::PlayLotto(state, random, 1);
         if (plain::HistoryOK(state, true) == 0) continue;
         ++row;
-        std::copy_n(view.Lines.Row(1), 15, passing.Row(row));
+        std::copy_n(View(state).Lines.Row(1), 15, passing.Row(row));
     }
     for (row = 1; row <= count; ++row) {
         std::copy_n(passing.Row(row), 15, state.Lines.Row(row));

@@ -65,16 +65,15 @@ std::int16_t Test(const State& state, bool boxSet, setting::Slot slot) {
 
 template <LineFails Fails>
 void Prune(State& state, setting::Slot slot) {
-    const State& view = state;
     const int t = Strength(state, slot);
     int row = 1;
     do {
-        if (Fails(view, row, t)) {
+        if (Fails(state, row, t)) {
             RemoveLine(state, row);
         } else {
             ++row;
         }
-    } while (view.Lines(row, 1) != 0);
+    } while (View(state).Lines(row, 1) != 0);
 }
 
 // Lines before the end mark, or nothing to count on where the table has none.
@@ -187,15 +186,14 @@ void PruneHistory(State& state) {
 }
 
 void PruneDuplicates(State& state) {
-    const State& view = state;
-    const int lineCount = LinesBeforeEndMark(view);
+    const int lineCount = LinesBeforeEndMark(state);
     if (lineCount == noEndMark) {
         plain::PruneDuplicates(state);
         return;
     }
     LineSet met;
     KeepLines(state, lineCount, [&](int row, int place) {
-        return met.Insert(view, LineKey(view.Lines.Row(row)), place);
+        return met.Insert(state, LineKey(View(state).Lines.Row(row)), place);
     });
 }
 
@@ -204,5 +202,5 @@ void RemoveLine(State& state, int row) {
     do {
         CopyLine(state, moved + 1, moved);
         ++moved;
-    } while (state.Lines(moved, 1) != 0);
+    } while (View(state).Lines(moved, 1) != 0);
 }

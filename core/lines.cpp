@@ -62,7 +62,7 @@ void SortLines(State& state, int count) {
     do {
         SortRow(state, row, count);
         ++row;
-    } while (std::as_const(state).Lines(row, 1) != 0);
+    } while (View(state).Lines(row, 1) != 0);
 }
 
 int LineCount(const State& state) {

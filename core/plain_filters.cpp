@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
-#include <utility>
 
 #include "core/filters.h"
 #include "core/settings.h"
@@ -61,28 +60,26 @@ std::int16_t plain::HistoryOK(const State& state, bool boxSet) {
 // Draw 1 is compared before its end mark is looked for, so with no draws loaded each line meets
 // the empty first row once, and the line that moves up into a removed one's place is passed over.
 void plain::PruneHistory(State& state) {
-    const State& view = state;
     const long long limit = HistoryLimit(state);
-    for (int row = 1; view.Lines(row, 1) != 0; ++row) {
+    for (int row = 1; View(state).Lines(row, 1) != 0; ++row) {
         int draw = 1;
         do {
             if (Matches(state, row, draw) > limit) {
                 RemoveLine(state, row);
-                if (view.Lines(row, 1) == 0) return;
+                if (View(state).Lines(row, 1) == 0) return;
                 draw = 0;
             }
             ++draw;
-        } while (view.Draws(draw, 1) != 0);
+        } while (View(state).Draws(draw, 1) != 0);
     }
 }
 
 void plain::PruneDuplicates(State& state) {
-    const State& view = state;
-    for (int row = 1; view.Lines(row, 1) != 0; ++row) {
+    for (int row = 1; View(state).Lines(row, 1) != 0; ++row) {
         int other = 1;
-        while (view.Lines(other, 1) != 0) {
-            const std::int16_t* first = view.Lines.Row(row) + 1;
-            if (row != other && std::equal(first, first + 7, view.Lines.Row(other) + 1)) {
+        while (View(state).Lines(other, 1) != 0) {
+            const std::int16_t* first = View(state).Lines.Row(row) + 1;
+            if (row != other && std::equal(first, first + 7, View(state).Lines.Row(other) + 1)) {
                 RemoveLine(state, other);
                 other = 1;
             } else {

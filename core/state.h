@@ -54,3 +54,7 @@ struct State {
     /// Derived from `Draws` for fast comparison; renews itself when `Draws` has changed.
     DrawIndex drawIndex;
 };
+
+/// The state for reading, where it could be changed too: a mutable access counts as a change of its
+/// table, and what is derived from the table would renew itself for nothing.
+inline const State& View(const State& state) { return state; }

@@ -80,18 +80,17 @@ void CreateDbase::Option1_Click(int index) {
 }
 
 void CreateDbase::List1_Click() {
-    const State& templates = state();
     const int row = list1_->Index();
-    const auto text = [&](int column) { return ToQString(templates.Templates(row, column)); };
+    const auto text = [&](int column) { return ToQString(view().Templates(row, column)); };
     text2_->setText(text(5));
     text3_->setText(text(0));
-    SetBar(*hScroll1_, templates, row, 1);
+    SetBar(*hScroll1_, view(), row, 1);
     label_[2]->setText(text(1));
-    SetBar(*hScroll2_, templates, row, 2);
+    SetBar(*hScroll2_, view(), row, 2);
     label_[6]->setText(text(2));
-    const bool extraBall = LeadingNumber(templates.Templates(row, 4)) != 0;
+    const bool extraBall = LeadingNumber(view().Templates(row, 4)) != 0;
     if (extraBall) {
-        SetBar(*hScroll3_, templates, row, 4);
+        SetBar(*hScroll3_, view(), row, 4);
         label_[8]->setText(text(4));
     }
     option1_[extraBall ? 1 : 0]->setChecked(true);

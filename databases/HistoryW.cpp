@@ -61,7 +61,7 @@ bool HistoryW::HasExtraColumn() const { return state().HasBonus == 1 || state().
 void HistoryW::ShowHeadings() {
     grid_->SetCell(0, 0, tr("Date"));
     for (int column = 1; column <= 7; ++column) {
-        const bool filled = state().Draws(1, column) > 0;
+        const bool filled = view().Draws(1, column) > 0;
         grid_->SetCell(0, column, filled ? tr("Num%1").arg(column) : QString());
     }
     grid_->SetCellColour(0, 8, ExtraBallColour());
@@ -72,12 +72,11 @@ void HistoryW::ShowHeadings() {
 
 void HistoryW::ShowDraws() {
     const bool extra = HasExtraColumn();
-    const State& shown = state();
     int row = 0;
-    for (const std::string& date : StoredDates(shown, folder())) {
+    for (const std::string& date : StoredDates(view(), folder())) {
         grid_->SetCell(++row, 0, ToQString(date));
         for (int column = 1; column <= (extra ? 8 : 7); ++column) {
-            const int number = shown.Draws(row, column);
+            const int number = view().Draws(row, column);
             if (number > 0) grid_->SetCell(row, column, QString::number(number));
         }
         if (extra) grid_->SetCellColour(row, 8, ExtraBallColour());
@@ -86,7 +85,7 @@ void HistoryW::ShowDraws() {
 
 void HistoryW::ShowBoxes() {
     for (int index = 1; index <= 8; ++index) {
-        const bool filled = state().Draws(1, index) >= 1;
+        const bool filled = view().Draws(1, index) >= 1;
         Text1(index)->setVisible(filled);
         if (!filled) Text1(index)->clear();
     }
@@ -112,12 +111,11 @@ void HistoryW::Option2_Click() {
     if (sortedView_ == -1) return;
     const Hourglass hourglass;
     frame1_->setEnabled(false);
-    const State& shown = state();
     std::vector<int> numbers;
-    for (int row = 1; shown.Draws(row, 1) != 0; ++row) {
+    for (int row = 1; view().Draws(row, 1) != 0; ++row) {
         numbers.clear();
-        for (int column = 1; column <= shown.Picks; ++column) {
-            numbers.push_back(shown.Draws(row, column));
+        for (int column = 1; column <= view().Picks; ++column) {
+            numbers.push_back(view().Draws(row, column));
         }
         std::sort(numbers.begin(), numbers.end());
         int column = 0;
@@ -129,10 +127,9 @@ void HistoryW::Option2_Click() {
 void HistoryW::Option1_Click() {
     if (sortedView_ == 0) return;
     const Hourglass hourglass;
-    const State& shown = state();
-    for (int row = 1; shown.Draws(row, 1) != 0; ++row) {
+    for (int row = 1; view().Draws(row, 1) != 0; ++row) {
         for (int column = 1; column <= 8; ++column) {
-            const int number = shown.Draws(row, column);
+            const int number = view().Draws(row, column);
             if (number > 0) grid_->SetCell(row, column, QString::number(number));
         }
     }

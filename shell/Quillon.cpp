@@ -163,8 +163,8 @@ void Quillon::ListDatabases() {
 
 void Quillon::UpdateSyndicate() {
     LoadSyndicate(program_.state, program_.folder);
-    const std::string& name = std::as_const(program_.state.Members)(0, 10);
-    const std::string& manager = std::as_const(program_.state.Members)(0, 0);
+    const std::string& name = View(program_.state).Members(0, 10);
+    const std::string& manager = View(program_.state).Members(0, 0);
     panels_->ShowSyndicate(name, manager);
     const bool open = !name.empty() && !manager.empty();
     const std::initializer_list<const char*> entries = {"SyndicateMembers", "SyndicatePayments",

@@ -39,6 +39,10 @@ class Form : public QDialog {
     void paintEvent(QPaintEvent* event) override;
 
     State& state() const { return program_.state; }
+
+    /// The state for reading its tables, as a mutable access counts as a change of the table.
+    const State& view() const { return View(program_.state); }
+
     ProgramFolder& folder() const { return program_.folder; }
     Services& services() const { return program_.services; }
     Program& program() const { return program_; }

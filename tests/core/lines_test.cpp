@@ -96,6 +96,16 @@ TEST(SortLines, FullTableFailsAtTheRowBehindItsLast) {
     }
 }
 
+TEST(View, ReadsATableWithoutCountingAsAChange) {
+    const auto state = Lottery(6, 49);
+    state->Draws(1, 1) = 7;
+    const std::uint64_t version = state->Draws.Version();
+    EXPECT_EQ(View(*state).Draws(1, 1), 7);
+    EXPECT_EQ(state->Draws.Version(), version);
+    state->Draws(1, 1) = 8;
+    EXPECT_NE(state->Draws.Version(), version);
+}
+
 TEST(LineCount, CountsTheRowsBeforeTheEndMark) {
     const auto state = Lottery(6, 49);
     EXPECT_EQ(LineCount(*state), 0);
