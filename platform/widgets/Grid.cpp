@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/widgets/Grid.h"
 
+#include <QAction>
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -8,59 +9,31 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyle>
-#include <QStyledItemDelegate>
+#include <algorithm>
 
+#include "platform/widgets/GridLooks.h"
 #include "platform/widgets/GridModel.h"
+#include "platform/widgets/Widgets.h"
 
 namespace {
 
 constexpr int twips90 = 6;  // at 15 twips a pixel
-constexpr int markedShade = 112;
-
-/// Keeps a cell's own colours while the cell is marked.
-class GridDelegate final : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const auto colour = index.data(Qt::ForegroundRole).value<QColor>();
-        if (colour.isValid()) option->palette.setColor(QPalette::HighlightedText, colour);
-        const auto background = index.data(Qt::BackgroundRole).value<QColor>();
-        if (background.isValid() && background != Qt::white) {
-            option->palette.setColor(QPalette::Highlight, background.darker(markedShade));
-        }
-    }
-};
-
-/// The colours of the cells are made for white, whatever the desktop's theme.
-QPalette LightPalette() {
-    const QColor text(0x1f, 0x23, 0x28);
-    QPalette palette(QColor(0xf3, 0xf4, 0xf6), QColor(0xf3, 0xf4, 0xf6));
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text);
-    }
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xf8, 0xf9, 0xfb));
-    palette.setColor(QPalette::Highlight, QColor(0xcf, 0xe3, 0xf7));
-    palette.setColor(QPalette::HighlightedText, text);
-    return palette;
-}
 
 }  // namespace
 
 Grid::Grid(int rowCount, int columnCount, QWidget* parent)
     : QTableView(parent), model_(new GridModel(rowCount, columnCount, this)) {
+    setHorizontalHeader(new GridHeader(*this));
     setModel(model_);
-    setItemDelegate(new GridDelegate(this));
+    setItemDelegate(new GridDelegate(*this, this));
     SetUpView();
+    BuildMenu();
     SizeColumns();
     connect(this, &QAbstractItemView::clicked, this, &Grid::TellOfCell);
 }
 
 void Grid::SetUpView() {
-    setPalette(LightPalette());
+    setPalette(GridPalette(dark_));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
     setTabKeyNavigation(false);
@@ -75,6 +48,18 @@ void Grid::SetUpView() {
     horizontalHeader()->setMinimumSectionSize(1);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
+}
+
+void Grid::BuildMenu() {
+    auto* copy = Named(new QAction(tr("Copy"), this), QStringLiteral("Copy"));
+    auto* selectAll = Named(new QAction(tr("Select all"), this), QStringLiteral("SelectAll"));
+    copy->setShortcut(QKeySequence::Copy);
+    selectAll->setShortcut(QKeySequence::SelectAll);
+    connect(copy, &QAction::triggered, this, [this] { CopySelection(); });
+    connect(selectAll, &QAction::triggered, this, [this] { this->selectAll(); });
+    for (QAction* action : {copy, selectAll}) action->setShortcutContext(Qt::WidgetShortcut);
+    addActions({copy, selectAll});
+    setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 int Grid::RowCount() const { return model_->GridRows(); }
@@ -99,11 +84,46 @@ void Grid::SetCellBackground(int row, int column, const QColor& colour) {
 
 QColor Grid::CellBackground(int row, int column) const { return model_->Background(row, column); }
 
+void Grid::SetCellMatch(int row, int column, Match match) { model_->SetMatch(row, column, match); }
+
+Match Grid::CellMatch(int row, int column) const { return model_->MatchOf(row, column); }
+
+void Grid::SetRowsInUse(int rows) {
+    if (rowsInUse_ == rows) return;
+    rowsInUse_ = rows;
+    viewport()->update();
+}
+
+void Grid::SetColumnsOutOfUse(const std::vector<int>& columns) {
+    if (columnsOutOfUse_ == columns) return;
+    columnsOutOfUse_ = columns;
+    viewport()->update();
+    horizontalHeader()->viewport()->update();
+}
+
+bool Grid::InUse(int row, int column) const { return row <= rowsInUse_ && ColumnInUse(column); }
+
+bool Grid::ColumnInUse(int column) const {
+    return std::find(columnsOutOfUse_.begin(), columnsOutOfUse_.end(), column) ==
+           columnsOutOfUse_.end();
+}
+
+void Grid::ShowEditedCell() {
+    showsEditedCell_ = true;
+    connect(selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this] { horizontalHeader()->viewport()->update(); });
+}
+
+QColor Grid::UnusedColour() const {
+    const QWidget* behind = parentWidget();
+    return behind == nullptr ? palette().color(QPalette::Button)
+                             : behind->palette().color(QPalette::Window);
+}
+
 void Grid::ClearCells() { model_->Clear(); }
 
 void Grid::SizeColumns() {
-    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
-    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00000000")) + 2 * margin + 1;
+    const int width = fontMetrics().horizontalAdvance(QStringLiteral("00000000"));
     const std::vector<int> widths(static_cast<std::size_t>(ColumnCount()), width);
     SetColumnWidths(widths);
 }
@@ -166,6 +186,28 @@ void Grid::ScrollToRow(int row) {
     if (index.isValid()) scrollTo(index, EnsureVisible);
 }
 
+// The window is known once the grid is shown, and may change its colours with the skin.
+bool Grid::event(QEvent* event) {
+    if (event->type() == QEvent::Show) {
+        window()->installEventFilter(this);
+        TakeWindowColours();
+    }
+    return QTableView::event(event);
+}
+
+bool Grid::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == window() && event->type() == QEvent::PaletteChange) TakeWindowColours();
+    return QTableView::eventFilter(watched, event);
+}
+
+void Grid::TakeWindowColours() {
+    const QPalette around = window() == this ? QGuiApplication::palette() : window()->palette();
+    const bool dark = qGray(around.color(QPalette::Window).rgb()) < 128;
+    if (dark == dark_) return;
+    dark_ = dark;
+    setPalette(GridPalette(dark));
+}
+
 void Grid::TellOfCell(const QModelIndex& index) {
     told_ = true;
     Q_EMIT cellClicked(index.row() + 1, index.column());
@@ -186,13 +228,19 @@ void Grid::mousePressEvent(QMouseEvent* event) {
     currentBeforePress_ = currentIndex();
     told_ = false;
     QTableView::mousePressEvent(event);
+    if (event->button() == Qt::RightButton) TellOfMove();
 }
 
-// A drag and the other buttons make a cell current without a click on it.
-void Grid::mouseReleaseEvent(QMouseEvent* event) {
-    QTableView::mouseReleaseEvent(event);
+// A drag and the other buttons make a cell current without a click on it; a menu that opens with
+// the press takes the release away.
+void Grid::TellOfMove() {
     const QModelIndex now = currentIndex();
     if (!told_ && now.isValid() && now != currentBeforePress_) TellOfCell(now);
+}
+
+void Grid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    TellOfMove();
 }
 
 // Qt would make the first cell current, which takes a row out of its parking place.

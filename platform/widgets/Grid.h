@@ -4,15 +4,21 @@
 #include <QColor>
 #include <QString>
 #include <QTableView>
+#include <limits>
 #include <vector>
 
 class GridModel;
 
+/// What a cell's number matched in a check.
+enum class Match { None, Main, Extra };
+
 /// The table of texts that the forms share.
 ///
 /// Row 0 is the headings; grid row r is row r - 1 of the model, columns are those of the model.
-/// A cell outside the grid is a `Failure`. The grid is light on every desktop, its cells are
-/// centred, and it is as wide as its columns plus a scroll bar and 90 twips.
+/// A cell outside the grid is a `Failure`. Cells are centred, and the grid is as wide as its
+/// columns plus a scroll bar and 90 twips. Colours are those told for a light desktop and stay so
+/// in the model; in a dark window their dark counterparts are painted. Marked rows are framed. The
+/// context menu copies and selects.
 class Grid final : public QTableView {
     Q_OBJECT
   public:
@@ -35,8 +41,29 @@ class Grid final : public QTableView {
     void SetCellBackground(int row, int column, const QColor& colour);
     QColor CellBackground(int row, int column) const;
 
+    /// Whether the cell's number matched, which is told without colours: bold, of a bonus or extra
+    /// ball with a ring, and in the cell's accessible text.
+    void SetCellMatch(int row, int column, Match match);
+    Match CellMatch(int row, int column) const;
+
     /// Empties every cell below the headings.
     void ClearCells();
+
+    /// Paints the rows behind the first `rows` below the headings, and these columns, in the colour
+    /// of the window, as the form has nothing to show there. What their cells hold stays.
+    void SetRowsInUse(int rows);
+    void SetColumnsOutOfUse(const std::vector<int>& columns);
+    bool InUse(int row, int column) const;
+    bool ColumnInUse(int column) const;
+
+    /// Shows which cell is current, for a grid whose cells are edited: a frame, and the heading of
+    /// its column in bold.
+    void ShowEditedCell();
+    bool ShowsEditedCell() const { return showsEditedCell_; }
+
+    /// Whether the grid stands in a dark window, and the colour of what is not in use there.
+    bool IsDark() const { return dark_; }
+    QColor UnusedColour() const;
 
     /// Every column as wide as the text "00000000", the grid as wide as told above.
     void SizeColumns();
@@ -70,6 +97,8 @@ class Grid final : public QTableView {
     void cellClicked(int row, int column);
 
   protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -79,6 +108,9 @@ class Grid final : public QTableView {
     QModelIndex IndexOf(int row, int column) const;
     bool RowIsEmpty(int row) const;
     void SetUpView();
+    void BuildMenu();
+    void TakeWindowColours();
+    void TellOfMove();
     int LastShownColumn() const;
     void FitWidth();
     void TellOfCell(const QModelIndex& index);
@@ -86,6 +118,10 @@ class Grid final : public QTableView {
 
     GridModel* model_;
     int parkingRow_ = 0;
+    int rowsInUse_ = std::numeric_limits<int>::max();
+    std::vector<int> columnsOutOfUse_;
+    bool showsEditedCell_ = false;
+    bool dark_ = false;
     QPersistentModelIndex currentBeforePress_;
     bool told_ = false;  // whether the press that is on its way was told as a click
 };

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/failure.h"
+#include "platform/widgets/Grid.h"
 
 /// The texts and colours of a grid, headings included. Changes are told to the view together, once
 /// the handler that makes them is done, so that filling thousands of rows costs one repaint.
@@ -50,6 +51,13 @@ class GridModel final : public QAbstractTableModel {
     void SetBackground(int row, int column, const QColor& colour) {
         SetShade(&Cell::background, row, column, colour);
     }
+    Match MatchOf(int row, int column) const { return At(row, column).match; }
+    void SetMatch(int row, int column, Match match) {
+        Cell& cell = At(row, column);
+        if (cell.match == match) return;
+        cell.match = match;
+        Changed(row, column, row, column);
+    }
     void Clear() {
         const auto body = cells_.begin() + std::min<std::ptrdiff_t>(columns_, std::ssize(cells_));
         std::fill(body, cells_.end(), Cell());
@@ -67,6 +75,7 @@ class GridModel final : public QAbstractTableModel {
         QString text;
         QRgb colour = 0;  // 0: the grid's own colour, here and below
         QRgb background = 0;
+        Match match = Match::None;
     };
 
     static QColor AsColour(QRgb value) { return value == 0 ? QColor() : QColor::fromRgb(value); }
@@ -104,11 +113,20 @@ class GridModel final : public QAbstractTableModel {
                 return AsRole(cell.colour);
             case Qt::BackgroundRole:
                 return AsRole(cell.background);
+            case Qt::AccessibleTextRole:
+                return SpokenText(cell);
             case Qt::TextAlignmentRole:
                 return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
             default:
                 return {};
         }
+    }
+
+    static QString SpokenText(const Cell& cell) {
+        if (cell.match == Match::Main) return tr("%1, matched").arg(cell.text);
+        if (cell.match == Match::Extra)
+            return tr("%1, matched the bonus or extra ball").arg(cell.text);
+        return cell.text;
     }
 
     void Changed(int top, int left, int bottom, int right) {

@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QStyle>
+#include <cmath>
 
 #include "core/failure.h"
 #include "tests/support/form_test.h"
@@ -103,8 +105,7 @@ TEST_F(AGrid, HasColumnsOfEqualWidthThatHoldEightZeros) {
     const int zeros = grid.fontMetrics().horizontalAdvance(QStringLiteral("00000000"));
     for (int column = 0; column < 3; ++column) {
         EXPECT_EQ(grid.columnWidth(column), grid.columnWidth(0));
-        EXPECT_GE(grid.columnWidth(column), zeros);
-        EXPECT_LE(grid.columnWidth(column), zeros + 12);
+        EXPECT_EQ(grid.columnWidth(column), zeros);
         EXPECT_EQ(grid.horizontalHeader()->sectionResizeMode(column), QHeaderView::Fixed);
     }
 }
@@ -125,14 +126,178 @@ TEST_F(AGrid, FollowsTheWidthsToldByColumnAndHidesColumnsOfNone) {
     EXPECT_EQ(grid.width(), 120 + scrollBar + 6 + 2 * grid.frameWidth());
 }
 
-TEST_F(AGrid, StaysLightOnADarkDesktop) {
-    QWidget desktop;
-    desktop.setPalette(QPalette(Qt::black));
-    Grid child(3, 2, &desktop);
-    EXPECT_EQ(child.palette().color(QPalette::Base), QColor(Qt::white));
-    EXPECT_LT(child.palette().color(QPalette::Text).lightness(), 60);
-    EXPECT_LT(child.horizontalHeader()->palette().color(QPalette::ButtonText).lightness(), 60);
-    EXPECT_GT(child.horizontalHeader()->palette().color(QPalette::Button).lightness(), 200);
+/// How much lighter one colour is than another, from 1 to 21; text is read well from 4.5 on.
+double Contrast(const QColor& first, const QColor& second) {
+    const auto luminance = [](const QColor& colour) {
+        const auto part = [](double value) {
+            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
+               0.0722 * part(colour.blueF());
+    };
+    const auto [low, high] = std::minmax({luminance(first), luminance(second)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+struct AGridInAWindow : testing::Test {
+    void Show(const QColor& background) {
+        window.setPalette(QPalette(background));
+        window.resize(400, 300);
+        grid.resize(grid.width(), 200);
+        window.show();
+    }
+
+    QColor Pixel(int row, int column, QPoint from) {
+        const QImage picture = grid.viewport()->grab().toImage();
+        return picture.pixelColor(grid.visualRect(grid.model()->index(row - 1, column)).topLeft() +
+                                  from);
+    }
+
+    /// The colour furthest from the background in a cell: that of its text.
+    QColor Ink(int row, int column) {
+        const QImage picture = grid.viewport()->grab().toImage();
+        const QRect cell = grid.visualRect(grid.model()->index(row - 1, column));
+        const QColor background = picture.pixelColor(cell.topLeft() + QPoint(3, 3));
+        QColor ink = background;
+        for (int x = cell.left() + 3; x < cell.right() - 3; ++x) {
+            for (int y = cell.top() + 3; y < cell.bottom() - 3; ++y) {
+                const QColor pixel = picture.pixelColor(x, y);
+                if (Contrast(pixel, background) > Contrast(ink, background)) ink = pixel;
+            }
+        }
+        return ink;
+    }
+
+    QWidget window;
+    Grid grid{6, 3, &window};
+};
+
+TEST_F(AGridInAWindow, IsLightInALightOne) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    EXPECT_FALSE(grid.IsDark());
+    EXPECT_EQ(grid.palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_LT(grid.horizontalHeader()->palette().color(QPalette::ButtonText).lightness(), 60);
+}
+
+TEST_F(AGridInAWindow, IsDarkInADarkOneAndFollowsIt) {
+    Show(QColor(0x20, 0x20, 0x20));
+    EXPECT_TRUE(grid.IsDark());
+    EXPECT_LT(grid.palette().color(QPalette::Base).lightness(), 60);
+    EXPECT_GT(grid.horizontalHeader()->palette().color(QPalette::ButtonText).lightness(), 200);
+    window.setPalette(QPalette(QColor(0xf0, 0xf0, 0xf0)));
+    EXPECT_FALSE(grid.IsDark());
+}
+
+TEST_F(AGridInAWindow, PaintsDarkCounterpartsOfColoursThatStayInTheModel) {
+    grid.SetCell(1, 2, QStringLiteral("WWW"));
+    grid.SetCellColour(1, 2, QColor(0xa0, 0, 0));
+    Show(QColor(0x20, 0x20, 0x20));
+    EXPECT_EQ(grid.CellColour(1, 2), QColor(0xa0, 0, 0));
+    const QColor ink = Ink(1, 2);
+    EXPECT_GT(ink.red(), ink.blue() + 40);
+    EXPECT_GE(Contrast(ink, Pixel(1, 2, {3, 3})), 4.5);
+}
+
+TEST_F(AGridInAWindow, PaintsDarkTextOnTheColoursOfMatches) {
+    grid.SetCell(1, 1, QStringLiteral("WWW"));
+    grid.SetCellBackground(1, 1, QColor(255, 255, 0));
+    Show(QColor(0x20, 0x20, 0x20));
+    EXPECT_EQ(Pixel(1, 1, {3, 3}), QColor(255, 255, 0));
+    EXPECT_GE(Contrast(Ink(1, 1), QColor(255, 255, 0)), 4.5);
+}
+
+TEST_F(AGridInAWindow, PaintsNoWhiteCellInADarkOne) {
+    grid.SetCellBackground(1, 1, Qt::white);
+    Show(QColor(0x20, 0x20, 0x20));
+    EXPECT_LT(Pixel(1, 1, {3, 3}).lightness(), 60);
+    EXPECT_EQ(grid.CellBackground(1, 1), QColor(Qt::white));
+}
+
+TEST_F(AGridInAWindow, PaintsWhatIsNotInUseInTheColourOfTheWindow) {
+    const QColor behind(0xe0, 0xf0, 0xe0);
+    grid.SetColumnsOutOfUse({1});
+    grid.SetRowsInUse(2);
+    Show(behind);
+    EXPECT_EQ(Pixel(2, 0, {3, 3}), QColor(Qt::white));
+    EXPECT_EQ(Pixel(2, 1, {3, 3}), behind);
+    EXPECT_EQ(Pixel(3, 0, {3, 3}), behind);
+    EXPECT_FALSE(grid.model()->index(2, 0).data(Qt::BackgroundRole).isValid());
+}
+
+TEST_F(AGridInAWindow, DimsTheHeadingOfAColumnOutOfUse) {
+    for (int column = 0; column < 2; ++column) grid.SetCell(0, column, QStringLiteral("WWW"));
+    grid.SetColumnsOutOfUse({1});
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    const QImage header = grid.horizontalHeader()->grab().toImage();
+    const auto darkest = [&](int column) {
+        int shade = 255;
+        const int left = grid.columnViewportPosition(column);
+        for (int x = left + 4; x < left + grid.columnWidth(column) - 4; ++x) {
+            for (int y = 3; y < header.height() - 3; ++y) {
+                shade = std::min(shade, qGray(header.pixel(x, y)));
+            }
+        }
+        return shade;
+    };
+    EXPECT_LT(darkest(0), 70);
+    EXPECT_GT(darkest(1), 100);
+    EXPECT_LT(darkest(1), 200);
+}
+
+TEST_F(AGridInAWindow, FramesTheCellBeingEditedWhereAsked) {
+    grid.SetCurrentCell(2, 1);
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    EXPECT_EQ(Pixel(2, 1, {1, 9}), QColor(Qt::white));
+    grid.ShowEditedCell();
+    EXPECT_EQ(Pixel(2, 1, {0, 9}), grid.palette().color(QPalette::Text));
+    EXPECT_EQ(Pixel(2, 1, {1, 9}), grid.palette().color(QPalette::Text));
+    EXPECT_EQ(Pixel(2, 0, {1, 9}), QColor(Qt::white));
+}
+
+TEST_F(AGridInAWindow, FramesAMarkedRowAsOne) {
+    grid.MarkRow(2);
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    const QColor line = grid.palette().color(QPalette::Text);
+    EXPECT_EQ(Pixel(2, 0, {1, 9}), line);
+    EXPECT_EQ(Pixel(2, 1, {9, 1}), line);
+    EXPECT_NE(Pixel(2, 1, {1, 9}), line) << "between two cells of the row";
+    EXPECT_GE(Contrast(line, QColor(Qt::white)), 4.5);
+}
+
+TEST_F(AGrid, TellsAMatchWithoutColours) {
+    grid.SetCell(2, 1, QStringLiteral("7"));
+    grid.SetCell(2, 2, QStringLiteral("9"));
+    grid.SetCellMatch(2, 1, Match::Main);
+    grid.SetCellMatch(2, 2, Match::Extra);
+    const auto spoken = [this](int column) {
+        return grid.model()->index(1, column).data(Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(spoken(1), QStringLiteral("7, matched"));
+    EXPECT_EQ(spoken(2), QStringLiteral("9, matched the bonus or extra ball"));
+    EXPECT_EQ(grid.Cell(2, 1), QStringLiteral("7"));
+    grid.SetCellMatch(2, 1, Match::None);
+    EXPECT_EQ(spoken(1), QStringLiteral("7"));
+}
+
+TEST_F(AGrid, PaintsAMatchBoldAndThatOfTheExtraBallWithARing) {
+    const auto inked = [this] {
+        const QImage picture = grid.viewport()->grab().toImage();
+        const QRect cell = grid.visualRect(grid.model()->index(1, 1));
+        int dark = 0;
+        for (int x = cell.left(); x <= cell.right(); ++x) {
+            for (int y = cell.top(); y <= cell.bottom(); ++y) {
+                if (qGray(picture.pixel(x, y)) < 128) ++dark;
+            }
+        }
+        return dark;
+    };
+    grid.SetCell(2, 1, QStringLiteral("48"));
+    const int plain = inked();
+    grid.SetCellMatch(2, 1, Match::Main);
+    const int bold = inked();
+    grid.SetCellMatch(2, 1, Match::Extra);
+    EXPECT_GT(bold, plain);
+    EXPECT_GT(inked(), bold + 10);
 }
 
 TEST_F(AGrid, CannotBeTypedInto) {
@@ -229,6 +394,29 @@ TEST_F(AGrid, TellsOfACellThatAnotherButtonMakesCurrent) {
     ASSERT_EQ(clicks.count(), 1);
     EXPECT_EQ(clicks[0][0].toInt(), grid.CurrentRow());
     EXPECT_EQ(grid.CurrentRow(), 3);
+}
+
+TEST_F(AGrid, TellsOfACellBeforeAMenuOpensOnIt) {
+    grid.SetCurrentCell(1, 0);
+    QTest::mousePress(grid.viewport(), Qt::RightButton, Qt::NoModifier, Place(3, 1));
+    EXPECT_EQ(clicks.count(), 1);
+    QTest::mouseRelease(grid.viewport(), Qt::RightButton, Qt::NoModifier, Place(3, 1));
+    EXPECT_EQ(clicks.count(), 1);
+}
+
+TEST_F(AGrid, HasAMenuThatCopiesAndSelects) {
+    grid.SetCell(0, 0, QStringLiteral("Date"));
+    grid.SetCell(5, 0, QStringLiteral("a"));
+    ASSERT_EQ(grid.contextMenuPolicy(), Qt::ActionsContextMenu);
+    const QList<QAction*> actions = grid.actions();
+    ASSERT_EQ(actions.size(), 2);
+    EXPECT_EQ(actions[0]->text(), QStringLiteral("Copy"));
+    EXPECT_EQ(actions[1]->text(), QStringLiteral("Select all"));
+    for (const QAction* action : actions) EXPECT_FALSE(action->shortcut().isEmpty());
+    actions[1]->trigger();
+    actions[0]->trigger();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QStringLiteral("Date\t\t\n")));
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(QStringLiteral("a\t\t\n")));
 }
 
 TEST_F(AGrid, TellsNothingOfAnotherButtonOnTheCurrentCell) {
