@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "databases/FormParts.h"
+#include "databases/DrawBoxes.h"
 #include "platform/forms/Form.h"
 
 class DatePicker;

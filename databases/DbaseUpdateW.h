@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "databases/FormParts.h"
+#include "databases/DrawBoxes.h"
 #include "platform/forms/Form.h"
 
 class DatePicker;

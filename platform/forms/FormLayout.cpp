@@ -13,6 +13,17 @@ QVBoxLayout* MakeFormLayout(QWidget* form) {
     return layout;
 }
 
+void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body,
+                QLayout* actions) {
+    QVBoxLayout* layout = MakeFormLayout(form);
+    layout->addWidget(title);
+    layout->addWidget(explanation);
+    layout->addSpacing(8);
+    layout->addLayout(body, 1);
+    layout->addSpacing(8);
+    layout->addLayout(actions);
+}
+
 QHBoxLayout* BuildActionRow(std::initializer_list<QWidget*> commands,
                             std::initializer_list<QWidget*> atRight) {
     auto* row = new QHBoxLayout;

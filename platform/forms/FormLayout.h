@@ -9,11 +9,15 @@
 
 class Grid;
 class QHBoxLayout;
+class QLayout;
 class QVBoxLayout;
 class QWidget;
 
 /// The form's layout from top to bottom, with the margins and spaces of every form.
 QVBoxLayout* MakeFormLayout(QWidget* form);
+
+/// Lays the form out: title and explanation, below them the `body`, at the bottom the `actions`.
+void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body, QLayout* actions);
 
 /// The row of buttons at the bottom: `commands` from the left, at the right those behind them, the
 /// closing one last.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the forms of the draw databases have in common.
+// The boxes that a draw is typed into.
 #pragma once
 
 #include <array>
@@ -8,7 +8,6 @@
 class NumberBox;
 class QLabel;
 class QLayout;
-class QWidget;
 
 /// The boxes of one draw: seven main numbers, then the bonus or extra ball. Indices from 0.
 using DrawBoxes = std::array<NumberBox*, 8>;
@@ -24,6 +23,3 @@ bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most);
 
 /// What stands in the boxes, hidden ones too, as the files hold it.
 std::array<std::string, 8> TextsOf(const DrawBoxes& boxes);
-
-/// Lays the form out: title and explanation, below them the `body`, at the bottom the `actions`.
-void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body, QLayout* actions);

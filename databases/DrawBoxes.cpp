@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "databases/FormParts.h"
+#include "databases/DrawBoxes.h"
 
 #include <QCoreApplication>
 #include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "platform/forms/FormLayout.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/NumberBox.h"
 #include "platform/widgets/Widgets.h"
@@ -15,7 +14,7 @@ namespace {
 
 constexpr int boxWidth = 52;
 
-QString tr(const char* text) { return QCoreApplication::translate("FormParts", text); }
+QString tr(const char* text) { return QCoreApplication::translate("DrawBoxes", text); }
 
 }  // namespace
 
@@ -63,15 +62,4 @@ std::array<std::string, 8> TextsOf(const DrawBoxes& boxes) {
     std::transform(boxes.begin(), boxes.end(), texts.begin(),
                    [](const NumberBox* box) { return FromQString(box->text()); });
     return texts;
-}
-
-void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body,
-                QLayout* actions) {
-    QVBoxLayout* layout = MakeFormLayout(form);
-    layout->addWidget(title);
-    layout->addWidget(explanation);
-    layout->addSpacing(8);
-    layout->addLayout(body, 1);
-    layout->addSpacing(8);
-    layout->addLayout(actions);
 }
