@@ -11,24 +11,24 @@
 #include "platform/widgets/Widgets.h"
 
 DatabaseListForm::DatabaseListForm(Program& program, const QString& name, const QString& caption,
-                                   QPushButton* command2, const QString& closeCaption,
-                                   QWidget* parent)
-    : Form(program, name, caption, parent), list1_(Named(new ListBox, QStringLiteral("List1"))) {
-    auto* label3 = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
-    Titled(label3, list1_);
-    command2->setDefault(true);
-    auto* command1 = MakeButton(QStringLiteral("Command1"), closeCaption);
-    SetCloseButton(command1);
+                                   QPushButton* act, const QString& closeCaption, QWidget* parent)
+    : Form(program, name, caption, parent),
+      lotteries_(Named(new ListBox, QStringLiteral("List1"))) {
+    auto* title = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
+    Titled(title, lotteries_);
+    act->setDefault(true);
+    auto* close = MakeButton(QStringLiteral("Command1"), closeCaption);
+    SetCloseButton(close);
 
     QVBoxLayout* layout = MakeFormLayout(this);
-    layout->addWidget(label3);
-    layout->addWidget(list1_, 1);
-    layout->addLayout(BuildActionRow({command2}, {command1}));
-    resize(360, 320);
+    layout->addWidget(title);
+    layout->addWidget(lotteries_, 1);
+    layout->addLayout(BuildActionRow({act}, {close}));
+    SetOpeningSize({360, 320});
 
-    connect(list1_, &ListBox::doubleClicked, this, [this] { Command2_Click(); });
-    connect(command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    connect(command1, &QPushButton::clicked, this, [this] { Unload(); });
+    connect(lotteries_, &ListBox::doubleClicked, this, [this] { Act(); });
+    connect(act, &QPushButton::clicked, this, [this] { Act(); });
+    connect(close, &QPushButton::clicked, this, [this] { Unload(); });
 }
 
-void DatabaseListForm::Load() { ListDatabases(program(), *list1_); }
+void DatabaseListForm::Load() { ListDatabases(program(), *lotteries_); }

@@ -14,14 +14,16 @@ class DatabaseListForm : public Form {
     void Load() override;
 
   protected:
-    /// `command2` is the button that acts, `closeCaption` the words of the one that closes.
+    /// `act` is the button that does it, `closeCaption` the words of the one that closes.
     DatabaseListForm(Program& program, const QString& name, const QString& caption,
-                     QPushButton* command2, const QString& closeCaption, QWidget* parent);
+                     QPushButton* act, const QString& closeCaption, QWidget* parent);
 
-    virtual void Command2_Click() = 0;
+    /// Does it with the chosen lottery; there may be none.
+    virtual void Act() = 0;
 
-    ListBox& List1() { return *list1_; }
+    /// The lotteries, in the order of `state().DbaseFiles`.
+    ListBox& Lotteries() { return *lotteries_; }
 
   private:
-    ListBox* list1_;
+    ListBox* lotteries_;
 };

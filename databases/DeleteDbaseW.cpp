@@ -14,15 +14,15 @@ DeleteDbaseW::DeleteDbaseW(Program& program, QWidget* parent)
                                       tr(" Delete database ")),
                        tr(" Close "), parent) {}
 
-void DeleteDbaseW::Command2_Click() {
-    if (List1().Index() < 0) return;
+void DeleteDbaseW::Act() {
+    if (Lotteries().Index() < 0) return;
     const Answer answer =
         services().messages.Show(this, {.title = tr("Delete database"),
                                         .text = tr("  Are you sure?    ") % ToQString(state().Crlf),
                                         .sign = Sign::Question,
                                         .buttons = Buttons::YesNo});
     if (answer == Answer::No) return;
-    state().DbaseFile = state().DbaseFiles(List1().Index());
+    state().DbaseFile = state().DbaseFiles(Lotteries().Index());
     folder().Delete(state().DbaseFile);
     Unload();
 }

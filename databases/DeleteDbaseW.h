@@ -10,5 +10,5 @@ class DeleteDbaseW final : public DatabaseListForm {
     DeleteDbaseW(Program& program, QWidget* parent);
 
   protected:
-    void Command2_Click() override;
+    void Act() override;
 };

@@ -12,8 +12,8 @@ OpenDbase::OpenDbase(Program& program, QWidget* parent)
                        MakeButton(QStringLiteral("Command2"), tr(" Open database ")),
                        tr(" Cancel "), parent) {}
 
-void OpenDbase::Command2_Click() {
-    state().DbaseFile = state().DbaseFiles(List1().Index());
+void OpenDbase::Act() {
+    state().DbaseFile = state().DbaseFiles(Lotteries().Index());
     services().openPage(ToQString(state().DbaseFile));
     Unload();
 }

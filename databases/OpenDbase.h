@@ -10,5 +10,5 @@ class OpenDbase final : public DatabaseListForm {
     OpenDbase(Program& program, QWidget* parent);
 
   protected:
-    void Command2_Click() override;
+    void Act() override;
 };

@@ -12,6 +12,10 @@
 
 namespace {
 
+constexpr const char* openButton = "Command2";
+constexpr const char* deleteButton = "Command2";
+constexpr const char* closeButton = "Command1";
+
 const Message areYouSure{.title = QStringLiteral("Delete database"),
                          .text = QStringLiteral("  Are you sure?    \r\n"),
                          .sign = Sign::Question,
@@ -47,8 +51,8 @@ using DeletingADatabase = WholeFiles<DeleteDbaseW>;
 TEST_F(OpeningADatabase, BearsItsWordsAndListsTheLotteriesWithNoneChosen) {
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Open lottery database"));
     EXPECT_EQ(Find<QLabel>(*form_, "Label3")->text(), QStringLiteral("Select a lottery:"));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->text(), QStringLiteral(" Open database "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Cancel "));
+    EXPECT_EQ(Find<QPushButton>(*form_, openButton)->text(), QStringLiteral(" Open database "));
+    EXPECT_EQ(Find<QPushButton>(*form_, closeButton)->text(), QStringLiteral(" Cancel "));
     ASSERT_EQ(Lotteries().count(), 2);
     EXPECT_EQ(Lotteries().item(1)->text(), QStringLiteral("UK Thunderball"));
     EXPECT_EQ(Lotteries().Index(), -1);
@@ -56,7 +60,7 @@ TEST_F(OpeningADatabase, BearsItsWordsAndListsTheLotteriesWithNoneChosen) {
 
 TEST_F(OpeningADatabase, OpensTheFileInTheEditorAndCloses) {
     Lotteries().SetIndex(1);
-    Click(*form_, "Command2");
+    Click(*form_, openButton);
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("dbase101.txt")});
     EXPECT_EQ(test_.state.DbaseFile, "dbase101.txt");
     EXPECT_FALSE(form_->isVisible());
@@ -77,19 +81,19 @@ TEST_F(OpeningADatabase, EnterOpens) {
 TEST_F(OpeningADatabase, LeavesTheDrawsInMemory) {
     test_.state.Draws(1, 1) = 33;
     Lotteries().SetIndex(0);
-    Click(*form_, "Command2");
+    Click(*form_, openButton);
     EXPECT_EQ(test_.state.Draws(1, 1), 33);
 }
 
 TEST_F(OpeningADatabase, WithoutASelectionEndsTheRun) {
-    Click(*form_, "Command2");
+    Click(*form_, openButton);
     EXPECT_TRUE(TakeFailure());
     EXPECT_TRUE(test_.pages.empty());
 }
 
 TEST_F(OpeningADatabase, CancelOpensNothing) {
     Lotteries().SetIndex(0);
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_TRUE(test_.pages.empty());
     EXPECT_EQ(test_.state.DbaseFile, "before.txt");
@@ -98,15 +102,15 @@ TEST_F(OpeningADatabase, CancelOpensNothing) {
 TEST_F(DeletingADatabase, BearsItsWordsAndListsTheLotteriesWithNoneChosen) {
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Delete lottery database"));
     EXPECT_EQ(Find<QLabel>(*form_, "Label3")->text(), QStringLiteral("Select a lottery:"));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->toolTip(),
+    EXPECT_EQ(Find<QPushButton>(*form_, deleteButton)->toolTip(),
               QStringLiteral(" Delete database "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Close "));
+    EXPECT_EQ(Find<QPushButton>(*form_, closeButton)->text(), QStringLiteral(" Close "));
     EXPECT_EQ(Lotteries().count(), 2);
     EXPECT_EQ(Lotteries().Index(), -1);
 }
 
 TEST_F(DeletingADatabase, WithoutASelectionDoesNothing) {
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(test_.messages.Shown(), 0);
 }
@@ -114,7 +118,7 @@ TEST_F(DeletingADatabase, WithoutASelectionDoesNothing) {
 TEST_F(DeletingADatabase, DeletesTheFileAfterAQuestionAndCloses) {
     Lotteries().SetIndex(1);
     test_.messages.Expect(areYouSure, Answer::Yes);
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     EXPECT_FALSE(test_.folder.Exists("dbase101.txt"));
     EXPECT_TRUE(test_.folder.Exists("dbase100.txt"));
     EXPECT_EQ(test_.state.DbaseFile, "dbase101.txt");
@@ -124,7 +128,7 @@ TEST_F(DeletingADatabase, DeletesTheFileAfterAQuestionAndCloses) {
 TEST_F(DeletingADatabase, KeepsTheFileOnNo) {
     Lotteries().SetIndex(1);
     test_.messages.Expect(areYouSure, Answer::No);
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     EXPECT_TRUE(test_.folder.Exists("dbase101.txt"));
     EXPECT_EQ(test_.state.DbaseFile, "before.txt");
     EXPECT_TRUE(form_->isVisible());
@@ -149,7 +153,7 @@ TEST_F(DeletingADatabase, AFileThatCannotBeDeletedEndsTheRunAndStays) {
     const auto before = test_.folder.Snapshot();
     test_.folder.Lock("dbase100.txt");
     test_.messages.Expect(areYouSure, Answer::Yes);
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("dbase100.txt"), std::string::npos);
@@ -159,7 +163,7 @@ TEST_F(DeletingADatabase, AFileThatCannotBeDeletedEndsTheRunAndStays) {
 TEST_F(DeletingADatabase, CloseDeletesNothing) {
     const auto before = test_.folder.Snapshot();
     Lotteries().SetIndex(0);
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
