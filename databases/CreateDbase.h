@@ -8,11 +8,12 @@
 
 class DatePicker;
 class ListBox;
+class QGridLayout;
 class QLayout;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 class QScrollBar;
+struct NewLottery;
 
 /// Defines a lottery, by hand or from a ready-made template, and writes a new draw database with it
 /// and a first draw.
@@ -24,40 +25,42 @@ class CreateDbase final : public Form {
     void Load() override;
 
   private:
-    void MakeTexts();
-    void MakeLists();
-    void MakeRules();
-    void MakeDraw();
-    void MakeActions();
-    QLayout* BuildLists();
-    QLayout* BuildLottery();
-    QLayout* BuildRules();
-    QLayout* BuildDraw();
-    void Connect();
+    /// A number of the rules: the bar that chooses it and the label that shows it.
+    struct Rule {
+        QScrollBar* bar;
+        QLabel* shown;
+    };
 
-    void List1_Click();
-    void HScroll1_Change();
-    void HScroll2_Change();
-    void HScroll3_Change();
-    void Option1_Click(int index);
-    void Command1_Click();
-    void Command2_Click();
-    void CancelButton_Click();
+    QLayout* MakeLists();
+    QLayout* MakeLottery();
+    QLayout* MakeNames();
+    QLayout* MakeTypes();
+    QLayout* MakeRules();
+    void AddRule(QGridLayout& rules, int row, QLabel* title, const Rule& rule);
+    QLayout* MakeFirstDraw();
+    QLayout* MakeActions();
 
-    void ShowNumberCount();
+    void ChooseTemplate();
+    void ShowRule(const Rule& rule);
+    void OfferBoxes();
+    void OfferExtraBall(bool extraBall);
+    void Save();
+    void AskAndClose();
 
-    std::array<QLabel*, 19> label_{};  // by the number in the name; some numbers have no label
-    ListBox* list1_;
-    ListBox* list2_;
-    QLineEdit* text2_;
-    QLineEdit* text3_;
-    DrawBoxes text1_;
-    QScrollBar* hScroll1_;
-    QScrollBar* hScroll2_;
-    QScrollBar* hScroll3_;
-    std::array<QRadioButton*, 2> option1_;
-    DatePicker* dtPicker1_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* cancelButton_;
+    NewLottery EnteredLottery() const;
+
+    ListBox* templates_;
+    ListBox* databases_;
+    QLineEdit* name_;
+    QLineEdit* address_;
+    QRadioButton* standardType_;
+    QRadioButton* powerballType_;
+    Rule picks_;
+    Rule highest_;
+    Rule highestExtra_;
+    std::array<QWidget*, 3> extraBallRow_;
+    DatePicker* date_;
+    QLabel* drawTitle_;
+    QLabel* lastBoxTitle_;
+    DrawBoxes boxes_;
 };

@@ -19,8 +19,9 @@ namespace {
 
 constexpr int barWidth = 240;
 
-QScrollBar* MakeBar(const QString& name, int least, int most, int value) {
+QScrollBar* MakeBar(const QString& name, const QString& meaning, int least, int most, int value) {
     auto* bar = Named(new QScrollBar(Qt::Horizontal), name);
+    bar->setAccessibleName(meaning);
     bar->setRange(least, most);
     bar->setValue(value);
     bar->setPageStep(5);
@@ -29,176 +30,164 @@ QScrollBar* MakeBar(const QString& name, int least, int most, int value) {
     return bar;
 }
 
+QLabel* MakeValueLabel(const QString& name, const QString& value) {
+    QLabel* label = MakeLabel(name, value);
+    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
+    return label;
+}
+
 }  // namespace
 
 CreateDbase::CreateDbase(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("CreateDbase"), tr("Create Lottery Database"), parent) {
-    MakeTexts();
-    MakeLists();
-    MakeRules();
-    MakeDraw();
-    MakeActions();
+    auto* title = MakeTitle(QStringLiteral("Label17"), tr("Create lottery database"));
+    auto* explanation = MakeBody(
+        QStringLiteral("Label16"),
+        tr("Create a database to store lottery draw results, then you can analyse the data for "
+           "trends. You must enter one draw result to start off the database."));
     auto* columns = new QHBoxLayout;
-    columns->addLayout(BuildLists(), 2);
+    columns->addLayout(MakeLists(), 2);
     columns->addSpacing(24);
-    columns->addLayout(BuildLottery(), 3);
-    LayOutForm(this, label_[17], label_[16], columns, BuildActionRow({command1_}, {cancelButton_}));
+    columns->addLayout(MakeLottery(), 3);
+    LayOutForm(this, title, explanation, columns, MakeActions());
     TabInReadingOrder();
-    Connect();
-    SetCloseButton(cancelButton_);
-    resize(900, 640);
+    SetOpeningSize({900, 640});
 }
 
-void CreateDbase::MakeTexts() {
-    const auto label = [this](std::size_t number, const QString& text) {
-        const QString name = QStringLiteral("Label%1").arg(number);
-        label_.at(number) = MakeLabel(name, text);
-    };
-    label_[17] = MakeTitle(QStringLiteral("Label17"), tr("Create lottery database"));
-    label_[16] = MakeBody(QStringLiteral("Label16"),
-                          tr("Create a database to store lottery draw results, then you can "
-                             "analyse the data for trends. You must enter one draw result to start "
-                             "off the database."));
-    label_[18] = MakeBody(QStringLiteral("Label18"),
-                          tr("Pick a template or use the controls to define the type of "
-                             "lottery..."));
-    label_[13] = MakeBody(QStringLiteral("Label13"),
-                          tr("Enter a lottery draw result to start off the database..."));
-    label(1, tr("Lottery name:"));
-    label(2, QStringLiteral("6"));
-    label(3, tr("Lottery templates:"));
-    label(4, tr("Web site:"));
-    label(5, tr("Select draw date:"));
-    label(6, QStringLiteral("49"));
-    label(7, tr("Enter draw result:"));
-    label(8, QStringLiteral("14"));
-    label(9, tr("Pick:"));
-    label(10, tr("From:"));
-    label(11, tr("Pick 1 from:"));
-    label(12, tr("Bonus"));
-    label(15, tr("Existing lottery databases:"));
-}
+QLayout* CreateDbase::MakeLists() {
+    auto* templatesTitle = MakeLabel(QStringLiteral("Label3"), tr("Lottery templates:"));
+    templates_ = Titled(templatesTitle, Named(new ListBox, QStringLiteral("List1")));
+    auto* databasesTitle = MakeLabel(QStringLiteral("Label15"), tr("Existing lottery databases:"));
+    databases_ = Titled(databasesTitle, Named(new ListBox, QStringLiteral("List2")));
+    connect(templates_, &ListBox::clicked, this, [this] { ChooseTemplate(); });
 
-void CreateDbase::MakeLists() {
-    list1_ = Titled(label_[3], Named(new ListBox, QStringLiteral("List1")));
-    list2_ = Titled(label_[15], Named(new ListBox, QStringLiteral("List2")));
-    text3_ = Titled(label_[1], Named(new QLineEdit, QStringLiteral("Text3")));
-    text2_ =
-        Titled(label_[4], Named(new QLineEdit(QStringLiteral("http://")), QStringLiteral("Text2")));
-}
-
-void CreateDbase::MakeRules() {
-    option1_[0] = Named(new QRadioButton(tr("Standard lottery - pick x from y")),
-                        Member(QStringLiteral("Option1"), 0));
-    option1_[0]->setToolTip(tr(" Eg. pick 6 from 49 "));
-    option1_[0]->setChecked(true);
-    option1_[1] =
-        Named(new QRadioButton(tr("Powerball type - pick x from y, plus one extra from z")),
-              Member(QStringLiteral("Option1"), 1));
-    option1_[1]->setToolTip(tr(" Eg. pick 5 from 34, then 1 from 14 "));
-    hScroll1_ = MakeBar(QStringLiteral("HScroll1"), 4, 7, 6);
-    hScroll1_->setPageStep(1);
-    hScroll1_->setAccessibleName(tr("Numbers to pick"));
-    hScroll2_ = MakeBar(QStringLiteral("HScroll2"), 10, 60, 49);
-    hScroll2_->setAccessibleName(tr("Highest number"));
-    hScroll3_ = MakeBar(QStringLiteral("HScroll3"), 2, 60, 14);
-    hScroll3_->setAccessibleName(tr("Highest extra ball"));
-    for (QWidget* hidden : std::initializer_list<QWidget*>{label_[8], label_[11], hScroll3_}) {
-        KeepPlaceWhenHidden(hidden);
-        hidden->hide();
-    }
-}
-
-void CreateDbase::MakeDraw() {
-    dtPicker1_ = Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
-                       QStringLiteral("DTPicker1"));
-    Titled(label_[5], dtPicker1_);
-    text1_ = MakeDrawBoxes(0);
-    text1_[6]->hide();
-}
-
-void CreateDbase::MakeActions() {
-    command1_ = MakeButton(QStringLiteral("Command1"), tr(" Save "));
-    command1_->setDefault(true);
-    command2_ = MakeIconButton(QStringLiteral("Command2"), QStringLiteral("internet-web-browser"),
-                               tr(" Start Internet Explorer and go to site "));
-    cancelButton_ = MakeButton(QStringLiteral("CancelButton"), tr(" Cancel "));
-}
-
-QLayout* CreateDbase::BuildLists() {
     auto* column = new QVBoxLayout;
     column->setSpacing(4);
-    column->addWidget(label_[3]);
-    column->addWidget(list1_, 3);
+    column->addWidget(templatesTitle);
+    column->addWidget(templates_, 3);
     column->addSpacing(8);
-    column->addWidget(label_[15]);
-    column->addWidget(list2_, 2);
+    column->addWidget(databasesTitle);
+    column->addWidget(databases_, 2);
     return column;
 }
 
-QLayout* CreateDbase::BuildLottery() {
-    auto* names = new QGridLayout;
-    names->setVerticalSpacing(8);
-    names->addWidget(label_[1], 0, 0);
-    names->addWidget(text3_, 0, 1, 1, 2);
-    names->addWidget(label_[4], 1, 0);
-    names->addWidget(text2_, 1, 1);
-    names->addWidget(command2_, 1, 2);
+QLayout* CreateDbase::MakeLottery() {
     auto* column = new QVBoxLayout;
-    column->addWidget(label_[18]);
+    column->addWidget(
+        MakeBody(QStringLiteral("Label18"),
+                 tr("Pick a template or use the controls to define the type of lottery...")));
     column->addSpacing(4);
-    column->addLayout(names);
+    column->addLayout(MakeNames());
     column->addSpacing(8);
-    column->addWidget(option1_[0]);
-    column->addWidget(option1_[1]);
-    column->addLayout(BuildRules());
+    column->addLayout(MakeTypes());
+    column->addLayout(MakeRules());
     column->addSpacing(16);
-    column->addLayout(BuildDraw());
+    column->addLayout(MakeFirstDraw());
     column->addStretch(1);
     return column;
 }
 
-QLayout* CreateDbase::BuildRules() {
+QLayout* CreateDbase::MakeNames() {
+    auto* nameTitle = MakeLabel(QStringLiteral("Label1"), tr("Lottery name:"));
+    name_ = Titled(nameTitle, Named(new QLineEdit, QStringLiteral("Text3")));
+    auto* addressTitle = MakeLabel(QStringLiteral("Label4"), tr("Web site:"));
+    address_ = Titled(addressTitle,
+                      Named(new QLineEdit(QStringLiteral("http://")), QStringLiteral("Text2")));
+    auto* openWebSite =
+        MakeIconButton(QStringLiteral("Command2"), QStringLiteral("internet-web-browser"),
+                       tr(" Start Internet Explorer and go to site "));
+    connect(openWebSite, &QPushButton::clicked, this,
+            [this] { services().openPage(address_->text()); });
+
+    auto* names = new QGridLayout;
+    names->setVerticalSpacing(8);
+    names->addWidget(nameTitle, 0, 0);
+    names->addWidget(name_, 0, 1, 1, 2);
+    names->addWidget(addressTitle, 1, 0);
+    names->addWidget(address_, 1, 1);
+    names->addWidget(openWebSite, 1, 2);
+    return names;
+}
+
+QLayout* CreateDbase::MakeTypes() {
+    standardType_ = Named(new QRadioButton(tr("Standard lottery - pick x from y")),
+                          Member(QStringLiteral("Option1"), 0));
+    standardType_->setToolTip(tr(" Eg. pick 6 from 49 "));
+    standardType_->setChecked(true);
+    powerballType_ =
+        Named(new QRadioButton(tr("Powerball type - pick x from y, plus one extra from z")),
+              Member(QStringLiteral("Option1"), 1));
+    powerballType_->setToolTip(tr(" Eg. pick 5 from 34, then 1 from 14 "));
+    connect(powerballType_, &QRadioButton::toggled, this, [this](bool on) { OfferExtraBall(on); });
+
+    auto* types = new QVBoxLayout;
+    types->addWidget(standardType_);
+    types->addWidget(powerballType_);
+    return types;
+}
+
+QLayout* CreateDbase::MakeRules() {
+    picks_ = {.bar = MakeBar(QStringLiteral("HScroll1"), tr("Numbers to pick"), 4, 7, 6),
+              .shown = MakeValueLabel(QStringLiteral("Label2"), QStringLiteral("6"))};
+    picks_.bar->setPageStep(1);
+    highest_ = {.bar = MakeBar(QStringLiteral("HScroll2"), tr("Highest number"), 10, 60, 49),
+                .shown = MakeValueLabel(QStringLiteral("Label6"), QStringLiteral("49"))};
+    highestExtra_ = {
+        .bar = MakeBar(QStringLiteral("HScroll3"), tr("Highest extra ball"), 2, 60, 14),
+        .shown = MakeValueLabel(QStringLiteral("Label8"), QStringLiteral("14"))};
+    auto* extraTitle = MakeLabel(QStringLiteral("Label11"), tr("Pick 1 from:"));
+    extraBallRow_ = {extraTitle, highestExtra_.bar, highestExtra_.shown};
+    for (QWidget* control : extraBallRow_) {
+        KeepPlaceWhenHidden(control);
+        control->hide();
+    }
+
     auto* rules = new QGridLayout;
     rules->setVerticalSpacing(8);
-    const auto addRow = [rules](int row, QLabel* title, QScrollBar* bar, QLabel* value) {
-        value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
-        rules->addWidget(title, row, 0);
-        rules->addWidget(bar, row, 1);
-        rules->addWidget(value, row, 2);
-    };
-    addRow(0, label_[9], hScroll1_, label_[2]);
-    addRow(1, label_[10], hScroll2_, label_[6]);
-    addRow(2, label_[11], hScroll3_, label_[8]);
+    AddRule(*rules, 0, MakeLabel(QStringLiteral("Label9"), tr("Pick:")), picks_);
+    AddRule(*rules, 1, MakeLabel(QStringLiteral("Label10"), tr("From:")), highest_);
+    AddRule(*rules, 2, extraTitle, highestExtra_);
     rules->setColumnStretch(3, 1);
+    connect(picks_.bar, &QScrollBar::valueChanged, this, [this] { OfferBoxes(); });
     return rules;
 }
 
-QLayout* CreateDbase::BuildDraw() {
+void CreateDbase::AddRule(QGridLayout& rules, int row, QLabel* title, const Rule& rule) {
+    connect(rule.bar, &QScrollBar::valueChanged, this, [this, rule] { ShowRule(rule); });
+    rules.addWidget(title, row, 0);
+    rules.addWidget(rule.bar, row, 1);
+    rules.addWidget(rule.shown, row, 2);
+}
+
+QLayout* CreateDbase::MakeFirstDraw() {
+    auto* dateTitle = MakeLabel(QStringLiteral("Label5"), tr("Select draw date:"));
+    date_ = Titled(dateTitle,
+                   Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
+                         QStringLiteral("DTPicker1")));
+    drawTitle_ = MakeLabel(QStringLiteral("Label7"), tr("Enter draw result:"));
+    lastBoxTitle_ = MakeLabel(QStringLiteral("Label12"), tr("Bonus"));
+    boxes_ = MakeDrawBoxes(0);
+    boxes_[6]->hide();
+
     auto* date = new QHBoxLayout;
-    date->addWidget(label_[5]);
-    date->addWidget(dtPicker1_);
+    date->addWidget(dateTitle);
+    date->addWidget(date_);
     date->addStretch(1);
     auto* draw = new QVBoxLayout;
-    draw->addWidget(label_[13]);
+    draw->addWidget(MakeBody(QStringLiteral("Label13"),
+                             tr("Enter a lottery draw result to start off the database...")));
     draw->addSpacing(4);
     draw->addLayout(date);
-    draw->addLayout(BuildDrawBoxes(label_[7], label_[12], text1_));
+    draw->addLayout(BuildDrawBoxes(drawTitle_, lastBoxTitle_, boxes_));
     return draw;
 }
 
-void CreateDbase::Connect() {
-    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
-    connect(hScroll1_, &QScrollBar::valueChanged, this, [this] { HScroll1_Change(); });
-    connect(hScroll2_, &QScrollBar::valueChanged, this, [this] { HScroll2_Change(); });
-    connect(hScroll3_, &QScrollBar::valueChanged, this, [this] { HScroll3_Change(); });
-    for (int index : {0, 1}) {
-        connect(option1_[static_cast<std::size_t>(index)], &QRadioButton::toggled, this,
-                [this, index](bool on) {
-                    if (on) Option1_Click(index);
-                });
-    }
-    connect(command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    connect(cancelButton_, &QPushButton::clicked, this, [this] { CancelButton_Click(); });
+QLayout* CreateDbase::MakeActions() {
+    auto* save = MakeButton(QStringLiteral("Command1"), tr(" Save "));
+    save->setDefault(true);
+    auto* cancel = MakeButton(QStringLiteral("CancelButton"), tr(" Cancel "));
+    SetCloseButton(cancel);
+    connect(save, &QPushButton::clicked, this, [this] { Save(); });
+    connect(cancel, &QPushButton::clicked, this, [this] { AskAndClose(); });
+    return BuildActionRow({save}, {cancel});
 }

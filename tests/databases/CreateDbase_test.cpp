@@ -15,6 +15,25 @@
 
 namespace {
 
+constexpr const char* templateList = "List1";
+constexpr const char* databaseList = "List2";
+constexpr const char* nameBox = "Text3";
+constexpr const char* addressBox = "Text2";
+constexpr const char* webSiteButton = "Command2";
+constexpr const char* picksBar = "HScroll1";
+constexpr const char* highestBar = "HScroll2";
+constexpr const char* highestExtraBar = "HScroll3";
+constexpr const char* picksLabel = "Label2";
+constexpr const char* highestLabel = "Label6";
+constexpr const char* highestExtraLabel = "Label8";
+constexpr const char* drawTitle = "Label7";
+constexpr const char* lastBoxTitle = "Label12";
+constexpr const char* datePicker = "DTPicker1";
+constexpr const char* saveButton = "Command1";
+constexpr const char* cancelButton = "CancelButton";
+
+const std::vector<const char*> extraBallRow = {"Label11", highestExtraBar, highestExtraLabel};
+
 const Message incorrectDraw{.title = QStringLiteral("Oops!"),
                             .text = QStringLiteral("Incorrect draw result...    "),
                             .sign = Sign::Exclamation};
@@ -47,7 +66,7 @@ class CreatingADatabase : public testing::Test {
     }
     QLineEdit& Box(int index) { return Line(("Text1(" + std::to_string(index) + ")").c_str()); }
     bool Hidden(const char* name) { return Find<QWidget>(*form_, name)->isHidden(); }
-    void ChooseTemplate(int row) { Find<ListBox>(*form_, "List1")->SetIndex(row); }
+    void ChooseTemplate(int row) { Find<ListBox>(*form_, templateList)->SetIndex(row); }
 
     int VisibleBoxes() {
         int count = 0;
@@ -95,29 +114,29 @@ TEST_F(CreatingADatabase, BearsItsWords) {
     EXPECT_EQ(Type(1).text(),
               QStringLiteral("Powerball type - pick x from y, plus one extra from z"));
     EXPECT_EQ(Type(1).toolTip(), QStringLiteral(" Eg. pick 5 from 34, then 1 from 14 "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(), QStringLiteral(" Save "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->toolTip(),
+    EXPECT_EQ(Find<QPushButton>(*form_, saveButton)->text(), QStringLiteral(" Save "));
+    EXPECT_EQ(Find<QPushButton>(*form_, webSiteButton)->toolTip(),
               QStringLiteral(" Start Internet Explorer and go to site "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "CancelButton")->text(), QStringLiteral(" Cancel "));
+    EXPECT_EQ(Find<QPushButton>(*form_, cancelButton)->text(), QStringLiteral(" Cancel "));
 }
 
 TEST_F(CreatingADatabase, OpensOnSixOfFortyNine) {
     Open();
-    EXPECT_EQ(Text("Label2"), QStringLiteral("6"));
-    EXPECT_EQ(Text("Label6"), QStringLiteral("49"));
-    EXPECT_EQ(Text("Label8"), QStringLiteral("14"));
-    EXPECT_EQ(Bar("HScroll1").minimum(), 4);
-    EXPECT_EQ(Bar("HScroll1").maximum(), 7);
-    EXPECT_EQ(Bar("HScroll2").minimum(), 10);
-    EXPECT_EQ(Bar("HScroll2").maximum(), 60);
-    EXPECT_EQ(Bar("HScroll3").minimum(), 2);
-    EXPECT_EQ(Bar("HScroll3").maximum(), 60);
+    EXPECT_EQ(Text(picksLabel), QStringLiteral("6"));
+    EXPECT_EQ(Text(highestLabel), QStringLiteral("49"));
+    EXPECT_EQ(Text(highestExtraLabel), QStringLiteral("14"));
+    EXPECT_EQ(Bar(picksBar).minimum(), 4);
+    EXPECT_EQ(Bar(picksBar).maximum(), 7);
+    EXPECT_EQ(Bar(highestBar).minimum(), 10);
+    EXPECT_EQ(Bar(highestBar).maximum(), 60);
+    EXPECT_EQ(Bar(highestExtraBar).minimum(), 2);
+    EXPECT_EQ(Bar(highestExtraBar).maximum(), 60);
     EXPECT_TRUE(Type(0).isChecked());
-    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_TRUE(Hidden(name)) << name;
-    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://"));
-    EXPECT_EQ(Line("Text3").text(), QString());
+    for (const char* name : extraBallRow) EXPECT_TRUE(Hidden(name)) << name;
+    EXPECT_EQ(Line(addressBox).text(), QStringLiteral("http://"));
+    EXPECT_EQ(Line(nameBox).text(), QString());
     EXPECT_EQ(VisibleBoxes(), 6);
-    const auto* date = Find<QDateEdit>(*form_, "DTPicker1");
+    const auto* date = Find<QDateEdit>(*form_, datePicker);
     EXPECT_EQ(date->date(), QDate(2005, 6, 1));
     EXPECT_EQ(date->displayFormat(), QStringLiteral("ddd d MMM yyyy"));
 }
@@ -125,49 +144,49 @@ TEST_F(CreatingADatabase, OpensOnSixOfFortyNine) {
 TEST_F(CreatingADatabase, ListsTemplatesAndExistingDatabases) {
     AddUkLotto(test_.folder);
     Open();
-    const auto* templates = Find<ListBox>(*form_, "List1");
+    const auto* templates = Find<ListBox>(*form_, templateList);
     ASSERT_EQ(templates->count(), 3);
     EXPECT_EQ(templates->item(2)->text(), QStringLiteral("UK Daily Play"));
     EXPECT_EQ(templates->Index(), -1);
-    const auto* databases = Find<ListBox>(*form_, "List2");
+    const auto* databases = Find<ListBox>(*form_, databaseList);
     ASSERT_EQ(databases->count(), 1);
     EXPECT_EQ(databases->item(0)->text(), QStringLiteral("UK Lotto"));
 }
 
 TEST_F(CreatingADatabase, MovingABarShowsItsValueAndTheNumberOfNumbers) {
     Open();
-    Bar("HScroll1").setValue(5);
-    EXPECT_EQ(Text("Label2"), QStringLiteral("5"));
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Enter 5 numbers"));
+    Bar(picksBar).setValue(5);
+    EXPECT_EQ(Text(picksLabel), QStringLiteral("5"));
+    EXPECT_EQ(Text(drawTitle), QStringLiteral("Enter 5 numbers"));
     EXPECT_EQ(VisibleBoxes(), 5);
-    Bar("HScroll2").setValue(34);
-    EXPECT_EQ(Text("Label6"), QStringLiteral("34"));
-    Bar("HScroll3").setValue(20);
-    EXPECT_EQ(Text("Label8"), QStringLiteral("20"));
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Enter 5 numbers"));
-    Bar("HScroll1").setValue(7);
+    Bar(highestBar).setValue(34);
+    EXPECT_EQ(Text(highestLabel), QStringLiteral("34"));
+    Bar(highestExtraBar).setValue(20);
+    EXPECT_EQ(Text(highestExtraLabel), QStringLiteral("20"));
+    EXPECT_EQ(Text(drawTitle), QStringLiteral("Enter 5 numbers"));
+    Bar(picksBar).setValue(7);
     EXPECT_EQ(VisibleBoxes(), 7);
 }
 
 TEST_F(CreatingADatabase, EachBarShowsTheNumberOfNumbers) {
     for (const auto& [bar, value] :
-         {std::pair("HScroll1", 5), {"HScroll2", 34}, {"HScroll3", 20}}) {
+         {std::pair(picksBar, 5), {highestBar, 34}, {highestExtraBar, 20}}) {
         Open();
-        EXPECT_EQ(Text("Label7"), QStringLiteral("Enter draw result:"));
+        EXPECT_EQ(Text(drawTitle), QStringLiteral("Enter draw result:"));
         Bar(bar).setValue(value);
-        const int count = std::string(bar) == "HScroll1" ? 5 : 6;
-        EXPECT_EQ(Text("Label7"), QStringLiteral("Enter %1 numbers").arg(count)) << bar;
+        const int count = std::string(bar) == picksBar ? 5 : 6;
+        EXPECT_EQ(Text(drawTitle), QStringLiteral("Enter %1 numbers").arg(count)) << bar;
     }
 }
 
 TEST_F(CreatingADatabase, ThePowerballTypeOffersTheExtraBall) {
     Open();
     Type(1).click();
-    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_FALSE(Hidden(name)) << name;
-    EXPECT_EQ(Text("Label12"), QStringLiteral("Powerball"));
+    for (const char* name : extraBallRow) EXPECT_FALSE(Hidden(name)) << name;
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Powerball"));
     Type(0).click();
-    for (const char* name : {"Label8", "Label11", "HScroll3"}) EXPECT_TRUE(Hidden(name)) << name;
-    EXPECT_EQ(Text("Label12"), QStringLiteral("Bonus"));
+    for (const char* name : extraBallRow) EXPECT_TRUE(Hidden(name)) << name;
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Bonus"));
 }
 
 TEST_F(CreatingADatabase, ATemplateFillsTheControlsAndEmptiesTheBoxes) {
@@ -175,14 +194,14 @@ TEST_F(CreatingADatabase, ATemplateFillsTheControlsAndEmptiesTheBoxes) {
     EnterDraw({1, 2, 3, 4, 5, 6});
     Box(7).setText(QStringLiteral("9"));
     ChooseTemplate(1);
-    EXPECT_EQ(Line("Text3").text(), QStringLiteral("UK Thunderball"));
-    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://two.example"));
-    EXPECT_EQ(Bar("HScroll1").value(), 5);
-    EXPECT_EQ(Bar("HScroll2").value(), 34);
-    EXPECT_EQ(Bar("HScroll3").value(), 14);
-    EXPECT_EQ(Text("Label2"), QStringLiteral("5"));
-    EXPECT_EQ(Text("Label6"), QStringLiteral("34"));
-    EXPECT_EQ(Text("Label8"), QStringLiteral("14"));
+    EXPECT_EQ(Line(nameBox).text(), QStringLiteral("UK Thunderball"));
+    EXPECT_EQ(Line(addressBox).text(), QStringLiteral("http://two.example"));
+    EXPECT_EQ(Bar(picksBar).value(), 5);
+    EXPECT_EQ(Bar(highestBar).value(), 34);
+    EXPECT_EQ(Bar(highestExtraBar).value(), 14);
+    EXPECT_EQ(Text(picksLabel), QStringLiteral("5"));
+    EXPECT_EQ(Text(highestLabel), QStringLiteral("34"));
+    EXPECT_EQ(Text(highestExtraLabel), QStringLiteral("14"));
     EXPECT_TRUE(Type(1).isChecked());
     for (int index = 0; index <= 7; ++index) EXPECT_EQ(Box(index).text(), QString()) << index;
 }
@@ -192,8 +211,8 @@ TEST_F(CreatingADatabase, ATemplateWithoutExtraBallSelectsTheStandardType) {
     Type(1).click();
     ChooseTemplate(2);
     EXPECT_TRUE(Type(0).isChecked());
-    EXPECT_TRUE(Hidden("HScroll3"));
-    EXPECT_EQ(Text("Label12"), QStringLiteral("Bonus"));
+    EXPECT_TRUE(Hidden(highestExtraBar));
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Bonus"));
     EXPECT_EQ(VisibleBoxes(), 7);
 }
 
@@ -202,35 +221,35 @@ TEST_F(CreatingADatabase, ATemplateWithTwoExtraBallsIsOfThePowerballType) {
     Open();
     ChooseTemplate(0);
     EXPECT_TRUE(Type(1).isChecked());
-    EXPECT_EQ(Bar("HScroll3").value(), 2);
+    EXPECT_EQ(Bar(highestExtraBar).value(), 2);
 }
 
 TEST_F(CreatingADatabase, TheLabelsShowTheFieldsOfATemplateAsTheyStand) {
     test_.folder.Write("LotteryTemplates.txt", "Odd,05 of,034,x,14.0,\r\n");
     Open();
     ChooseTemplate(0);
-    EXPECT_EQ(Bar("HScroll1").value(), 5);
-    EXPECT_EQ(Text("Label2"), QStringLiteral("05 of"));
-    EXPECT_EQ(Text("Label6"), QStringLiteral("034"));
-    EXPECT_EQ(Text("Label8"), QStringLiteral("14.0"));
-    EXPECT_EQ(Line("Text2").text(), QString());
+    EXPECT_EQ(Bar(picksBar).value(), 5);
+    EXPECT_EQ(Text(picksLabel), QStringLiteral("05 of"));
+    EXPECT_EQ(Text(highestLabel), QStringLiteral("034"));
+    EXPECT_EQ(Text(highestExtraLabel), QStringLiteral("14.0"));
+    EXPECT_EQ(Line(addressBox).text(), QString());
     EnterDraw({1, 2, 3, 4, 5});
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(), "Odd\r\n\r\n05 of,034,1,14.0,0\r\n01 Jun 05,1,2,3,4,5,,,\r\n");
 }
 
 TEST_F(CreatingADatabase, TheWebAddressOfATemplateMayHoldCommas) {
     Open();
     ChooseTemplate(0);
-    EXPECT_EQ(Line("Text2").text(), QStringLiteral("http://one.example/a,b"));
-    Click(*form_, "Command2");
+    EXPECT_EQ(Line(addressBox).text(), QStringLiteral("http://one.example/a,b"));
+    Click(*form_, webSiteButton);
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("http://one.example/a,b")});
 }
 
 TEST_F(CreatingADatabase, ATemplateBeyondTheBarsEndsTheRun) {
     test_.folder.Write("LotteryTemplates.txt", "One,6,49,0,0,\r\nHuge,6,90,0,0,\r\n");
     Open();
-    auto* templates = Find<ListBox>(*form_, "List1");
+    auto* templates = Find<ListBox>(*form_, templateList);
     QTest::mouseClick(templates->viewport(), Qt::LeftButton, Qt::NoModifier,
                       templates->visualItemRect(templates->item(1)).center());
     const auto failure = TakeFailure();
@@ -249,9 +268,9 @@ TEST_F(CreatingADatabase, BoxesDropEveryKeyButDigitsAndBackspace) {
 
 TEST_F(CreatingADatabase, SavesAStandardLotteryWithoutBonusAndCloses) {
     Open();
-    Line("Text3").setText(QStringLiteral(" My lotto "));
+    Line(nameBox).setText(QStringLiteral(" My lotto "));
     EnterDraw({1, 2, 3, 4, 5, 49});
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(), " My lotto \r\nhttp://\r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,49,,\r\n");
     EXPECT_FALSE(form_->isVisible());
     EXPECT_EQ(test_.messages.Shown(), 0);
@@ -261,8 +280,8 @@ TEST_F(CreatingADatabase, ANumberInTheBonusBoxMakesABonusLottery) {
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});
     Box(7).setText(QStringLiteral("60"));
-    Find<QDateEdit>(*form_, "DTPicker1")->setDate(QDate(1994, 11, 19));
-    Click(*form_, "Command1");
+    Find<QDateEdit>(*form_, datePicker)->setDate(QDate(1994, 11, 19));
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(), "\r\nhttp://\r\n6,49,1,0,1\r\n19 Nov 94,1,2,3,4,5,6,,60\r\n");
 }
 
@@ -270,7 +289,7 @@ TEST_F(CreatingADatabase, AZeroInTheBonusBoxMakesNoBonusLottery) {
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});
     Box(7).setText(QStringLiteral("0"));
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(), "\r\nhttp://\r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,6,,0\r\n");
 }
 
@@ -279,7 +298,7 @@ TEST_F(CreatingADatabase, APowerballTypeHasNoBonusWhateverItsBoxHolds) {
     ChooseTemplate(1);
     EnterDraw({1, 2, 3, 4, 5});
     Box(7).setText(QStringLiteral("9"));
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(),
               "UK Thunderball\r\nhttp://two.example\r\n5,34,1,14,0\r\n01 Jun 05,1,2,3,4,5,,,9\r\n");
 }
@@ -287,9 +306,9 @@ TEST_F(CreatingADatabase, APowerballTypeHasNoBonusWhateverItsBoxHolds) {
 TEST_F(CreatingADatabase, AHiddenBoxKeepsItsTextButIsWrittenEmpty) {
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});
-    Bar("HScroll1").setValue(4);
+    Bar(picksBar).setValue(4);
     EXPECT_EQ(Box(5).text(), QStringLiteral("6"));
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_EQ(Created(), "\r\nhttp://\r\n4,49,1,0,0\r\n01 Jun 05,1,2,3,4,,,,\r\n");
 }
 
@@ -300,7 +319,7 @@ TEST_F(CreatingADatabase, RefusesANumberOutsideTheFieldAndStaysOpen) {
         EnterDraw({1, 2, 3, 4, 5, 6});
         Box(5).setText(QString::fromLatin1(bad));
         test_.messages.Expect(incorrectDraw);
-        Click(*form_, "Command1");
+        Click(*form_, saveButton);
         EXPECT_TRUE(form_->isVisible());
         EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
         EXPECT_EQ(test_.folder.Snapshot(), before);
@@ -317,7 +336,7 @@ TEST_F(CreatingADatabase, EnterSaves) {
 TEST_F(CreatingADatabase, TakesRepeats) {
     Open();
     EnterDraw({7, 7, 7, 7, 7, 7});
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_TRUE(test_.folder.Exists("dbase1.txt"));
 }
 
@@ -326,7 +345,7 @@ TEST_F(CreatingADatabase, TakesTheFirstFreeNumber) {
     AddLottery(test_.folder, "dbase3.txt", "Three", "6,49,0,0,0");
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_TRUE(test_.folder.Exists("dbase2.txt"));
 }
 
@@ -334,13 +353,13 @@ TEST_F(CreatingADatabase, EveryWayToCloseAsksFirst) {
     Open();
     for (int way = 0; way < 3; ++way) {
         test_.messages.Expect(closeAndDiscard, Answer::No);
-        if (way == 0) Click(*form_, "CancelButton");
+        if (way == 0) Click(*form_, cancelButton);
         if (way == 1) QTest::keyClick(form_.get(), Qt::Key_Escape);
         if (way == 2) form_->close();
         EXPECT_TRUE(form_->isVisible());
     }
     test_.messages.Expect(closeAndDiscard, Answer::Yes);
-    Click(*form_, "CancelButton");
+    Click(*form_, cancelButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_FALSE(test_.folder.Exists("dbase1.txt"));
 }
@@ -355,7 +374,7 @@ TEST_F(CreatingADatabase, AFullDiskEndsTheRunAndWritesNothing) {
     EnterDraw({1, 2, 3, 4, 5, 6});
     const auto before = test_.folder.Snapshot();
     test_.folder.FailAfterBytes(20);
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_TRUE(TakeFailure());
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
