@@ -1,18 +1,91 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "databases/DbaseUpdateW.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/draw_database.h"
 #include "core/failure.h"
 #include "databases/draw_records.h"
+#include "platform/forms/FormLayout.h"
 #include "platform/forms/LotteryList.h"
 #include "platform/forms/ShowTip.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/Widgets.h"
+
+DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
+    : Form(program, QStringLiteral("DbaseUpdateW"), tr("Update lottery databases"), parent) {
+    auto* title = MakeTitle(QStringLiteral("Label5"), tr("Update lottery draws"));
+    auto* explanation =
+        MakeBody(QStringLiteral("Label11"),
+                 tr("Draw results are stored by date and it is very important to set it "
+                    "correctly. You can enter a draw for any date and it will be inserted "
+                    "in the right place."));
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(MakeLotteries(), 2);
+    columns->addSpacing(24);
+    columns->addLayout(MakeDraw(), 3);
+    LayOutForm(this, title, explanation, columns, MakeActions());
+    TabInReadingOrder();
+    SetOpeningSize({760, 420});
+}
+
+QLayout* DbaseUpdateW::MakeLotteries() {
+    auto* title = MakeLabel(QStringLiteral("Label8"), tr("Select Lottery:"));
+    lotteries_ = Titled(title, Named(new ListBox, QStringLiteral("List1")));
+    connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(title);
+    column->addWidget(lotteries_, 1);
+    return column;
+}
+
+QLayout* DbaseUpdateW::MakeDraw() {
+    auto* dateTitle = MakeLabel(QStringLiteral("Label4"), tr("Select Date:"));
+    date_ = Titled(dateTitle,
+                   Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
+                         QStringLiteral("DTPicker1")));
+    lastUpdate_ = MakeLabel(QStringLiteral("Label13"), QString());
+    auto* boxesTitle = MakeLabel(QStringLiteral("Label6"), tr("Enter lottery draw result:"));
+    lastBoxTitle_ = MakeLabel(QStringLiteral("Label7"), QString());
+    boxes_ = MakeDrawBoxes(0);
+
+    auto* date = new QHBoxLayout;
+    date->addWidget(date_);
+    date->addStretch(1);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(dateTitle);
+    column->addLayout(date);
+    column->addSpacing(12);
+    column->addWidget(lastUpdate_);
+    column->addSpacing(12);
+    column->addLayout(BuildDrawBoxes(boxesTitle, lastBoxTitle_, boxes_));
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* DbaseUpdateW::MakeActions() {
+    auto* save = MakeButton(QStringLiteral("Command1"), tr(" Save lottery draw result "));
+    save->setDefault(true);
+    auto* goToWebsite = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
+    goToWebsite->setToolTip(tr(" Start Intenet Explorer "));
+    goToWebsite->setMinimumWidth(112);
+    auto* close = MakeButton(QStringLiteral("CancelButton"), tr(" Close "));
+    SetCloseButton(close);
+    connect(save, &QPushButton::clicked, this, [this] { Save(); });
+    connect(goToWebsite, &QPushButton::clicked, this,
+            [this] { services().openPage(ToQString(state().LotteryURL)); });
+    connect(close, &QPushButton::clicked, this, [this] { Unload(); });
+    return BuildActionRow({save, goToWebsite}, {close});
+}
 
 void DbaseUpdateW::Load() {
     Skinning(QStringLiteral("SkinDatabases.jpg"),
@@ -21,44 +94,42 @@ void DbaseUpdateW::Load() {
               .small = {QStringLiteral("Label8"), QStringLiteral("Label4"),
                         QStringLiteral("Label6"), QStringLiteral("Label7")},
               .status = {QStringLiteral("Label13")}});
-    dtPicker1_->SetValue(services().today());
-    ListDatabases(program(), *list1_);
-    ChooseFirstLottery(*list1_);
+    date_->SetValue(services().today());
+    ListDatabases(program(), *lotteries_);
+    ChooseFirstLottery(*lotteries_);
 }
 
-void DbaseUpdateW::List1_Click() {
-    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+void DbaseUpdateW::ChooseLottery() {
+    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
     const NewestDraw newest = ReadNewestDraw(state(), folder());
-    label13_->setText(tr("Last update was") % ToQString(state().Crlf) % ToQString(newest.date));
-    for (std::size_t i = 0; i < text1_.size(); ++i) {
-        text1_[i]->clear();
-        text1_[i]->setVisible(newest.filled[i]);
+    lastUpdate_->setText(tr("Last update was") % ToQString(state().Crlf) % ToQString(newest.date));
+    for (std::size_t i = 0; i < boxes_.size(); ++i) {
+        boxes_[i]->clear();
+        boxes_[i]->setVisible(newest.filled[i]);
     }
-    label7_->clear();
-    if (state().HasBonus > 0) label7_->setText(tr("Bonus"));
-    if (state().MaxPball > 0) label7_->setText(tr("Powerball"));
+    lastBoxTitle_->clear();
+    if (state().HasBonus > 0) lastBoxTitle_->setText(tr("Bonus"));
+    if (state().MaxPball > 0) lastBoxTitle_->setText(tr("Powerball"));
 }
 
-bool DbaseUpdateW::NumbersAreValid() const {
-    const int picks = std::max(state().Picks, 0);
-    if (picks > std::ssize(text1_)) {
-        throw FailureInFile(state().DbaseFile, 3,
-                            "expected at most " + std::to_string(text1_.size()) +
-                                " numbers to pick, but " + std::to_string(picks) +
-                                " stands there.");
-    }
-    return NumbersAreWithin(text1_, picks, state().MaxNum);
-}
-
-void DbaseUpdateW::Command1_Click() {
+void DbaseUpdateW::Save() {
     if (!NumbersAreValid()) {
         ShowTip(services(), this, 6);
         return;
     }
-    const DrawRecord draw = MakeDrawRecord(dtPicker1_->Value(), TextsOf(text1_));
+    const DrawRecord draw = MakeDrawRecord(date_->Value(), TextsOf(boxes_));
     InsertDraw(state(), folder(), draw, {.region = services().region, .today = services().today()});
-    for (NumberBox* box : text1_) box->clear();
-    label13_->setText(ToQString(DrawDate(draw.date)));
+    for (NumberBox* box : boxes_) box->clear();
+    lastUpdate_->setText(ToQString(DrawDate(draw.date)));
 }
 
-void DbaseUpdateW::Command2_Click() { services().openPage(ToQString(state().LotteryURL)); }
+bool DbaseUpdateW::NumbersAreValid() const {
+    const int picks = std::max(state().Picks, 0);
+    if (picks > std::ssize(boxes_)) {
+        throw FailureInFile(state().DbaseFile, 3,
+                            "expected at most " + std::to_string(boxes_.size()) +
+                                " numbers to pick, but " + std::to_string(picks) +
+                                " stands there.");
+    }
+    return NumbersAreWithin(boxes_, picks, state().MaxNum);
+}

@@ -7,7 +7,6 @@
 class DatePicker;
 class ListBox;
 class QLayout;
-class QPushButton;
 
 /// Takes one draw that the user types in and inserts it at the place of its date.
 ///
@@ -21,28 +20,17 @@ class DbaseUpdateW final : public Form {
     void Load() override;
 
   private:
-    void MakeControls();
-    void MakeButtons();
-    QLayout* BuildLotteries();
-    QLayout* BuildDraw();
+    QLayout* MakeLotteries();
+    QLayout* MakeDraw();
+    QLayout* MakeActions();
 
-    void List1_Click();
-    void Command1_Click();
-    void Command2_Click();
-
+    void ChooseLottery();
+    void Save();
     bool NumbersAreValid() const;
 
-    ListBox* list1_;
-    DatePicker* dtPicker1_;
-    DrawBoxes text1_;
-    QLabel* label4_;
-    QLabel* label5_;
-    QLabel* label6_;
-    QLabel* label7_;
-    QLabel* label8_;
-    QLabel* label11_;
-    QLabel* label13_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* cancelButton_;
+    ListBox* lotteries_;
+    DatePicker* date_;
+    QLabel* lastUpdate_;
+    QLabel* lastBoxTitle_;
+    DrawBoxes boxes_;
 };

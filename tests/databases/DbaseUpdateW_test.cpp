@@ -13,6 +13,14 @@
 
 namespace {
 
+constexpr const char* lotteryList = "List1";
+constexpr const char* datePicker = "DTPicker1";
+constexpr const char* lastUpdate = "Label13";
+constexpr const char* lastBoxTitle = "Label7";
+constexpr const char* saveButton = "Command1";
+constexpr const char* webSiteButton = "Command2";
+constexpr const char* closeButton = "CancelButton";
+
 const Message problemWithTheInput{
     .title = QStringLiteral("Error"),
     .text = QStringLiteral(
@@ -46,13 +54,13 @@ class UpdatingADatabase : public testing::Test {
         return boxes;
     }
 
-    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+    void ChooseLottery(int index) { Find<ListBox>(*form_, lotteryList)->SetIndex(index); }
 
     void Save(const std::vector<QString>& numbers, const QDate& date) {
         int index = 0;
         for (const QString& number : numbers) Box(index++).setText(number);
-        Find<QDateEdit>(*form_, "DTPicker1")->setDate(date);
-        Click(*form_, "Command1");
+        Find<QDateEdit>(*form_, datePicker)->setDate(date);
+        Click(*form_, saveButton);
     }
 
     static std::vector<QString> OneToSix() {
@@ -75,22 +83,22 @@ TEST_F(UpdatingADatabase, BearsItsWords) {
     EXPECT_EQ(Text("Label8"), QStringLiteral("Select Lottery:"));
     EXPECT_EQ(Text("Label4"), QStringLiteral("Select Date:"));
     EXPECT_EQ(Text("Label6"), QStringLiteral("Enter lottery draw result:"));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command1")->text(),
+    EXPECT_EQ(Find<QPushButton>(*form_, saveButton)->text(),
               QStringLiteral(" Save lottery draw result "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->text(), QStringLiteral("Go to website"));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->toolTip(),
+    EXPECT_EQ(Find<QPushButton>(*form_, webSiteButton)->text(), QStringLiteral("Go to website"));
+    EXPECT_EQ(Find<QPushButton>(*form_, webSiteButton)->toolTip(),
               QStringLiteral(" Start Intenet Explorer "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "CancelButton")->text(), QStringLiteral(" Close "));
-    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->displayFormat(),
+    EXPECT_EQ(Find<QPushButton>(*form_, closeButton)->text(), QStringLiteral(" Close "));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->displayFormat(),
               QStringLiteral("ddd d MMM yyyy"));
-    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->date(), QDate(2005, 6, 1));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->date(), QDate(2005, 6, 1));
 }
 
 TEST_F(UpdatingADatabase, OpensOnTheFirstLotteryAndItsNewestDraw) {
     Open();
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
-    EXPECT_EQ(Text("Label13"), QStringLiteral("Last update was\r\n28 May 05"));
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Bonus"));
+    EXPECT_EQ(Text(lastUpdate), QStringLiteral("Last update was\r\n28 May 05"));
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Bonus"));
     EXPECT_EQ(VisibleBoxes(), (std::vector<int>{0, 1, 2, 3, 4, 5, 7}));
 }
 
@@ -100,23 +108,23 @@ TEST_F(UpdatingADatabase, OffersTheBoxesThatTheNewestDrawFills) {
     ChooseLottery(1);
     EXPECT_EQ(VisibleBoxes(), (std::vector<int>{0, 1, 2, 3, 4, 7}));
     EXPECT_EQ(Box(0).text(), QString());
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Powerball"));
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Powerball"));
 }
 
 TEST_F(UpdatingADatabase, ShowsPowerballWhereALotteryHasABonusBallToo) {
     AddLottery(test_.folder, "dbase1.txt", "Both", "5,49,0,14,1", {"28 May 05,1,2,3,4,5,,,6"});
     Open();
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Powerball"));
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Powerball"));
 }
 
 TEST_F(UpdatingADatabase, TitlesNothingWithoutBonusAndExtraBall) {
     AddLottery(test_.folder, "dbase1.txt", "Plain", "5,49,1,0,0", {"28-May-2005,1,2,3,4,5,,,"});
     Open();
     ChooseLottery(1);
-    EXPECT_EQ(Text("Label7"), QStringLiteral("Bonus"));
+    EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Bonus"));
     ChooseLottery(0);
-    EXPECT_EQ(Text("Label7"), QString());
-    EXPECT_EQ(Text("Label13"), QStringLiteral("Last update was\r\n28-May-2005"));
+    EXPECT_EQ(Text(lastBoxTitle), QString());
+    EXPECT_EQ(Text(lastUpdate), QStringLiteral("Last update was\r\n28-May-2005"));
     EXPECT_EQ(VisibleBoxes(), (std::vector<int>{0, 1, 2, 3, 4}));
 }
 
@@ -167,9 +175,9 @@ TEST_F(UpdatingADatabase, AfterASaveShowsTheDateAloneWithEmptyBoxesAndStaysOpen)
     Open();
     Box(7).setText(QStringLiteral("7"));
     Save(OneToSix(), QDate(2005, 5, 26));
-    EXPECT_EQ(Text("Label13"), QStringLiteral("26 May 05"));
+    EXPECT_EQ(Text(lastUpdate), QStringLiteral("26 May 05"));
     for (int index = 0; index <= 7; ++index) EXPECT_EQ(Box(index).text(), QString());
-    EXPECT_EQ(Find<ListBox>(*form_, "List1")->Index(), 0);
+    EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->Index(), 0);
     EXPECT_TRUE(form_->isVisible());
 }
 
@@ -198,7 +206,7 @@ TEST_F(UpdatingADatabase, EnterSaves) {
     Open();
     for (int index = 0; index <= 5; ++index) Box(index).setText(QStringLiteral("8"));
     QTest::keyClick(&Box(5), Qt::Key_Return);
-    EXPECT_EQ(Text("Label13"), QStringLiteral("01 Jun 05"));
+    EXPECT_EQ(Text(lastUpdate), QStringLiteral("01 Jun 05"));
 }
 
 TEST_F(UpdatingADatabase, WritesTheTextsAsTheyStand) {
@@ -225,14 +233,14 @@ TEST_F(UpdatingADatabase, ChecksOnlyFourNumbersOfHotPicks) {
 TEST_F(UpdatingADatabase, OpensTheWebsiteOfTheLottery) {
     Open();
     test_.state.LotteryURL = "http://www.lotto.example";
-    Click(*form_, "Command2");
+    Click(*form_, webSiteButton);
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("http://www.lotto.example")});
 }
 
 TEST_F(UpdatingADatabase, CloseAsksNothing) {
     Open();
     Box(0).setText(QStringLiteral("1"));
-    Click(*form_, "CancelButton");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
 }
 
@@ -245,7 +253,7 @@ TEST_F(UpdatingADatabase, ADatabaseWithoutDrawsEndsTheRunWhenChosenAndStaysAsItW
     AddDailyPlay(test_.folder);
     Open();
     const auto before = test_.folder.Snapshot();
-    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
+    QTest::keyClick(Find<ListBox>(*form_, lotteryList), Qt::Key_End);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("dbase102.txt, line 4"), std::string::npos);
@@ -267,7 +275,7 @@ TEST_F(UpdatingADatabase, AnUnreadableDateEndsTheRunWithTheDatabaseUntouched) {
 TEST_F(UpdatingADatabase, MoreNumbersThanADrawHasEndTheRun) {
     AddLottery(test_.folder, "dbase1.txt", "Nine", "9,49,0,0,0", {"28 May 05,1,2,3,4,5,6,7,8"});
     Open();
-    Click(*form_, "Command1");
+    Click(*form_, saveButton);
     EXPECT_TRUE(TakeFailure());
 }
 
