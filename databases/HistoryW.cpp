@@ -24,38 +24,36 @@ void HistoryW::Load() {
                                                    .body = {QStringLiteral("Label4")},
                                                    .small = {QStringLiteral("Label3")},
                                                    .status = {}});
-    ListDatabases(program(), *list1_);
-    if (list1_->count() > 0) {
-        ChooseFirstLottery(*list1_);
+    ListDatabases(program(), *lotteries_);
+    if (lotteries_->count() > 0) {
+        ChooseFirstLottery(*lotteries_);
         return;
     }
     services().messages.Show(this, {.title = tr("Error!"),
                                     .text = tr("No lotteries to display!    "),
                                     .sign = Sign::Exclamation});
-    timer1_->start();
+    closing_->start();
 }
 
-void HistoryW::Timer1_Timer() {
-    timer1_->stop();
-    if (list1_->count() == 0) Unload();
+void HistoryW::CloseIfEmpty() {
+    closing_->stop();
+    if (lotteries_->count() == 0) Unload();
 }
 
-void HistoryW::List1_Click() {
+void HistoryW::ChooseLottery() {
     const Hourglass hourglass;
-    LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
-    label1_->setText(ToQString(state().LotteryName));
+    LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
+    lotteryName_->setText(ToQString(state().LotteryName));
     grid_->ClearCells();
     ShowHeadings();
     ShowDraws();
-    ShowBoxes();
+    OfferBoxes();
     sortedView_ = 0;
-    option1_->setChecked(true);
+    drawOrder_->setChecked(true);
     SelectRow(1);
     grid_->ScrollToTop();
-    frame1_->setEnabled(true);
+    editPanel_->setEnabled(true);
 }
-
-bool HistoryW::HasExtraColumn() const { return state().HasBonus == 1 || state().MaxPball > 0; }
 
 // A column is headed by the newest draw, whatever older draws hold in it.
 void HistoryW::ShowHeadings() {
@@ -83,34 +81,36 @@ void HistoryW::ShowDraws() {
     }
 }
 
-void HistoryW::ShowBoxes() {
+bool HistoryW::HasExtraColumn() const { return state().HasBonus == 1 || state().MaxPball > 0; }
+
+void HistoryW::OfferBoxes() {
     for (int index = 1; index <= 8; ++index) {
         const bool filled = view().Draws(1, index) >= 1;
-        Text1(index)->setVisible(filled);
-        if (!filled) Text1(index)->clear();
+        Box(index)->setVisible(filled);
+        if (!filled) Box(index)->clear();
     }
 }
 
 void HistoryW::SelectRow(int row) {
     grid_->SetCurrentCell(row, 0);
-    MSFlexGrid1_RowColChange();
+    FollowRow();
 }
 
-void HistoryW::MSFlexGrid1_RowColChange() {
+void HistoryW::FollowRow() {
     int row = grid_->CurrentRow();
     while (grid_->Cell(row, 0).isEmpty()) --row;
     const std::string where = state().DbaseFile + ", line " + std::to_string(std::max(row, 1) + 3);
-    dtPicker1_->SetValue(DateFromText(FromQString(grid_->Cell(row, 0)), services().region,
-                                      services().today(), where));
-    for (int index = 1; index <= 8; ++index) Text1(index)->setText(grid_->Cell(row, index));
+    date_->SetValue(DateFromText(FromQString(grid_->Cell(row, 0)), services().region,
+                                 services().today(), where));
+    for (int index = 1; index <= 8; ++index) Box(index)->setText(grid_->Cell(row, index));
     grid_->ScrollToRow(row);
     grid_->MarkRow(row);
 }
 
-void HistoryW::Option2_Click() {
+void HistoryW::ShowAscending() {
     if (sortedView_ == -1) return;
     const Hourglass hourglass;
-    frame1_->setEnabled(false);
+    editPanel_->setEnabled(false);
     std::vector<int> numbers;
     for (int row = 1; view().Draws(row, 1) != 0; ++row) {
         numbers.clear();
@@ -124,7 +124,7 @@ void HistoryW::Option2_Click() {
     sortedView_ = -1;
 }
 
-void HistoryW::Option1_Click() {
+void HistoryW::ShowInDrawOrder() {
     if (sortedView_ == 0) return;
     const Hourglass hourglass;
     for (int row = 1; view().Draws(row, 1) != 0; ++row) {
@@ -135,33 +135,33 @@ void HistoryW::Option1_Click() {
     }
     SelectRow(1);
     sortedView_ = 0;
-    frame1_->setEnabled(true);
+    editPanel_->setEnabled(true);
 }
 
-void HistoryW::Command2_Click() {
+void HistoryW::UpdateChosenDraw() {
+    const Hourglass hourglass;
+    UpdateDraw(state(), folder(), grid_->CurrentRow(),
+               MakeDrawRecord(date_->Value(), TextsOf(boxes_)),
+               {.region = services().region, .today = services().today()});
+    ChooseLottery();
+}
+
+void HistoryW::DeleteChosenDraw() {
     const int row = grid_->CurrentRow();
     grid_->SetCurrentCell(2, 0);
     if (grid_->Cell(2, 0).isEmpty()) {
         services().messages.Show(this, {.title = tr("Warning"),
                                         .text = tr("Can't delete last line!    "),
                                         .sign = Sign::Exclamation});
-        MSFlexGrid1_RowColChange();
+        FollowRow();
         return;
     }
     const Hourglass hourglass;
     DeleteDraw(state(), folder(), row);
-    List1_Click();
+    ChooseLottery();
 }
 
-void HistoryW::Command3_Click() {
-    const Hourglass hourglass;
-    UpdateDraw(state(), folder(), grid_->CurrentRow(),
-               MakeDrawRecord(dtPicker1_->Value(), TextsOf(text1_)),
-               {.region = services().region, .today = services().today()});
-    List1_Click();
-}
-
-void HistoryW::Command6_Click() {
+void HistoryW::Print() {
     services().printDraws(this, *grid_);
     SelectRow(1);
 }

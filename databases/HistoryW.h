@@ -9,7 +9,6 @@ class Grid;
 class ListBox;
 class QGroupBox;
 class QLayout;
-class QPushButton;
 class QRadioButton;
 class QTimer;
 
@@ -26,45 +25,38 @@ class HistoryW final : public Form {
     void Load() override;
 
   private:
-    void MakeControls();
+    QLayout* MakeHistory();
     void MakeGrid();
     void MakeEditPanel();
-    QLayout* BuildHistory();
-    QLayout* BuildChoices();
-    void Connect();
+    QLayout* MakeEditCommands();
+    QLayout* MakeChoices();
+    QLayout* MakeActions();
 
-    void List1_Click();
-    void MSFlexGrid1_RowColChange();
-    void Option1_Click();
-    void Option2_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Command6_Click();
-    void Timer1_Timer();
-
+    void ChooseLottery();
     void ShowHeadings();
     void ShowDraws();
-    void ShowBoxes();
-    void SelectRow(int row);
+    void OfferBoxes();
     bool HasExtraColumn() const;
 
-    NumberBox* Text1(int index) const { return text1_[static_cast<std::size_t>(index - 1)]; }
+    void SelectRow(int row);
+    void FollowRow();
+
+    void ShowAscending();
+    void ShowInDrawOrder();
+    void UpdateChosenDraw();
+    void DeleteChosenDraw();
+    void Print();
+    void CloseIfEmpty();
+
+    NumberBox* Box(int column) const { return boxes_[static_cast<std::size_t>(column - 1)]; }
 
     std::int16_t sortedView_ = 0;  // 0 in draw order, -1 in ascending order
-    ListBox* list1_;
+    QLabel* lotteryName_;
     Grid* grid_;
-    QLabel* label1_;
-    QLabel* label2_;
-    QLabel* label3_;
-    QLabel* label4_;
-    QRadioButton* option1_;
-    QRadioButton* option2_;
-    QGroupBox* frame1_;
-    DatePicker* dtPicker1_;
-    DrawBoxes text1_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* command3_;
-    QPushButton* command6_;
-    QTimer* timer1_;
+    QGroupBox* editPanel_;
+    DatePicker* date_;
+    DrawBoxes boxes_;
+    ListBox* lotteries_;
+    QRadioButton* drawOrder_;
+    QTimer* closing_;
 };

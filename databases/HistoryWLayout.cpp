@@ -33,40 +33,38 @@ class PlainPanel final : public QGroupBox {
 
 HistoryW::HistoryW(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("HistoryW"), tr("Lottery Draws History"), parent) {
-    MakeControls();
-    MakeGrid();
-    MakeEditPanel();
+    auto* title = MakeTitle(QStringLiteral("Label2"), tr("Lottery draw results"));
+    auto* explanation =
+        MakeBody(QStringLiteral("Label4"),
+                 tr("Select a lottery in the list on the right to view all the draw results. "
+                    "The numbers can be viewed in the order they were drawn or in ascending "
+                    "order."));
     auto* columns = new QHBoxLayout;
-    columns->addLayout(BuildHistory());
+    columns->addLayout(MakeHistory());
     columns->addSpacing(16);
-    columns->addLayout(BuildChoices(), 1);
-    LayOutForm(this, label2_, label4_, columns, BuildActionRow({command6_}, {command1_}));
+    columns->addLayout(MakeChoices(), 1);
+    LayOutForm(this, title, explanation, columns, MakeActions());
     TabInReadingOrder();
-    Connect();
-    SetCloseButton(command1_);
-    resize(sizeHint().width(), 660);
+    SetOpeningSize({sizeHint().width(), 660});
+    closing_ = Named(new QTimer(this), QStringLiteral("Timer1"));
+    closing_->setInterval(closingDelay);
+    connect(closing_, &QTimer::timeout, this, [this] { CloseIfEmpty(); });
 }
 
-void HistoryW::MakeControls() {
-    label2_ = MakeTitle(QStringLiteral("Label2"), tr("Lottery draw results"));
-    label4_ = MakeBody(QStringLiteral("Label4"),
-                       tr("Select a lottery in the list on the right to view all the draw results. "
-                          "The numbers can be viewed in the order they were drawn or in ascending "
-                          "order."));
-    label1_ = MakeLabel(QStringLiteral("Label1"), QString());
-    QFont bold = label1_->font();
+QLayout* HistoryW::MakeHistory() {
+    lotteryName_ = MakeLabel(QStringLiteral("Label1"), QString());
+    QFont bold = lotteryName_->font();
     bold.setBold(true);
-    label1_->setFont(bold);
-    label3_ = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
-    list1_ = Titled(label3_, Named(new ListBox, QStringLiteral("List1")));
-    option1_ = Named(new QRadioButton(tr("Draw order")), QStringLiteral("Option1"));
-    option2_ = Named(new QRadioButton(tr("Ascending order")), QStringLiteral("Option2"));
-    option1_->setChecked(true);
-    timer1_ = Named(new QTimer(this), QStringLiteral("Timer1"));
-    timer1_->setInterval(closingDelay);
-    command6_ = MakeButton(QStringLiteral("Command6"), tr(" Print "));
-    command6_->setEnabled(services().printDraws != nullptr);
-    command1_ = MakeButton(QStringLiteral("Command1"), tr(" Close "));
+    lotteryName_->setFont(bold);
+    MakeGrid();
+    MakeEditPanel();
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(lotteryName_);
+    column->addWidget(grid_, 1);
+    column->addWidget(editPanel_);
+    return column;
 }
 
 void HistoryW::MakeGrid() {
@@ -78,71 +76,80 @@ void HistoryW::MakeGrid() {
     // The last column has neither texts nor a heading and is not shown.
     grid_->SetColumnWidths(
         {date, number, number, number, number, number, number, number, number, 0});
+    connect(grid_, &Grid::cellClicked, this, [this] { FollowRow(); });
 }
 
 void HistoryW::MakeEditPanel() {
-    frame1_ = Named<QGroupBox>(new PlainPanel, QStringLiteral("Frame1"));
-    dtPicker1_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
-                       QStringLiteral("DTPicker1"));
-    dtPicker1_->setAccessibleName(tr("Date of the draw"));
-    text1_ = MakeDrawBoxes(1);
-    std::vector<QWidget*> inputs = {dtPicker1_};
-    inputs.insert(inputs.end(), text1_.begin(), text1_.end());
+    editPanel_ = Named<QGroupBox>(new PlainPanel, QStringLiteral("Frame1"));
+    date_ = Named(new DatePicker(QStringLiteral("dd MMM yy"), services().today()),
+                  QStringLiteral("DTPicker1"));
+    date_->setAccessibleName(tr("Date of the draw"));
+    boxes_ = MakeDrawBoxes(1);
+    std::vector<QWidget*> inputs = {date_};
+    inputs.insert(inputs.end(), boxes_.begin(), boxes_.end());
     QHBoxLayout* boxes = BuildAtColumns(*grid_, 0, inputs);
     boxes->addStretch(1);
-    command3_ = MakeButton(QStringLiteral("Command3"), tr("Update Draw"));
-    command3_->setToolTip(tr(" Update selected draw "));
-    command2_ = MakeButton(QStringLiteral("Command2"), tr("Delete Draw"));
-    command2_->setToolTip(tr(" Delete selected draw "));
-    for (QPushButton* command : {command3_, command2_}) command->setMinimumWidth(commandWidth);
-    auto* commands = new QHBoxLayout;
-    commands->addWidget(command3_);
-    commands->addWidget(command2_);
-    commands->addStretch(1);
+
     // No margin of the panel may push the boxes away from their columns.
-    frame1_->setContentsMargins(0, 0, 0, 0);
-    auto* panel = new QVBoxLayout(frame1_);
+    editPanel_->setContentsMargins(0, 0, 0, 0);
+    auto* panel = new QVBoxLayout(editPanel_);
     panel->setContentsMargins(0, 4, 0, 0);
     panel->addLayout(boxes);
-    panel->addLayout(commands);
+    panel->addLayout(MakeEditCommands());
 }
 
-QLayout* HistoryW::BuildHistory() {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(label1_);
-    column->addWidget(grid_, 1);
-    column->addWidget(frame1_);
-    return column;
-}
-
-QLayout* HistoryW::BuildChoices() {
-    auto* column = new QVBoxLayout;
-    column->setSpacing(4);
-    column->addWidget(label3_);
-    column->addWidget(list1_, 1);
-    column->addSpacing(8);
-    column->addWidget(option1_);
-    column->addWidget(option2_);
-    return column;
-}
-
-void HistoryW::Connect() {
-    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
+QLayout* HistoryW::MakeEditCommands() {
+    auto* update = MakeButton(QStringLiteral("Command3"), tr("Update Draw"));
+    update->setToolTip(tr(" Update selected draw "));
+    auto* deleteDraw = MakeButton(QStringLiteral("Command2"), tr("Delete Draw"));
+    deleteDraw->setToolTip(tr(" Delete selected draw "));
+    connect(update, &QPushButton::clicked, this, [this] { UpdateChosenDraw(); });
+    connect(deleteDraw, &QPushButton::clicked, this, [this] { DeleteChosenDraw(); });
     // Enter updates only while the user edits: whoever just looks at draws changes none.
-    for (NumberBox* box : text1_) {
-        connect(box, &QLineEdit::returnPressed, command3_, &QPushButton::click);
+    for (NumberBox* box : boxes_) {
+        connect(box, &QLineEdit::returnPressed, update, &QPushButton::click);
     }
-    connect(grid_, &Grid::cellClicked, this, [this] { MSFlexGrid1_RowColChange(); });
-    connect(option1_, &QRadioButton::toggled, this, [this](bool on) {
-        if (on) Option1_Click();
+
+    auto* commands = new QHBoxLayout;
+    for (QPushButton* command : {update, deleteDraw}) {
+        command->setMinimumWidth(commandWidth);
+        commands->addWidget(command);
+    }
+    commands->addStretch(1);
+    return commands;
+}
+
+QLayout* HistoryW::MakeChoices() {
+    auto* title = MakeLabel(QStringLiteral("Label3"), tr("Select a lottery:"));
+    lotteries_ = Titled(title, Named(new ListBox, QStringLiteral("List1")));
+    drawOrder_ = Named(new QRadioButton(tr("Draw order")), QStringLiteral("Option1"));
+    drawOrder_->setChecked(true);
+    auto* ascending = Named(new QRadioButton(tr("Ascending order")), QStringLiteral("Option2"));
+    connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
+    connect(drawOrder_, &QRadioButton::toggled, this, [this](bool on) {
+        if (on) {
+            ShowInDrawOrder();
+        } else {
+            ShowAscending();
+        }
     });
-    connect(option2_, &QRadioButton::toggled, this, [this](bool on) {
-        if (on) Option2_Click();
-    });
-    connect(timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
-    connect(command1_, &QPushButton::clicked, this, [this] { Unload(); });
-    connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    connect(command3_, &QPushButton::clicked, this, [this] { Command3_Click(); });
-    connect(command6_, &QPushButton::clicked, this, [this] { Command6_Click(); });
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(4);
+    column->addWidget(title);
+    column->addWidget(lotteries_, 1);
+    column->addSpacing(8);
+    column->addWidget(drawOrder_);
+    column->addWidget(ascending);
+    return column;
+}
+
+QLayout* HistoryW::MakeActions() {
+    auto* print = MakeButton(QStringLiteral("Command6"), tr(" Print "));
+    print->setEnabled(services().printDraws != nullptr);
+    auto* close = MakeButton(QStringLiteral("Command1"), tr(" Close "));
+    SetCloseButton(close);
+    connect(print, &QPushButton::clicked, this, [this] { Print(); });
+    connect(close, &QPushButton::clicked, this, [this] { Unload(); });
+    return BuildActionRow({print}, {close});
 }

@@ -17,7 +17,7 @@ TEST_F(DrawsHistoryEdit, AnEditTakesTheDrawOnWhichADragEnded) {
     Drag(1, 3);
     ExpectMarked(3);
     EXPECT_EQ(Box(1).text(), QStringLiteral("8"));
-    Click(*form_, "Command3");
+    Click(*form_, updateButton);
     EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,48,41,,9");
     EXPECT_EQ(Row(3), "21 May 05,8,9,10,11,12,13,,14");
 }
@@ -33,7 +33,7 @@ TEST_F(DrawsHistoryEdit, DeleteRemovesTheSelectedDrawWithoutAQuestion) {
     Open();
     const std::string before = Database();
     ClickRow(2);
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     EXPECT_EQ(Database(),
               "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
               "28 May 05,34,17,22,3,48,41,0,9\r\n"
@@ -50,7 +50,7 @@ TEST_F(DrawsHistoryEdit, TheLastDrawIsNotDeleted) {
     ChooseLottery(1);
     const auto before = test_.folder.Snapshot();
     test_.messages.Expect(cannotDeleteLastLine);
-    Click(*form_, "Command2");
+    Click(*form_, deleteButton);
     EXPECT_EQ(test_.folder.Snapshot(), before);
     ExpectMarked(1);
 }
@@ -59,7 +59,7 @@ TEST_F(DrawsHistoryEdit, AnUpdateOfNumbersKeepsThePlaceAndReturnsToTheFirstRow) 
     Open();
     ClickRow(2);
     Box(1).setText(QStringLiteral("45"));
-    Click(*form_, "Command3");
+    Click(*form_, updateButton);
     EXPECT_EQ(Database(),
               "UK Lotto\r\n\r\n6,49,0,0,1\r\n"
               "28 May 05,34,17,22,3,48,41,0,9\r\n"
@@ -99,7 +99,7 @@ TEST_F(DrawsHistoryEdit, AnUpdateChecksNoNumbers) {
     Open();
     Box(1).setText(QStringLiteral("99"));
     Box(2).clear();
-    Click(*form_, "Command3");
+    Click(*form_, updateButton);
     EXPECT_EQ(Row(1), "28 May 05,99,,22,3,48,41,,9");
 }
 
@@ -108,7 +108,7 @@ TEST_F(DrawsHistoryEdit, AnUpdateKeepsTheNumberOfAHiddenBox) {
     ClickRow(2);
     EXPECT_TRUE(Box(7).isHidden());
     Box(1).setText(QStringLiteral("9"));
-    Click(*form_, "Command3");
+    Click(*form_, updateButton);
     EXPECT_EQ(Database("dbase1.txt"),
               "Mine\r\n\r\n6,49,1,0,0\r\n"
               "28 May 05,1,2,3,4,5,6,0,0\r\n25 May 05,9,2,3,4,5,6,7,\r\n");
@@ -127,7 +127,7 @@ TEST_F(DrawsHistoryEdit, EnterInABoxUpdatesAndElsewhereChangesNothing) {
 TEST_F(DrawsHistoryEdit, AFullDiskEndsTheRunAndLosesNoDraw) {
     Open();
     const std::string before = Database();
-    for (const char* command : {"Command2", "Command3"}) {
+    for (const char* command : {deleteButton, updateButton}) {
         for (const std::size_t room : {std::size_t{0}, before.size(), before.size() + 20}) {
             test_.folder.FailAfterBytes(room);
             ClickRow(1);

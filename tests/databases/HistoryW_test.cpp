@@ -22,7 +22,7 @@ TEST_F(DrawsHistory, BearsItsWords) {
     const std::vector<std::pair<const char*, const char*>> labels = {
         {"Label2", "Lottery draw results"},
         {"Label3", "Select a lottery:"},
-        {"Label1", "UK Lotto"},
+        {lotteryName, "UK Lotto"},
         {"Label4",
          "Select a lottery in the list on the right to view all the draw results. The numbers can "
          "be viewed in the order they were drawn or in ascending order."}};
@@ -30,16 +30,17 @@ TEST_F(DrawsHistory, BearsItsWords) {
         EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
     }
     const std::vector<std::pair<const char*, const char*>> captions = {
-        {"Option1", "Draw order"},   {"Option2", "Ascending order"}, {"Command3", "Update Draw"},
-        {"Command2", "Delete Draw"}, {"Command6", " Print "},        {"Command1", " Close "}};
+        {drawOrder, "Draw order"},     {ascendingOrder, "Ascending order"},
+        {updateButton, "Update Draw"}, {deleteButton, "Delete Draw"},
+        {printButton, " Print "},      {closeButton, " Close "}};
     for (const auto& [name, text] : captions) {
         EXPECT_EQ(Find<QAbstractButton>(*form_, name)->text(), QString::fromLatin1(text)) << name;
     }
-    EXPECT_EQ(Find<QWidget>(*form_, "Command3")->toolTip(),
+    EXPECT_EQ(Find<QWidget>(*form_, updateButton)->toolTip(),
               QStringLiteral(" Update selected draw "));
-    EXPECT_EQ(Find<QWidget>(*form_, "Command2")->toolTip(),
+    EXPECT_EQ(Find<QWidget>(*form_, deleteButton)->toolTip(),
               QStringLiteral(" Delete selected draw "));
-    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->displayFormat(), QStringLiteral("dd MMM yy"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->displayFormat(), QStringLiteral("dd MMM yy"));
     EXPECT_EQ(Draws().RowCount(), 3000);
     EXPECT_EQ(Draws().ColumnCount(), 10);
 }
@@ -52,7 +53,7 @@ TEST_F(DrawsHistory, ShowsTheFirstLotteryInDrawOrder) {
     EXPECT_EQ(Row(4), ",,,,,,,,");
     EXPECT_EQ(Draws().CellColour(0, 8), QColor(160, 0, 0));
     EXPECT_EQ(Draws().CellColour(3, 8), QColor(160, 0, 0));
-    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1")->isChecked());
+    EXPECT_TRUE(Find<QRadioButton>(*form_, drawOrder)->isChecked());
     EXPECT_TRUE(CanEdit());
     ExpectMarked(1);
 }
@@ -60,7 +61,7 @@ TEST_F(DrawsHistory, ShowsTheFirstLotteryInDrawOrder) {
 TEST_F(DrawsHistory, ChoosingAnotherLotteryShowsItsDrawsAlone) {
     Open();
     ChooseLottery(1);
-    EXPECT_EQ(Find<QLabel>(*form_, "Label1")->text(), QStringLiteral("UK Thunderball"));
+    EXPECT_EQ(Find<QLabel>(*form_, lotteryName)->text(), QStringLiteral("UK Thunderball"));
     EXPECT_EQ(Row(0), "Date,Num1,Num2,Num3,Num4,Num5,,,Pball");
     EXPECT_EQ(Row(1), "28 May 05,4,9,15,27,30,,,6");
     EXPECT_EQ(Row(2), ",,,,,,,,");
@@ -249,8 +250,8 @@ TEST_F(DrawsHistory, EveryChoiceOfALotteryReturnsToDrawOrder) {
     Open();
     ShowAscending();
     ChooseLottery(1);
-    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1")->isChecked());
-    EXPECT_FALSE(Find<QRadioButton>(*form_, "Option2")->isChecked());
+    EXPECT_TRUE(Find<QRadioButton>(*form_, drawOrder)->isChecked());
+    EXPECT_FALSE(Find<QRadioButton>(*form_, ascendingOrder)->isChecked());
     EXPECT_TRUE(CanEdit());
 }
 
@@ -265,7 +266,7 @@ TEST_F(DrawsHistory, AChoiceInAscendingOrderShowsTheColumnsOfTheNewLottery) {
 
 TEST_F(DrawsHistory, PrintIsDisabledUntilThereIsPrinting) {
     Open();
-    EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
+    EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
 }
 
 TEST_F(DrawsHistory, PrintTakesTheGridAndReturnsToTheFirstRow) {
@@ -273,7 +274,7 @@ TEST_F(DrawsHistory, PrintTakesTheGridAndReturnsToTheFirstRow) {
     test_.services.printDraws = [&](QWidget*, Grid& grid) { printed = &grid; };
     Open();
     ClickRow(3);
-    Click(*form_, "Command6");
+    Click(*form_, printButton);
     EXPECT_EQ(printed, &Draws());
     ExpectMarked(1);
 }
@@ -285,7 +286,7 @@ TEST_F(DrawsHistory, WithoutALotterySaysSoAndClosesWhenTheTimerTicks) {
                            .sign = Sign::Exclamation});
     Open();
     EXPECT_TRUE(form_->isVisible());
-    auto* timer = form_->findChild<QTimer*>(QStringLiteral("Timer1"));
+    auto* timer = form_->findChild<QTimer*>(QLatin1String(closingTimer));
     ASSERT_NE(timer, nullptr);
     EXPECT_TRUE(timer->isActive());
     EXPECT_EQ(timer->interval(), 1000);
@@ -297,14 +298,14 @@ TEST_F(DrawsHistory, WithoutALotterySaysSoAndClosesWhenTheTimerTicks) {
 
 TEST_F(DrawsHistory, WithLotteriesTheTimerRests) {
     Open();
-    EXPECT_FALSE(form_->findChild<QTimer*>(QStringLiteral("Timer1"))->isActive());
+    EXPECT_FALSE(form_->findChild<QTimer*>(QLatin1String(closingTimer))->isActive());
 }
 
 TEST_F(DrawsHistory, ADatabaseWithoutDrawsEndsTheRun) {
     AddDailyPlay(test_.folder);
     Open();
     const auto before = test_.folder.Snapshot();
-    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
+    QTest::keyClick(Find<ListBox>(*form_, lotteryList), Qt::Key_End);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("dbase102.txt, line 4"), std::string::npos) << *failure;
@@ -331,14 +332,14 @@ TEST_F(DrawsHistory, ShowsAsManyDrawsAsEveryRoutineCanWalk) {
 TEST_F(DrawsHistory, OneDrawMoreEndsTheRun) {
     AddLottery(test_.folder, "dbase999.txt", "Full", "6,49,0,0,1", ManyDraws(3000));
     Open();
-    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_End);
+    QTest::keyClick(Find<ListBox>(*form_, lotteryList), Qt::Key_End);
     EXPECT_TRUE(TakeFailure());
 }
 
 TEST_F(DrawsHistory, ALockedDatabaseEndsTheRun) {
     Open();
     test_.folder.Lock("dbase101.txt");
-    QTest::keyClick(Find<ListBox>(*form_, "List1"), Qt::Key_Down);
+    QTest::keyClick(Find<ListBox>(*form_, lotteryList), Qt::Key_Down);
     EXPECT_TRUE(TakeFailure());
 }
 
@@ -346,7 +347,7 @@ TEST_F(DrawsHistory, RealHistoriesStandInTheGridAsInTheirFiles) {
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no real histories on this machine";
     test_.today = std::chrono::year(2026) / 8 / 1;
     Open();
-    const auto* lotteries = Find<ListBox>(*form_, "List1");
+    const auto* lotteries = Find<ListBox>(*form_, lotteryList);
     for (int lottery = 0; lottery < lotteries->count(); ++lottery) {
         ChooseLottery(lottery);
         const std::string bytes = Database(test_.state.DbaseFile.c_str());

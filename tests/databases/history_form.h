@@ -15,6 +15,17 @@
 #include "tests/support/form_test.h"
 #include "tests/support/sample_lotteries.h"
 
+inline constexpr const char* updateButton = "Command3";
+inline constexpr const char* deleteButton = "Command2";
+inline constexpr const char* printButton = "Command6";
+inline constexpr const char* closeButton = "Command1";
+inline constexpr const char* drawOrder = "Option1";
+inline constexpr const char* ascendingOrder = "Option2";
+inline constexpr const char* lotteryList = "List1";
+inline constexpr const char* datePicker = "DTPicker1";
+inline constexpr const char* lotteryName = "Label1";
+inline constexpr const char* closingTimer = "Timer1";
+
 /// The form of the draws on UK Lotto with three draws and UK Thunderball with one.
 class HistoryForm : public testing::Test {
   protected:
@@ -39,15 +50,15 @@ class HistoryForm : public testing::Test {
 
     Grid& Draws() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
     bool CanEdit() { return Find<QGroupBox>(*form_, "Frame1")->isEnabled(); }
-    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
-    void ShowAscending() { Find<QRadioButton>(*form_, "Option2")->click(); }
-    void ShowInDrawOrder() { Find<QRadioButton>(*form_, "Option1")->click(); }
+    void ChooseLottery(int index) { Find<ListBox>(*form_, lotteryList)->SetIndex(index); }
+    void ShowAscending() { Find<QRadioButton>(*form_, ascendingOrder)->click(); }
+    void ShowInDrawOrder() { Find<QRadioButton>(*form_, drawOrder)->click(); }
 
     QLineEdit& Box(int index) {
         return *Find<QLineEdit>(*form_, ("Text1(" + std::to_string(index) + ")").c_str());
     }
 
-    QDate PickedDate() { return Find<QDateEdit>(*form_, "DTPicker1")->date(); }
+    QDate PickedDate() { return Find<QDateEdit>(*form_, datePicker)->date(); }
 
     std::string Row(int row) {
         QStringList fields;
@@ -84,8 +95,8 @@ class HistoryForm : public testing::Test {
     }
 
     void Update(const QDate& date) {
-        Find<QDateEdit>(*form_, "DTPicker1")->setDate(date);
-        Click(*form_, "Command3");
+        Find<QDateEdit>(*form_, datePicker)->setDate(date);
+        Click(*form_, updateButton);
     }
 
     std::string Database(const char* file = "dbase100.txt") { return test_.folder.Read(file); }
