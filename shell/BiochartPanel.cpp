@@ -22,17 +22,44 @@ constexpr double highest = 10;
 BiochartPanel::BiochartPanel(Program& program, QWidget* parent)
     : Panel(QStringLiteral("Label7"), tr("   Biochart:"), parent),
       program_(program),
-      dtPicker1_(
+      birthDate_(
           Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), program.services.today(), this),
-                QStringLiteral("DTPicker1"))),
-      update_(MakeButton(Member(QStringLiteral("Command1"), 8), tr("Update"), this)),
-      more_(MakeButton(Member(QStringLiteral("Command1"), 17), tr("More"), this)),
-      today_(Named(new QRadioButton(tr("Today"), this), Member(QStringLiteral("Option1"), 0))),
-      tomorrow_(
-          Named(new QRadioButton(tr("Tomorrow"), this), Member(QStringLiteral("Option1"), 1))),
-      chart_(Named(new Chart(1, seriesCount, this), QStringLiteral("MSChart1"))) {
-    today_->setChecked(true);
+                QStringLiteral("DTPicker1"))) {
+    birthDate_->setAccessibleName(tr("Birth date"));
+    Build();
+    LabelChart();
+}
+
+void BiochartPanel::Build() {
+    auto* title = MakeLabel(QStringLiteral("Label4"), tr("Birth date:"), this);
+    title->setBuddy(birthDate_);
+    auto* update = MakeButton(Member(QStringLiteral("Command1"), 8), tr("Update"), this);
+    more_ = MakeButton(Member(QStringLiteral("Command1"), 17), tr("More"), this);
     more_->setEnabled(false);
+    auto* today = Named(new QRadioButton(tr("Today"), this), Member(QStringLiteral("Option1"), 0));
+    today->setChecked(true);
+    tomorrow_ = Named(new QRadioButton(tr("Tomorrow"), this), Member(QStringLiteral("Option1"), 1));
+    chart_ = Named(new Chart(1, seriesCount, this), QStringLiteral("MSChart1"));
+    connect(update, &QPushButton::clicked, this, &BiochartPanel::DoBiorhythm);
+    connect(more_, &QPushButton::clicked, this, &BiochartPanel::moreWanted);
+    for (QRadioButton* option : {today, tomorrow_}) {
+        connect(option, &QRadioButton::clicked, this, &BiochartPanel::DoBiorhythm);
+    }
+
+    QGridLayout* sheet = Sheet();
+    sheet->addWidget(title, 0, 0);
+    sheet->addWidget(birthDate_, 0, 1, 1, 2);
+    sheet->addWidget(update, 1, 1);
+    sheet->addWidget(more_, 1, 2);
+    sheet->addWidget(today, 2, 1);
+    sheet->addWidget(tomorrow_, 2, 2);
+    sheet->addWidget(chart_, 3, 0, 1, 3);
+    sheet->setColumnStretch(1, 1);
+    sheet->setColumnStretch(2, 1);
+    sheet->setRowStretch(3, 1);
+}
+
+void BiochartPanel::LabelChart() {
     const std::array<QString, seriesCount> series = {tr("Intellectual"), tr("Emotional"),
                                                      tr("Intuition"), tr("Luck")};
     for (int column = 1; column <= seriesCount; ++column) {
@@ -40,44 +67,17 @@ BiochartPanel::BiochartPanel(Program& program, QWidget* parent)
     }
     chart_->SetRange(-highest, highest);
     chart_->setAccessibleName(tr("Biochart"));
-    Build();
-    Connect();
-}
-
-void BiochartPanel::Build() {
-    auto* label4 = MakeLabel(QStringLiteral("Label4"), tr("Birth date:"), this);
-    label4->setBuddy(dtPicker1_);
-    dtPicker1_->setAccessibleName(tr("Birth date"));
-    QGridLayout* sheet = Sheet();
-    sheet->addWidget(label4, 0, 0);
-    sheet->addWidget(dtPicker1_, 0, 1, 1, 2);
-    sheet->addWidget(update_, 1, 1);
-    sheet->addWidget(more_, 1, 2);
-    sheet->addWidget(today_, 2, 1);
-    sheet->addWidget(tomorrow_, 2, 2);
-    sheet->addWidget(chart_, 3, 0, 1, 3);
-    sheet->setColumnStretch(1, 1);
-    sheet->setColumnStretch(2, 1);
-    sheet->setRowStretch(3, 1);
     chart_->setMinimumSize(320, 110);
-}
-
-void BiochartPanel::Connect() {
-    connect(update_, &QPushButton::clicked, this, &BiochartPanel::DoBiorhythm);
-    connect(more_, &QPushButton::clicked, this, &BiochartPanel::moreWanted);
-    for (QRadioButton* option : {today_, tomorrow_}) {
-        connect(option, &QRadioButton::clicked, this, &BiochartPanel::DoBiorhythm);
-    }
 }
 
 void BiochartPanel::ShowBirthDate() {
     const Services& services = program_.services;
-    dtPicker1_->SetValue(DateFromText(program_.state.Settings(setting::BirthDate), services.region,
+    birthDate_->SetValue(DateFromText(program_.state.Settings(setting::BirthDate), services.region,
                                       services.today(), PlaceOf(setting::BirthDate)));
 }
 
 void BiochartPanel::DoBiorhythm() {
-    const Date birthDate = dtPicker1_->Value();
+    const Date birthDate = birthDate_->Value();
     int days = DaysBetween(birthDate, program_.services.today());
     if (tomorrow_->isChecked()) ++days;
     const std::array<double, seriesCount> values = Biochart(days);

@@ -21,7 +21,7 @@ class BiochartPanel final : public Panel {
     /// Draws the chart and keeps the birth date in the settings.
     void DoBiorhythm();
 
-    /// Lets `Command1(17)` lead on; without a form behind it the button is disabled.
+    /// Lets the button More lead on; without a form behind it the button is disabled.
     void SetMoreAvailable(bool available);
 
   Q_SIGNALS:
@@ -29,13 +29,11 @@ class BiochartPanel final : public Panel {
 
   private:
     void Build();
-    void Connect();
+    void LabelChart();
 
     Program& program_;
-    DatePicker* dtPicker1_;
-    QPushButton* update_;
-    QPushButton* more_;
-    QRadioButton* today_;
-    QRadioButton* tomorrow_;
-    Chart* chart_;
+    DatePicker* birthDate_;
+    QPushButton* more_ = nullptr;
+    QRadioButton* tomorrow_ = nullptr;
+    Chart* chart_ = nullptr;
 };

@@ -22,14 +22,14 @@ class ChecklistPanel final : public Panel {
     void ShowChecklist(const Items& items);
 
   private:
-    void Build();
+    void BuildItems();
+    void BuildAdding();
     void SetCaption(std::size_t index, const QString& caption);
-    void Command3_Click();
-    void Command4_Click(std::size_t index);
+    void AddItem();
+    void ClearItem(std::size_t index);
 
     std::array<QString, 8> captions_;
-    std::array<QCheckBox*, 8> check1_{};
-    std::array<QPushButton*, 8> command4_{};
-    QLineEdit* text2_;
-    QPushButton* command3_;
+    std::array<QCheckBox*, 8> items_{};
+    std::array<QPushButton*, 8> clear_{};
+    QLineEdit* newItem_ = nullptr;
 };

@@ -20,7 +20,7 @@ class DatabasesPanel final : public Panel {
     void ShowNames(const std::vector<std::string>& names);
 
   private:
-    ListBox* list1_;
+    ListBox* names_;
 };
 
 /// The current syndicate's name and manager.
@@ -32,8 +32,8 @@ class SyndicatePanel final : public Panel {
     void ShowSyndicate(const std::string& name, const std::string& manager);
 
   private:
-    QLabel* label3_;
-    QLabel* label6_;
+    QLabel* name_;
+    QLabel* manager_;
 };
 
 /// The note pad.
@@ -48,5 +48,5 @@ class NotesPanel final : public Panel {
     void TakeFocus();
 
   private:
-    QPlainTextEdit* text1_;
+    QPlainTextEdit* note_;
 };

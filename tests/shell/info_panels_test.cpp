@@ -434,8 +434,9 @@ TEST_F(InfoPanelsOfWindow, ALongItemOrNameDoesNotWidenTheWindow) {
 TEST_F(InfoPanelsOfWindow, TheKeyboardGoesThroughThemInReadingOrder) {
     StartShown();
     const std::vector<const char*> order = {
-        "DTPicker1",   "Command1(8)", "Option1(0)", "Check1(0)", "Command4(0)", "Check1(1)",
-        "Command4(7)", "Text2",       "Command3",   "List1",     "Text1"};
+        "DTPicker1", "Command1(8)", "Command1(17)", "Option1(0)",  "Option1(1)",
+        "Check1(0)", "Command4(0)", "Check1(1)",    "Command4(7)", "Text2",
+        "Command3",  "List1",       "Text1"};
     std::vector<QString> walked;
     QWidget* start = Find<QWidget>(*window, "Image1(0)");
     for (QWidget* next = start->nextInFocusChain(); next != start;
