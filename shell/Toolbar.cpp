@@ -140,6 +140,12 @@ void Toolbar::MoveBorderTo(int index) {
     for (int i = 0; i < pictureCount; ++i) Picture(i)->SetBordered(i == index);
 }
 
+void Toolbar::leaveEvent(QEvent* event) {
+    // A quick pointer jumps to a control that keeps its moves for itself.
+    QLabel::leaveEvent(event);
+    ClearBorders();
+}
+
 void Toolbar::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
     ClearBorders();

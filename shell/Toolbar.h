@@ -59,6 +59,7 @@ class Toolbar final : public QLabel {
     void clicked(int index);
 
   protected:
+    void leaveEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

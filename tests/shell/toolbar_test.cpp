@@ -108,6 +108,15 @@ TEST_F(ToolbarOfWindow, MovingOverThePanelsTakesTheBorderAway) {
     EXPECT_TRUE(Bordered().empty());
 }
 
+TEST_F(ToolbarOfWindow, LeavingForAPanelInOneJumpTakesTheBorderAway) {
+    Start();
+    Choose("FileNotes");
+    QTest::mouseMove(Picture(4));
+    EXPECT_EQ(Bordered(), std::vector{4});
+    QTest::mouseMove(Find<QWidget>(*window, "Text1"));
+    EXPECT_TRUE(Bordered().empty());
+}
+
 TEST_F(ToolbarOfWindow, TheBorderDoesNotMoveThePictures) {
     Start();
     const QRect before = Picture(5)->geometry();
