@@ -29,7 +29,7 @@ SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::str
 
 }  // namespace
 
-void SaveLines(Program& program, QWidget* form, Grid& grid) {
+void SaveLines(Program& program, Form* form, Grid& grid) {
     grid.SetCurrentCell(1, 1);
     if (grid.Cell(1, 1).isEmpty()) return;
     SaveEntries dialog(program, form);

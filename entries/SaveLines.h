@@ -8,4 +8,4 @@
 ///
 /// What is seen is what is stored: the source is the grid, from row 1, always the first lines; its
 /// first number becomes the current cell. An empty grid does nothing more.
-void SaveLines(Program& program, QWidget* form, Grid& grid);
+void SaveLines(Program& program, Form* form, Grid& grid);

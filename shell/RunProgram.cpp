@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "entries/SaveLines.h"
+#include "platform/forms/Form.h"
 #include "platform/system/Clock.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/LocaleRegion.h"
@@ -29,7 +30,7 @@ int RunProgram(const QString& folderPath) {
                       .saveLines = {},
                       .printLines = {}};
     Program program{.state = *state, .folder = folder, .services = services};
-    services.saveLines = [&program](QWidget* form, Grid& grid) { SaveLines(program, form, grid); };
+    services.saveLines = [&program](Form* form, Grid& grid) { SaveLines(program, form, grid); };
 
     Quillon window(program);
     QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });

@@ -9,8 +9,11 @@
 #include <QPushButton>
 #include <vector>
 
+#include "core/failure.h"
 #include "platform/forms/RoomOnScreen.h"
+#include "platform/forms/SaidLine.h"
 #include "platform/forms/Skin.h"
+#include "platform/system/TextConversion.h"
 #include "platform/widgets/OneLine.h"
 
 namespace {
@@ -33,6 +36,15 @@ Form::Form(Program& program, const QString& name, const QString& caption, QWidge
     : QDialog(parent), program_(program), helpPage_(QStringLiteral("help.html")) {
     setObjectName(name);
     setWindowTitle(caption);
+}
+
+void Form::Say(const QString& text) {
+    auto* said = findChild<SaidLine*>();
+    if (said == nullptr) {
+        throw Failure("The form " + FromQString(objectName()) + " has no row of buttons to say \"" +
+                      FromQString(text) + "\" beside");
+    }
+    said->Say(text);
 }
 
 void Form::reject() { CloseAsTheUserDoes(); }

@@ -30,6 +30,11 @@ class Form : public QDialog {
     /// What the form does when it is loaded: skin, lists, first selection.
     virtual void Load() {}
 
+    /// Says beside the form's buttons, and to screen readers, what an action did, such as "10 lines
+    /// saved for Wed 11 Jun 2025, Anna". It stands there until the next action. A form without a
+    /// row of buttons has no such line, which is a `Failure`.
+    void Say(const QString& text);
+
     void reject() override;
     void setVisible(bool visible) override;
 

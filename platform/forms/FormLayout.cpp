@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/forms/SaidLine.h"
 #include "platform/widgets/Grid.h"
 
 QVBoxLayout* MakeFormLayout(QWidget* form) {
@@ -28,7 +29,7 @@ QHBoxLayout* BuildActionRow(std::initializer_list<QWidget*> commands,
                             std::initializer_list<QWidget*> atRight) {
     auto* row = new QHBoxLayout;
     for (QWidget* command : commands) row->addWidget(command);
-    row->addStretch(1);
+    row->addWidget(new SaidLine, 1);
     for (QWidget* command : atRight) row->addWidget(command);
     return row;
 }

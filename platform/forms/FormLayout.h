@@ -20,7 +20,7 @@ QVBoxLayout* MakeFormLayout(QWidget* form);
 void LayOutForm(QWidget* form, QLabel* title, QLabel* explanation, QLayout* body, QLayout* actions);
 
 /// The row of buttons at the bottom: `commands` from the left, at the right those behind them, the
-/// closing one last.
+/// closing one last. Between them stands the line of `Form::Say`.
 QHBoxLayout* BuildActionRow(std::initializer_list<QWidget*> commands,
                             std::initializer_list<QWidget*> atRight);
 

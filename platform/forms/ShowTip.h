@@ -3,5 +3,7 @@
 
 #include "platform/system/Services.h"
 
+class QWidget;
+
 /// Shows the tip of that number, 1 to 6, over `parent`; any other number shows nothing.
 void ShowTip(Services& services, QWidget* parent, int tip);

@@ -9,24 +9,25 @@
 #include "core/random.h"
 #include "core/state.h"
 
+class Form;
 class Grid;
 class MessageBoxes;
-class QWidget;
 
 /// The world outside the program, built once in `main()`; tests bring their own.
 struct Services {
-    std::function<double()> seconds;                  ///< Monotonic clock, in seconds.
-    std::function<Date()> today;                      ///< The calendar day.
-    Random& random;                                   ///< Source of random numbers.
-    Region region;                                    ///< Dates as the user's region writes them.
-    MessageBoxes& messages;                           ///< Modal questions.
-    std::function<void(const QString&)> openPage;     ///< Opens a web address or a file of the
-                                                      ///< program's folder, without waiting.
-    std::function<void(QWidget*, Grid&)> saveLines;   ///< Saves the lines of a grid.
-    std::function<void(QWidget*, Grid&)> printLines;  ///< Prints them; none: not available yet.
-    std::function<void(QWidget*, Grid&)> printDraws = {};  ///< Prints draws; none: not yet.
-    std::function<void(QWidget&)> printForm = {};  ///< Prints a form as it stands, landscape;
-                                                   ///< none: not available yet.
+    std::function<double()> seconds;               ///< Monotonic clock, in seconds.
+    std::function<Date()> today;                   ///< The calendar day.
+    Random& random;                                ///< Source of random numbers.
+    Region region;                                 ///< Dates as the user's region writes them.
+    MessageBoxes& messages;                        ///< Modal questions.
+    std::function<void(const QString&)> openPage;  ///< Opens a web address or a file of the
+                                                   ///< program's folder, without waiting.
+    std::function<void(Form*, Grid&)> saveLines;   ///< Saves the lines of a grid, and says so in
+                                                   ///< the form.
+    std::function<void(Form*, Grid&)> printLines;  ///< Prints them; none: not available yet.
+    std::function<void(Form*, Grid&)> printDraws = {};  ///< Prints draws; none: not yet.
+    std::function<void(Form&)> printForm = {};          ///< Prints a form as it stands, landscape;
+                                                        ///< none: not available yet.
 };
 
 /// What every form is given.

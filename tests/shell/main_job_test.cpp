@@ -27,7 +27,7 @@ struct ProgramRun {
         : folder(path),
           program{.state = test.state, .folder = folder, .services = test.services},
           window(program) {
-        test.services.saveLines = [this](QWidget* form, Grid& grid) {
+        test.services.saveLines = [this](Form* form, Grid& grid) {
             SaveLines(program, form, grid);
         };
         window.Load();

@@ -17,7 +17,7 @@ class WheelJourney : public testing::Test {
     void SetUp() override {
         AddUkLotto(test_.folder);
         AddThunderball(test_.folder);
-        test_.services.saveLines = [this](QWidget* form, Grid& grid) {
+        test_.services.saveLines = [this](Form* form, Grid& grid) {
             SaveLines(test_.program, form, grid);
         };
         window_ = std::make_unique<Quillon>(test_.program);
