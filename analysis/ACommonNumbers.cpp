@@ -9,6 +9,8 @@
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/HotColdBand.h"
+#include "platform/widgets/HotColdColours.h"
+#include "platform/widgets/OptionGroup.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -51,42 +53,36 @@ void ShowCounts(Chart& chart, const Counts& counts, int rows) {
 
 ACommonNumbers::ACommonNumbers(Program& program, QWidget* parent)
     : AnalysisForm(program, Words(), {}, parent),
-      chart1_(Named(new Chart(0, 1), QStringLiteral("MSChart1"))),
-      chart2_(Named(new Chart(0, 1), QStringLiteral("MSChart2"))),
+      modes_(new OptionGroup(this)),
+      mainChart_(Named(new Chart(0, 1), QStringLiteral("MSChart1"))),
+      extraChart_(Named(new Chart(0, 1), QStringLiteral("MSChart2"))),
       band_(new HotColdBand(QStringLiteral("Label2"), QStringLiteral("Label3"))) {
     AddLotteryList();
-    BuildOptions();
-    chart1_->SetTitle(tr("Number frequency"));
-    chart2_->SetTitle(tr("Bonus number frequency"));
-    chart1_->setMinimumSize(480, 240);
-    chart2_->setMinimumSize(340, 240);
-    Results().addWidget(chart1_, widthBeside);
-    Results().addWidget(chart2_, widthAlone - widthBeside);
+    BuildModes();
+    mainChart_->SetTitle(tr("Number frequency"));
+    extraChart_->SetTitle(tr("Bonus number frequency"));
+    mainChart_->setMinimumSize(480, 240);
+    extraChart_->setMinimumSize(340, 240);
+    Results().addWidget(mainChart_, widthBeside);
+    Results().addWidget(extraChart_, widthAlone - widthBeside);
     band_->Heading().setText(tr("Hot numbers"));
     Foot().addWidget(band_);
-    resize(1180, 640);
+    SetOpeningSize({1180, 640});
 }
 
-void ACommonNumbers::BuildOptions() {
+void ACommonNumbers::BuildModes() {
     Choices().addWidget(AddPrompt(QStringLiteral("Label6"), tr("Pick hot or cold:")));
-    hot_ = Named(new QRadioButton(tr("Hot numbers")), Member(QStringLiteral("Option1"), 0));
-    cold_ = Named(new QRadioButton(tr("Cold numbers")), Member(QStringLiteral("Option1"), 1));
-    hot_->setChecked(true);
-    for (QRadioButton* option : {hot_, cold_}) {
-        Choices().addWidget(option);
-        connect(option, &QRadioButton::clicked, this, [this] { Option1_Click(); });
-    }
+    Choices().addWidget(modes_->Add(QStringLiteral("Option1(0)"), tr("Hot numbers")));
+    Choices().addWidget(modes_->Add(QStringLiteral("Option1(1)"), tr("Cold numbers")));
     Choices().addStretch(1);
+    connect(modes_, &OptionGroup::clicked, this, [this] { ChooseMode(); });
 }
 
-void ACommonNumbers::Load() {
-    coldMode_ = false;
-    AnalysisForm::Load();
-}
+bool ACommonNumbers::Cold() const { return modes_->Index() != 0; }
 
 void ACommonNumbers::LotteryChosen() {
     NumberCounts counts;
-    common_numbers::AnalyseDraws(state(), coldMode_, counts);
+    common_numbers::AnalyseDraws(state(), Cold(), counts);
     DrawChart(counts);
     const TenNumbers numbers = common_numbers::TakeTen(state(), counts.MainCount);
     band_->Numbers().setText(ToQString(TenNumbersText(numbers)));
@@ -95,42 +91,36 @@ void ACommonNumbers::LotteryChosen() {
 void ACommonNumbers::DrawChart(const NumberCounts& counts) {
     DrawMainChart(counts.MainCount);
     const bool alone = state().HasBonus == 0 && state().MaxPball == 0;
-    chart2_->setVisible(!alone);
+    extraChart_->setVisible(!alone);
     if (!alone) DrawExtraChart(counts.ExtraCount);
 }
 
 // The pattern tells hot from cold where colours cannot.
 void ACommonNumbers::DrawMainChart(const Counts& counts) {
-    if (coldMode_) {
-        chart1_->SetPattern(Qt::HorPattern, QColor(0, 0, 255), QColor(0, 0, 128));
-    } else {
-        chart1_->SetPattern(Qt::BDiagPattern, QColor(255, 0, 0), QColor(128, 0, 0));
-    }
-    ShowCounts(*chart1_, counts, state().MaxNum);
+    const bool cold = Cold();
+    const HotColdColours colours = ColoursOfMode(cold);
+    mainChart_->SetPattern(cold ? Qt::HorPattern : Qt::BDiagPattern, colours.pattern, colours.bars);
+    ShowCounts(*mainChart_, counts, state().MaxNum);
 }
 
 // A header below zero tells of a ball but not of which: what the chart shows stays.
 void ACommonNumbers::DrawExtraChart(const Counts& counts) {
     if (state().HasBonus <= 0 && state().MaxPball <= 0) return;
-    const QString mode = coldMode_ ? tr("frequency (cold nums) ") : tr("frequency (hot nums) ");
-    if (state().HasBonus > 0) chart2_->SetTitle(tr(" Bonus ") + mode);
-    if (state().MaxPball > 0) chart2_->SetTitle(tr(" Powerball ") + mode);
-    ShowCounts(*chart2_, counts, common_numbers::ExtraRows(state()));
+    const QString mode = Cold() ? tr("frequency (cold nums) ") : tr("frequency (hot nums) ");
+    if (state().HasBonus > 0) extraChart_->SetTitle(tr(" Bonus ") + mode);
+    if (state().MaxPball > 0) extraChart_->SetTitle(tr(" Powerball ") + mode);
+    ShowCounts(*extraChart_, counts, common_numbers::ExtraRows(state()));
 }
 
-void ACommonNumbers::Option1_Click() {
-    coldMode_ = !hot_->isChecked();
-    ShowMode();
-    List1_Click();
-}
-
-void ACommonNumbers::ShowMode() {
-    const QString words = coldMode_ ? tr("Cold numbers") : tr("Hot numbers");
+void ACommonNumbers::ChooseMode() {
+    const bool cold = Cold();
+    const QString words = cold ? tr("Cold numbers") : tr("Hot numbers");
     setWindowTitle(words);
     Heading().setText(words);
     band_->Heading().setText(words);
-    band_->SetCold(coldMode_);
-    chart1_->SetTitle(coldMode_ ? tr(" Least common (cold) numbers ")
-                                : tr(" Most common (hot) numbers "));
-    Explanation().setText(coldMode_ ? ColdExplanation() : HotExplanation());
+    band_->SetCold(cold);
+    mainChart_->SetTitle(cold ? tr(" Least common (cold) numbers ")
+                              : tr(" Most common (hot) numbers "));
+    Explanation().setText(cold ? ColdExplanation() : HotExplanation());
+    ChooseLottery();
 }

@@ -6,7 +6,7 @@
 
 class Chart;
 class HotColdBand;
-class QRadioButton;
+class OptionGroup;
 
 /// Most common numbers: charts of how often each number was drawn, and the ten hottest or coldest.
 class ACommonNumbers final : public AnalysisForm {
@@ -14,23 +14,19 @@ class ACommonNumbers final : public AnalysisForm {
   public:
     ACommonNumbers(Program& program, QWidget* parent);
 
-    void Load() override;
-
   protected:
     void LotteryChosen() override;
 
   private:
-    void BuildOptions();
-    void Option1_Click();
-    void ShowMode();
+    void BuildModes();
+    bool Cold() const;
+    void ChooseMode();
     void DrawChart(const NumberCounts& counts);
     void DrawMainChart(const Counts& counts);
     void DrawExtraChart(const Counts& counts);
 
-    bool coldMode_ = false;
-    QRadioButton* hot_;
-    QRadioButton* cold_;
-    Chart* chart1_;
-    Chart* chart2_;
+    OptionGroup* modes_;
+    Chart* mainChart_;
+    Chart* extraChart_;
     HotColdBand* band_;
 };

@@ -59,15 +59,15 @@ QLayout* AnalysisForm::BuildActions(const AnalysisNames& names) {
 void AnalysisForm::AddLotteryList() {
     auto* column = new QVBoxLayout;
     column->setSpacing(columnSpacing);
-    list1_ = Named(new ListBox(this), QStringLiteral("List1"));
-    list1_->setFixedSize(listWidth, listHeight);
-    QLabel* label1 = AddPrompt(QStringLiteral("Label1"), tr("Select a lottery:"));
-    list1_->setAccessibleName(label1->text());
-    column->addWidget(label1);
-    column->addWidget(list1_);
+    lotteries_ = Named(new ListBox(this), QStringLiteral("List1"));
+    lotteries_->setFixedSize(listWidth, listHeight);
+    QLabel* title = AddPrompt(QStringLiteral("Label1"), tr("Select a lottery:"));
+    lotteries_->setAccessibleName(title->text());
+    column->addWidget(title);
+    column->addWidget(lotteries_);
     column->addStretch(1);
     top_->insertLayout(0, column);
-    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
+    connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
 }
 
 QLabel* AnalysisForm::AddPrompt(const QString& name, const QString& text) {
@@ -85,13 +85,13 @@ void AnalysisForm::ApplySkin() {
 void AnalysisForm::Load() {
     TabInReadingOrder();
     ApplySkin();
-    if (list1_ == nullptr) return;
-    ListDatabases(program(), *list1_);
-    ChooseFirstLottery(*list1_);
+    if (lotteries_ == nullptr) return;
+    ListDatabases(program(), *lotteries_);
+    ChooseFirstLottery(*lotteries_);
 }
 
-void AnalysisForm::List1_Click() {
+void AnalysisForm::ChooseLottery() {
     const Hourglass hourglass;
-    LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
     LotteryChosen();
 }

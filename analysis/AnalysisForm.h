@@ -44,6 +44,9 @@ class AnalysisForm : public Form {
     /// Puts "Select a lottery:" and the list to the left of the choices.
     void AddLotteryList();
 
+    /// What the lottery list does: loads the database of its choice.
+    void ChooseLottery();
+
     /// What follows a choice of lottery once it is loaded.
     virtual void LotteryChosen() {}
 
@@ -53,7 +56,6 @@ class AnalysisForm : public Form {
     /// A small label before an input; it takes the skin's colour of small labels.
     QLabel* AddPrompt(const QString& name, const QString& text);
 
-    ListBox& List1() { return *list1_; }
     QLabel& Heading() { return *heading_; }
     QLabel& Explanation() { return *explanation_; }
 
@@ -61,12 +63,10 @@ class AnalysisForm : public Form {
     QHBoxLayout& Results() { return *results_; }  ///< Charts or tables.
     QVBoxLayout& Foot() { return *foot_; }        ///< Below the results.
 
-    void List1_Click();
-
   private:
     QLayout* BuildActions(const AnalysisNames& names);
 
-    ListBox* list1_ = nullptr;
+    ListBox* lotteries_ = nullptr;
     QLabel* heading_;
     QLabel* explanation_;
     QStringList prompts_;

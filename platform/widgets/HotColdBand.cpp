@@ -4,12 +4,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "platform/widgets/HotColdColours.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
 
-const QColor hotColour(192, 0, 0);
-const QColor coldColour(0, 0, 192);
 constexpr int air = 7;
 
 QLabel* MakeBandLabel(const QString& name, double size) {
@@ -43,7 +42,7 @@ HotColdBand::HotColdBand(const QString& headingName, const QString& numbersName,
 }
 
 void HotColdBand::SetCold(bool cold) {
-    const QColor colour = cold ? coldColour : hotColour;
+    const QColor colour = ColoursOfMode(cold).words;
     QPalette heading;
     heading.setColor(QPalette::Window, colour);
     heading.setColor(QPalette::WindowText, Qt::white);

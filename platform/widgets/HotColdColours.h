@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+
+/// The reds of hot numbers, the blues of cold ones.
+struct HotColdColours {
+    QColor words;    ///< Texts, and the ground under white text.
+    QColor pattern;  ///< The pattern on the bars of a chart.
+    QColor bars;     ///< The bars under it.
+};
+
+inline HotColdColours ColoursOfMode(bool cold) {
+    if (cold) return {.words = 0x0000c0, .pattern = 0x0000ff, .bars = 0x000080};
+    return {.words = 0xc00000, .pattern = 0xff0000, .bars = 0x800000};
+}
