@@ -10,9 +10,8 @@
 #include "platform/forms/Skin.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/HotColdBand.h"
-#include "platform/widgets/Widgets.h"
-
-using hot_numbers::Mode;
+#include "platform/widgets/OptionGroup.h"
+#include "play/hot_numbers.h"
 
 namespace {
 
@@ -41,46 +40,31 @@ PlayButtonNames Names() {
 
 PHotNumbers::PHotNumbers(Program& program, QWidget* parent)
     : PlayFrame(program, Words(), Names(), lineCount, parent),
+      modes_(new OptionGroup(this)),
       band_(new HotColdBand(QStringLiteral("Label8"), QStringLiteral("Label5"))) {
-    BuildOptions();
+    Column().addWidget(modes_->Add(QStringLiteral("Option1(0)"), tr("Hot numbers")));
+    Column().addWidget(modes_->Add(QStringLiteral("Option1(1)"), tr("Cold numbers")));
+    connect(modes_, &OptionGroup::clicked, this, [this] { ChooseMode(); });
     band_->Heading().setText(tr("Hot numbers"));
     Foot().addWidget(band_);
     // Where the skin has no colours, the numbers keep the one of their mode.
     if (SkinChoiceOf(state()).colours) SetStatusLabel(band_->Numbers().objectName());
 }
 
-void PHotNumbers::BuildOptions() {
-    hot_ = Named(new QRadioButton(tr("Hot numbers")), Member(QStringLiteral("Option1"), 0));
-    cold_ = Named(new QRadioButton(tr("Cold numbers")), Member(QStringLiteral("Option1"), 1));
-    hot_->setChecked(true);
-    for (QRadioButton* option : {hot_, cold_}) {
-        Column().addWidget(option);
-        connect(option, &QRadioButton::clicked, this, [this] { Option1_Click(); });
-    }
-}
+bool PHotNumbers::Cold() const { return modes_->Index() != 0; }
 
-void PHotNumbers::Load() {
-    mode_ = Mode::Hot;
-    PlayFrame::Load();
-}
-
-void PHotNumbers::Generate() {
+void PHotNumbers::MakeLines() {
     ClearLines(state());
     services().random.SeedFromClock();
-    const std::string numbers = hot_numbers::PlayLotto(state(), services().random, mode_);
+    const auto mode = Cold() ? hot_numbers::Mode::Cold : hot_numbers::Mode::Hot;
+    const std::string numbers = hot_numbers::PlayLotto(state(), services().random, mode);
     band_->Numbers().setText(ToQString(numbers));
     PruneDuplicates(state());
     ShowResult();
 }
 
-void PHotNumbers::Option1_Click() {
-    mode_ = hot_->isChecked() ? Mode::Hot : Mode::Cold;
-    ShowMode();
-    List1_Click();
-}
-
-void PHotNumbers::ShowMode() {
-    const bool cold = mode_ == Mode::Cold;
+void PHotNumbers::ChooseMode() {
+    const bool cold = Cold();
     const QString words = cold ? tr("Cold numbers") : tr("Hot numbers");
     setWindowTitle(words);
     Heading().setText(words);
@@ -91,4 +75,5 @@ void PHotNumbers::ShowMode() {
                   "come up soon. These entries pick random cold numbers.")
              : tr("Hot numbers occur more than others in lottery draws. Using them might improve "
                   "your chances of a win. These entries pick random hot numbers."));
+    ChooseLottery();
 }

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "play/PlayFrame.h"
-#include "play/hot_numbers.h"
 
 class HotColdBand;
-class QRadioButton;
+class OptionGroup;
 
 /// Hot numbers: ten lines out of the ten numbers drawn most often, or least often.
 class PHotNumbers final : public PlayFrame {
@@ -13,18 +12,13 @@ class PHotNumbers final : public PlayFrame {
   public:
     PHotNumbers(Program& program, QWidget* parent);
 
-    void Load() override;
-
   protected:
-    void Generate() override;
+    void MakeLines() override;
 
   private:
-    void BuildOptions();
-    void Option1_Click();
-    void ShowMode();
+    bool Cold() const;
+    void ChooseMode();
 
-    hot_numbers::Mode mode_ = hot_numbers::Mode::Hot;
+    OptionGroup* modes_;
     HotColdBand* band_;
-    QRadioButton* hot_;
-    QRadioButton* cold_;
 };

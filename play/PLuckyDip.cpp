@@ -23,11 +23,11 @@ PlayFormText Words() {
 }  // namespace
 
 PLuckyDip::PLuckyDip(Program& program, QWidget* parent) : PlayForm(program, Words(), parent) {
-    auto* command3 = MakeButton(QStringLiteral("Command3"), tr("?"));
-    command3->setAccessibleName(tr("What these conditions do"));
-    command3->setFixedWidth(command3->minimumHeight());
-    ConditionsHeading().addWidget(command3);
-    connect(command3, &QPushButton::clicked, this, [this] { ShowTip(services(), this, 1); });
+    QPushButton* explain = MakeButton(QStringLiteral("Command3"), tr("?"));
+    explain->setAccessibleName(tr("What these conditions do"));
+    explain->setFixedWidth(explain->minimumHeight());
+    ConditionsHeading().addWidget(explain);
+    connect(explain, &QPushButton::clicked, this, [this] { ShowTip(services(), this, 1); });
 }
 
 void PLuckyDip::PlayLotto() { lucky_dip::PlayLotto(state(), services().random, LinesWanted()); }

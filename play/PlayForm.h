@@ -5,6 +5,7 @@
 #include "play/PlayFrame.h"
 
 class QCheckBox;
+class QHBoxLayout;
 class QScrollBar;
 
 /// The frame of a form that tries until its lines comply: it adds the number of lines, the
@@ -21,7 +22,7 @@ class PlayForm : public PlayFrame {
 
     virtual GeneratorStyle Style() const = 0;
 
-    void Generate() override;
+    void MakeLines() override;
 
     /// The place between the number of lines and the condition boxes.
     QVBoxLayout& Inputs() { return *inputs_; }
@@ -34,14 +35,14 @@ class PlayForm : public PlayFrame {
   private:
     QLayout* BuildLineCount();
     void BuildConditions();
-    void HScroll1_Change();
+    void ShowLineCount();
 
-    QScrollBar* hScroll1_;
-    QLabel* label4_;
-    QLabel* label5_;
-    QCheckBox* check1_;
-    QCheckBox* check2_;
-    QCheckBox* check3_;
+    QScrollBar* lineCount_;
+    QLabel* shownLineCount_;
+    QLabel* status_;
+    QCheckBox* oddEven_;
+    QCheckBox* highLow_;
+    QCheckBox* history_;
     QVBoxLayout* inputs_;
     QHBoxLayout* conditionsHeading_;
 };

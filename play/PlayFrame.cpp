@@ -16,11 +16,18 @@
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
 
+namespace {
+
+const QString helpPage = QStringLiteral("helpplay.html");
+
+}  // namespace
+
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
                      int mostLines, QWidget* parent)
     : Form(program, text.name, text.caption, parent),
-      label2_(MakeBody(QStringLiteral("Label2"), text.body)),
-      label7_(MakeTitle(QStringLiteral("Label7"), text.heading)),
+      heading_(MakeTitle(QStringLiteral("Label7"), text.heading)),
+      body_(MakeBody(QStringLiteral("Label2"), text.body)),
+      lotteries_(Named(new ListBox, QStringLiteral("List1"))),
       grid_(Named(new Grid(mostLines + 2, 9), QStringLiteral("MSFlexGrid1"))),
       besideList_(new QVBoxLayout),
       column_(new QVBoxLayout),
@@ -33,27 +40,25 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButto
     middle->addWidget(grid_);
 
     QVBoxLayout* layout = MakeFormLayout(this);
-    layout->addWidget(label7_);
-    layout->addWidget(label2_);
+    layout->addWidget(heading_);
+    layout->addWidget(body_);
     layout->addSpacing(4);
     layout->addLayout(middle, 1);
     layout->addLayout(foot_);
     layout->addLayout(BuildActions(names.help));
     SetOpeningSize({sizeHint().width(), 600});
-    Connect();
-    SetCloseButton(command1_);
-    SetHelpPage(QStringLiteral("helpplay.html"));
+    SetHelpPage(helpPage);
 }
 
 QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
-    label1_ = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
-    list1_ = Titled(label1_, Named(new ListBox, QStringLiteral("List1")));
-    list1_->setMinimumWidth(240);
+    QLabel* title = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
+    Titled(title, lotteries_)->setMinimumWidth(240);
+    connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
     auto* lotteries = new QHBoxLayout;
-    lotteries->addWidget(list1_, 1);
+    lotteries->addWidget(lotteries_, 1);
     lotteries->addLayout(besideList_);
     auto* column = new QVBoxLayout;
-    column->addWidget(label1_);
+    column->addWidget(title);
     column->addLayout(lotteries, 1);
     column->addSpacing(8);
     column->addLayout(column_);
@@ -63,66 +68,55 @@ QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
 }
 
 QLayout* PlayFrame::BuildFilters(const PlayButtonNames& names) {
-    QPushButton* oddEven = MakeButton(names.oddEven, tr("Odd/even"));
-    QPushButton* highLow = MakeButton(names.highLow, tr("High/low"));
-    QPushButton* longRuns = MakeButton(names.longRuns, tr("Long runs"));
-    QPushButton* previousDraws = MakeButton(names.previousDraws, tr("Previous draws"));
-    ConnectFilter(oddEven, &PruneOddEven);
-    ConnectFilter(highLow, &PruneHighLow);
-    ConnectFilter(longRuns, &PruneLongRun);
-    ConnectFilter(previousDraws, &PruneHistory);
     auto* grid = new QGridLayout;
     grid->addWidget(MakeLabel(names.filtersLabel, tr("Filters")), 0, 0, 1, 2);
-    grid->addWidget(oddEven, 1, 0);
-    grid->addWidget(highLow, 1, 1);
-    grid->addWidget(longRuns, 2, 0);
-    grid->addWidget(previousDraws, 2, 1);
+    grid->addWidget(BuildFilter(names.oddEven, tr("Odd/even"), &PruneOddEven), 1, 0);
+    grid->addWidget(BuildFilter(names.highLow, tr("High/low"), &PruneHighLow), 1, 1);
+    grid->addWidget(BuildFilter(names.longRuns, tr("Long runs"), &PruneLongRun), 2, 0);
+    grid->addWidget(BuildFilter(names.previousDraws, tr("Previous draws"), &PruneHistory), 2, 1);
     return grid;
 }
 
-QLayout* PlayFrame::BuildActions(const QString& helpName) {
-    command2_ = MakeIconButton(QStringLiteral("Command2"), QStringLiteral("view-refresh"),
-                               tr("Generate another selection of lottery entries"));
-    command6_ = MakeIconButton(QStringLiteral("Command6"), QStringLiteral("document-print"),
-                               tr("Print out the lottery entries"));
-    command7_ = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
-                               tr("Save these lottery entries to disk"));
-    help_ = MakeButton(helpName, tr(" Help "));
-    command1_ =
-        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
-    command2_->setDefault(true);
-    command6_->setEnabled(static_cast<bool>(services().printLines));
-    return BuildActionRow({command2_, command6_, command7_}, {help_, command1_});
-}
-
-void PlayFrame::Connect() {
-    connect(list1_, &ListBox::clicked, this, [this] { List1_Click(); });
-    connect(command2_, &QPushButton::clicked, this, [this] { Command2_Click(); });
-    connect(command6_, &QPushButton::clicked, this, [this] {
-        if (Lets(busyRules_.printAndSaveWait)) services().printLines(this, *grid_);
-    });
-    connect(command7_, &QPushButton::clicked, this, [this] {
-        if (Lets(busyRules_.printAndSaveWait)) services().saveLines(this, *grid_);
-    });
-    connect(help_, &QPushButton::clicked, this,
-            [this] { services().openPage(QStringLiteral("helpplay.html")); });
-    connect(command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
-}
-
-void PlayFrame::ConnectFilter(QPushButton* button, void (*prune)(State&)) {
-    connect(button, &QPushButton::clicked, this, [this, prune] {
+QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
+                                    void (*prune)(State&)) {
+    QPushButton* filter = MakeButton(name, caption);
+    connect(filter, &QPushButton::clicked, this, [this, prune] {
         if (!Lets(busyRules_.filtersWait)) return;
         prune(state());
         ShowResult();
     });
+    return filter;
+}
+
+QLayout* PlayFrame::BuildActions(const QString& helpName) {
+    QPushButton* generate =
+        MakeIconButton(QStringLiteral("Command2"), QStringLiteral("view-refresh"),
+                       tr("Generate another selection of lottery entries"));
+    QPushButton* print =
+        MakeIconButton(QStringLiteral("Command6"), QStringLiteral("document-print"),
+                       tr("Print out the lottery entries"));
+    QPushButton* save = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
+                                       tr("Save these lottery entries to disk"));
+    QPushButton* help = MakeButton(helpName, tr(" Help "));
+    close_ =
+        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
+    generate->setDefault(true);
+    print->setEnabled(static_cast<bool>(services().printLines));
+    connect(generate, &QPushButton::clicked, this, [this] { Generate(); });
+    connect(print, &QPushButton::clicked, this, [this] { PrintLines(); });
+    connect(save, &QPushButton::clicked, this, [this] { SaveLines(); });
+    connect(help, &QPushButton::clicked, this, [this] { services().openPage(helpPage); });
+    connect(close_, &QPushButton::clicked, this, [this] { Close(); });
+    SetCloseButton(close_);
+    return BuildActionRow({generate, print, save}, {help, close_});
 }
 
 void PlayFrame::Load() {
     TabInReadingOrder();
     state().Busy = 0;
     Skinning(QStringLiteral("SkinPlay.jpg"), SkinnedLabels());
-    ListDatabases(program(), *list1_);
-    ChooseFirstLottery(*list1_);
+    ListDatabases(program(), *lotteries_);
+    ChooseFirstLottery(*lotteries_);
 }
 
 SkinLabels PlayFrame::SkinnedLabels() const {
@@ -138,37 +132,45 @@ void PlayFrame::ShowResult() { ShowLines(state(), *grid_); }
 
 void PlayFrame::EmptyGrid() { WipeLines(*grid_, 1); }
 
-void PlayFrame::DropWaitingInput() { InputDropper::Run(*command1_); }
+void PlayFrame::DropWaitingInput() { InputDropper::Run(*close_); }
 
-void PlayFrame::List1_Click() {
+void PlayFrame::ChooseLottery() {
     if (state().Busy != 0) return;
     {
         const Hourglass hourglass;
         state().Busy = -1;
         ClearLinesGrid(*grid_);
-        LoadDatabase(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+        LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
         DatabaseLoaded();
     }
     state().Busy = 0;
     LotteryChosen();
 }
 
-void PlayFrame::Command2_Click() {
+void PlayFrame::Generate() {
     if (!Lets(busyRules_.generateWaits) || !MayGenerate()) return;
     if (!busyRules_.generateSets) {
-        Generate();
+        MakeLines();
         return;
     }
     {
         const Hourglass hourglass;
         state().Busy = -1;
-        Generate();
+        MakeLines();
     }
     state().Busy = 0;
     if (closeWanted_) Unload();
 }
 
-void PlayFrame::Command1_Click() {
+void PlayFrame::PrintLines() {
+    if (Lets(busyRules_.printAndSaveWait)) services().printLines(this, *grid_);
+}
+
+void PlayFrame::SaveLines() {
+    if (Lets(busyRules_.printAndSaveWait)) services().saveLines(this, *grid_);
+}
+
+void PlayFrame::Close() {
     const bool busy = state().Busy != 0;
     if (busy && busyRules_.close == CloseWhileBusy::Ignored) return;
     // A click that waited while a generator ran closes the form as soon as it is through.

@@ -6,7 +6,6 @@
 
 class Grid;
 class ListBox;
-class QHBoxLayout;
 class QLabel;
 class QLayout;
 class QPushButton;
@@ -33,7 +32,7 @@ struct PlayButtonNames {
 /// What all forms that make lines have in common: lottery list, filter buttons, grid, and the
 /// buttons to generate, print, save, help and close, with what they do.
 ///
-/// A form on this frame tells `Generate` and adds its own controls to `BesideList()`, `Column()`
+/// A form on this frame tells `MakeLines` and adds its own controls to `BesideList()`, `Column()`
 /// and `Foot()`.
 class PlayFrame : public Form {
     Q_OBJECT
@@ -47,7 +46,7 @@ class PlayFrame : public Form {
 
     /// Makes the lines and shows them; `Busy` and the hourglass are set around it where the form's
     /// rules say so.
-    virtual void Generate() = 0;
+    virtual void MakeLines() = 0;
 
     /// Whether the form can make lines of what is chosen; where it cannot, it has said so itself.
     /// Asked before `Busy` is set.
@@ -57,10 +56,16 @@ class PlayFrame : public Form {
     virtual void DatabaseLoaded() {}
 
     /// What follows a choice of lottery once it is loaded: a first set of lines.
-    virtual void LotteryChosen() { Command2_Click(); }
+    virtual void LotteryChosen() { Generate(); }
 
     /// The labels that take the skin's colours.
     virtual SkinLabels SkinnedLabels() const;
+
+    /// What the lottery list does: loads the database of its choice.
+    void ChooseLottery();
+
+    /// What the generate button does: makes lines, unless the form is busy or cannot.
+    void Generate();
 
     /// Takes other rules about `Busy` than the usual ones.
     void SetBusyRules(const BusyRules& rules) { busyRules_ = rules; }
@@ -74,47 +79,35 @@ class PlayFrame : public Form {
     /// Throws away what was clicked and typed during long work, but for the close button.
     void DropWaitingInput();
 
-    /// The place to the right of the lottery list.
-    QVBoxLayout& BesideList() { return *besideList_; }
-
-    /// The column of inputs between the lottery list and the filter buttons.
-    QVBoxLayout& Column() { return *column_; }
-
-    /// The place below inputs and grid, for the status line or the like.
-    QVBoxLayout& Foot() { return *foot_; }
-
-    QLabel& Heading() { return *label7_; }
-    QLabel& Body() { return *label2_; }
-
     /// The name of the label that takes the skin's colour of the status line.
     void SetStatusLabel(const QString& name) { statusLabels_ = {name}; }
 
-    void List1_Click();
-    void Command2_Click();
+    QLabel& Heading() { return *heading_; }
+    QLabel& Body() { return *body_; }
+
+    QVBoxLayout& BesideList() { return *besideList_; }  ///< To the right of the lottery list.
+    QVBoxLayout& Column() { return *column_; }          ///< Inputs, above the filter buttons.
+    QVBoxLayout& Foot() { return *foot_; }              ///< Below inputs and grid.
 
   private:
     QLayout* BuildInputs(const PlayButtonNames& names);
     QLayout* BuildFilters(const PlayButtonNames& names);
+    QPushButton* BuildFilter(const QString& name, const QString& caption, void (*prune)(State&));
     QLayout* BuildActions(const QString& helpName);
-    void Connect();
-    void ConnectFilter(QPushButton* button, void (*prune)(State&));
-    void Command1_Click();
+    void PrintLines();
+    void SaveLines();
+    void Close();
 
     /// Whether a button may act that waits for `Busy` to fall, or does not.
     bool Lets(bool waits) const;
 
     BusyRules busyRules_;
-    ListBox* list1_;
-    QLabel* label1_;
-    QLabel* label2_;
-    QLabel* label7_;
     QStringList statusLabels_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* command6_;
-    QPushButton* command7_;
-    QPushButton* help_;
+    QLabel* heading_;
+    QLabel* body_;
+    ListBox* lotteries_;
     Grid* grid_;
+    QPushButton* close_;
     QVBoxLayout* besideList_;
     QVBoxLayout* column_;
     QVBoxLayout* foot_;

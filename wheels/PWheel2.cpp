@@ -49,6 +49,6 @@ void PWheel2::ShowLottery() {
     }
 }
 
-wheels::Outcome PWheel2::MakeLines(wheels::Boxes& boxes) {
+wheels::Outcome PWheel2::MakeWheel(wheels::Boxes& boxes) {
     return pairs::Generate(state(), services().random, Size(), boxes);
 }

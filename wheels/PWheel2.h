@@ -12,5 +12,5 @@ class PWheel2 final : public WheelFrame {
   protected:
     void SizeChosen() override;
     void ShowLottery() override;
-    wheels::Outcome MakeLines(wheels::Boxes& boxes) override;
+    wheels::Outcome MakeWheel(wheels::Boxes& boxes) override;
 };

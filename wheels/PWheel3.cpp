@@ -51,6 +51,6 @@ void PWheel3::ShowLottery() {
     if (advice) label4_->setText(ToQString(*advice));
 }
 
-wheels::Outcome PWheel3::MakeLines(wheels::Boxes& boxes) {
+wheels::Outcome PWheel3::MakeWheel(wheels::Boxes& boxes) {
     return triplets::Generate(state(), services().random, Size(), boxes);
 }

@@ -13,7 +13,7 @@ class PWheel3 final : public WheelFrame {
   protected:
     void SizeChosen() override;
     void ShowLottery() override;
-    wheels::Outcome MakeLines(wheels::Boxes& boxes) override;
+    wheels::Outcome MakeWheel(wheels::Boxes& boxes) override;
 
   private:
     QLabel* label4_;

@@ -205,9 +205,9 @@ void WheelFrame::DatabaseLoaded() {
     Write(boxes);
 }
 
-void WheelFrame::Generate() {
+void WheelFrame::MakeLines() {
     wheels::Boxes boxes = Read();
-    const wheels::Outcome outcome = MakeLines(boxes);
+    const wheels::Outcome outcome = MakeWheel(boxes);
     Write(boxes);
     if (outcome == wheels::Outcome::Done) {
         ShowResult();

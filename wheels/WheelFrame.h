@@ -29,7 +29,7 @@ struct BoxGrouping {
 /// their keys, random selection and random order, and a generate that reads and writes them. In
 /// what they differ stands in the form's row of `wheels/wheel_forms.h`.
 ///
-/// A form on this frame tells `SizeChosen` and `MakeLines`. Choosing a lottery makes no lines, as
+/// A form on this frame tells `SizeChosen` and `MakeWheel`. Choosing a lottery makes no lines, as
 /// the numbers are the user's.
 class WheelFrame : public PlayFrame {
     Q_OBJECT
@@ -51,9 +51,9 @@ class WheelFrame : public PlayFrame {
     virtual void ShowLottery() {}
 
     /// Makes `state().Lines` from the boxes, whose texts and use are then shown as they were left.
-    virtual wheels::Outcome MakeLines(wheels::Boxes& boxes) = 0;
+    virtual wheels::Outcome MakeWheel(wheels::Boxes& boxes) = 0;
 
-    void Generate() override;
+    void MakeLines() override;
     void DatabaseLoaded() override;
     void LotteryChosen() override {}
     SkinLabels SkinnedLabels() const override;

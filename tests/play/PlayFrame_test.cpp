@@ -28,7 +28,7 @@ class WatchingForm final : public PlayFrame {
   protected:
     void DatabaseLoaded() override { loaded.push_back(Look()); }
 
-    void Generate() override {
+    void MakeLines() override {
         generated.push_back(Look());
         state().Lines(1, 1) = 7;
         state().Lines(2, 1) = 0;

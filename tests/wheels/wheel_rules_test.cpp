@@ -42,7 +42,7 @@ class RuledForm final : public WheelFrame {
         busyBefore = state().Busy;
         return suitsLottery;
     }
-    wheels::Outcome MakeLines(wheels::Boxes&) override {
+    wheels::Outcome MakeWheel(wheels::Boxes&) override {
         busyAtWork = state().Busy;
         state().Lines(1, 1) = outcome == wheels::Outcome::Done ? 7 : 0;
         state().Lines(2, 1) = 0;
