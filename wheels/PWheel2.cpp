@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wheels/PWheel2.h"
 
-#include <QRadioButton>
-
 #include "platform/system/TextConversion.h"
 #include "wheels/pairs_triplets.h"
 
@@ -42,12 +40,7 @@ void PWheel2::SizeChosen() {
     SetPrompt(pairs::Prompt(Size()));
 }
 
-void PWheel2::ShowLottery() {
-    const QStringList captions = Captions(state().Picks);
-    for (int option = 0; option < pairs::optionCount; ++option) {
-        SizeOption(option).setText(captions[option]);
-    }
-}
+void PWheel2::ShowLottery() { SetSizeCaptions(Captions(state().Picks)); }
 
 wheels::Outcome PWheel2::MakeWheel(wheels::Boxes& boxes) {
     return pairs::Generate(state(), services().random, Size(), boxes);

@@ -36,9 +36,9 @@ QStringList Captions() {
 PWheel3::PWheel3(Program& program, QWidget* parent)
     : WheelFrame(program, Words(), WheelButtonNames(QStringLiteral("Command3")), grouping,
                  mostLines, parent),
-      label4_(MakeLabel(QStringLiteral("Label4"), QString())) {
+      advice_(MakeLabel(QStringLiteral("Label4"), QString())) {
     AddSizes(Captions());
-    Foot().addWidget(label4_);
+    Foot().addWidget(advice_);
 }
 
 void PWheel3::SizeChosen() {
@@ -48,7 +48,7 @@ void PWheel3::SizeChosen() {
 
 void PWheel3::ShowLottery() {
     const auto advice = triplets::Advice(state().Picks);
-    if (advice) label4_->setText(ToQString(*advice));
+    if (advice) advice_->setText(ToQString(*advice));
 }
 
 wheels::Outcome PWheel3::MakeWheel(wheels::Boxes& boxes) {

@@ -16,5 +16,5 @@ class PWheel3 final : public WheelFrame {
     wheels::Outcome MakeWheel(wheels::Boxes& boxes) override;
 
   private:
-    QLabel* label4_;
+    QLabel* advice_;
 };

@@ -12,6 +12,7 @@
 #include "platform/forms/ShowTip.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/OptionGroup.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -81,10 +82,12 @@ WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayBut
                        const BoxGrouping& grouping, int mostLines, QWidget* parent)
     : PlayFrame(program, text, names, mostLines, parent),
       rules_(wheels::RulesOf(FromQString(text.name))),
-      label8_(MakeLabel(QStringLiteral("Label8"), QString())) {
+      sizes_(new OptionGroup(this)),
+      prompt_(MakeLabel(QStringLiteral("Label8"), QString())) {
     SetBusyRules(rules_.busy);
-    label8_->hide();
-    Column().addWidget(label8_);
+    connect(sizes_, &OptionGroup::clicked, this, [this] { SizeChosen(); });
+    prompt_->hide();
+    Column().addWidget(prompt_);
     Column().addLayout(BuildBoxes(grouping));
     Column().addSpacing(4);
     Column().addLayout(BuildRandomButtons());
@@ -118,41 +121,36 @@ QLineEdit* WheelFrame::BuildBox(int index) {
     box->setMinimumWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("00000")));
     box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     box->installEventFilter(this);
-    text1_.push_back(box);
+    inputs_.push_back({.box = box, .inUse = false});
     return box;
 }
 
 QLayout* WheelFrame::BuildRandomButtons() {
-    command12_ = MakeButton(QStringLiteral("Command12"), tr("Random selection"));
-    command8_ = MakeButton(QStringLiteral("Command8"), tr("Random order"));
-    connect(command12_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.select); });
-    connect(command8_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.mix); });
+    randomSelection_ = MakeButton(QStringLiteral("Command12"), tr("Random selection"));
+    randomOrder_ = MakeButton(QStringLiteral("Command8"), tr("Random order"));
+    connect(randomSelection_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.select); });
+    connect(randomOrder_, &QPushButton::clicked, this, [this] { Change(rules_.boxes.mix); });
     auto* row = new QHBoxLayout;
-    row->addWidget(command12_);
-    row->addWidget(command8_);
+    row->addWidget(randomSelection_);
+    row->addWidget(randomOrder_);
     return row;
 }
 
 void WheelFrame::AddSizes(const QStringList& captions) {
-    for (const QString& caption : captions) {
-        const auto option = static_cast<int>(sizes_.size());
-        auto* size = Named(new QRadioButton(caption), Member(QStringLiteral("Option1"), option));
-        size->setChecked(option == 0);
-        connect(size, &QRadioButton::clicked, this, [this] { SizeChosen(); });
-        connect(size, &QRadioButton::toggled, this, [this](bool chosen) {
-            if (chosen) SizeChosen();
-        });
-        sizes_.push_back(size);
-        BesideList().addWidget(size);
+    for (int option = 0; option < captions.size(); ++option) {
+        BesideList().addWidget(
+            sizes_->Add(Member(QStringLiteral("Option1"), option), captions[option]));
     }
     BesideList().addStretch(1);
 }
 
-int WheelFrame::Size() const {
-    int option = 0;
-    while (!sizes_.at(static_cast<std::size_t>(option))->isChecked()) ++option;
-    return option;
+void WheelFrame::SetSizeCaptions(const QStringList& captions) {
+    for (int option = 0; option < captions.size(); ++option) {
+        sizes_->Option(option).setText(captions[option]);
+    }
 }
+
+int WheelFrame::Size() const { return sizes_->Index(); }
 
 void WheelFrame::Load() {
     SizeChosen();
@@ -164,19 +162,17 @@ SkinLabels WheelFrame::SkinnedLabels() const { return WheelSkinLabels(objectName
 void WheelFrame::UseBoxes(int count) {
     wheels::Boxes boxes = Read();
     wheels::ChooseSize(boxes, count, rules_.boxes.unusedTexts);
-    boxesInUse_ = count;
     Write(boxes);
 }
 
 void WheelFrame::SetPrompt(const std::string& text) {
-    label8_->setText(ToQString(text));
-    label8_->show();
+    prompt_->setText(ToQString(text));
+    prompt_->show();
 }
 
 wheels::Boxes WheelFrame::Read() const {
     wheels::Boxes boxes;
-    for (const QLineEdit* box : text1_) {
-        const bool inUse = static_cast<int>(boxes.size()) < boxesInUse_;
+    for (const auto& [box, inUse] : inputs_) {
         boxes.push_back({.text = FromQString(box->text()), .inUse = inUse});
     }
     return boxes;
@@ -184,11 +180,12 @@ wheels::Boxes WheelFrame::Read() const {
 
 void WheelFrame::Write(const wheels::Boxes& boxes) {
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        QLineEdit& box = *text1_[i];
+        auto& [box, inUse] = inputs_[i];
+        inUse = boxes[i].inUse;
         const QString text = ToQString(boxes[i].text);
-        if (box.text() != text) box.setText(text);
-        Paint(box, boxes[i].inUse ? white : grey);
-        box.setEnabled(boxes[i].inUse || !rules_.boxes.unusedDisabled);
+        if (box->text() != text) box->setText(text);
+        Paint(*box, inUse ? white : grey);
+        box->setEnabled(inUse || !rules_.boxes.unusedDisabled);
     }
 }
 
@@ -225,15 +222,16 @@ void WheelFrame::FocusWrongBox() {
         return box.inUse && !rules_.boxes.accepts(box, state().MaxNum);
     });
     if (wrong == boxes.end()) return;
-    QLineEdit& box = *text1_[static_cast<std::size_t>(wrong - boxes.begin())];
+    QLineEdit& box = *inputs_[static_cast<std::size_t>(wrong - boxes.begin())].box;
     box.setFocus();
     box.selectAll();
 }
 
 void WheelFrame::MoveOn(const QObject* from) {
-    const auto box = std::find(text1_.begin(), text1_.end(), from);
-    if (box == text1_.end() || box + 1 == text1_.end()) return;
-    if ((*(box + 1))->isEnabled()) (*(box + 1))->setFocus();
+    const auto input = std::ranges::find(inputs_, from, &NumberInput::box);
+    if (input == inputs_.end() || input + 1 == inputs_.end()) return;
+    QLineEdit& next = *(input + 1)->box;
+    if (next.isEnabled()) next.setFocus();
 }
 
 // Enter in a box starts nothing, as it would in the rest of the form.

@@ -8,9 +8,9 @@
 #include "wheels/number_boxes.h"
 #include "wheels/wheel_forms.h"
 
+class OptionGroup;
 class QLineEdit;
 class QPushButton;
-class QRadioButton;
 
 /// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
 PlayButtonNames WheelButtonNames(const QString& help);
@@ -65,19 +65,26 @@ class WheelFrame : public PlayFrame {
     /// The first size that is chosen.
     int Size() const;
 
-    QRadioButton& SizeOption(int option) { return *sizes_.at(static_cast<std::size_t>(option)); }
+    /// Other words for the sizes.
+    void SetSizeCaptions(const QStringList& captions);
 
-    /// The buttons `Command12` and `Command8`, for the tool-tips that some forms give them.
-    QPushButton& RandomSelection() { return *command12_; }
-    QPushButton& RandomOrder() { return *command8_; }
+    /// Two buttons, for the tool-tips that some forms give them.
+    QPushButton& RandomSelection() { return *randomSelection_; }
+    QPushButton& RandomOrder() { return *randomOrder_; }
 
     /// Puts the first `count` boxes to use.
     void UseBoxes(int count);
 
-    /// The text of `Label8`, leading blanks and all; a form without a prompt does not show it.
+    /// Words the prompt over the boxes, leading blanks and all; a form without one shows none.
     void SetPrompt(const std::string& text);
 
   private:
+    /// A box of the form and whether it is shown as in use.
+    struct NumberInput {
+        QLineEdit* box;
+        bool inUse;
+    };
+
     QLayout* BuildBoxes(const BoxGrouping& grouping);
     QLineEdit* BuildBox(int index);
     QLayout* BuildRandomButtons();
@@ -88,10 +95,9 @@ class WheelFrame : public PlayFrame {
     void FocusWrongBox();
 
     const wheels::WheelFormRules& rules_;
-    QLabel* label8_;
-    QPushButton* command12_;
-    QPushButton* command8_;
-    std::vector<QLineEdit*> text1_;
-    std::vector<QRadioButton*> sizes_;
-    int boxesInUse_ = 0;
+    OptionGroup* sizes_;
+    QLabel* prompt_;
+    std::vector<NumberInput> inputs_;
+    QPushButton* randomSelection_;
+    QPushButton* randomOrder_;
 };

@@ -27,22 +27,29 @@ class RuledForm final : public WheelFrame {
         }
     }
 
+    using WheelFrame::AddSizes;
     using WheelFrame::EmptyGrid;
     using WheelFrame::RandomOrder;
     using WheelFrame::RandomSelection;
     using WheelFrame::UseBoxes;
     wheels::Outcome outcome = wheels::Outcome::Done;
     bool suitsLottery = true;
+    bool putsFirstBoxOutOfUse = false;
+    int sizesChosen = 0;
     int busyBefore = 1;  ///< What `Busy` was when the form was asked whether it may generate.
     int busyAtWork = 1;  ///< What `Busy` was while the lines were made.
 
   protected:
-    void SizeChosen() override { UseBoxes(8); }
+    void SizeChosen() override {
+        ++sizesChosen;
+        UseBoxes(8);
+    }
     bool MayGenerate() override {
         busyBefore = state().Busy;
         return suitsLottery;
     }
-    wheels::Outcome MakeWheel(wheels::Boxes&) override {
+    wheels::Outcome MakeWheel(wheels::Boxes& boxes) override {
+        if (putsFirstBoxOutOfUse) boxes[0].inUse = false;
         busyAtWork = state().Busy;
         state().Lines(1, 1) = outcome == wheels::Outcome::Done ? 7 : 0;
         state().Lines(2, 1) = 0;
@@ -71,6 +78,30 @@ TEST_F(WheelRules, DisableAndEmptyTheBoxesOutOfUse) {
             EXPECT_EQ(Box(index).text(), index < 10 ? QStringLiteral("7") : QString());
         }
     }
+}
+
+TEST_F(WheelRules, TellOfASizeOnceForEachChoice) {
+    auto form = std::make_unique<RuledForm>(test_.program, QStringLiteral("PWheel2"));
+    form->AddSizes({QStringLiteral("Small"), QStringLiteral("Large")});
+    ShowForm(std::move(form));
+    EXPECT_EQ(Ruled().sizesChosen, 1) << "at the load";
+    ChooseSize(1);
+    EXPECT_EQ(Ruled().sizesChosen, 2);
+    ChooseSize(1);
+    EXPECT_EQ(Ruled().sizesChosen, 3) << "the one chosen already";
+    Find<QRadioButton>(*form_, "Option1(0)")->setChecked(true);
+    EXPECT_EQ(Ruled().sizesChosen, 4) << "in code";
+}
+
+TEST_F(WheelRules, FollowAWheelThatPutsABoxOutOfUse) {
+    Open("PDIYWheels");
+    Ruled().putsFirstBoxOutOfUse = true;
+    Click(*form_, "Command2");
+    EXPECT_EQ(Background(0), grey);
+    EXPECT_FALSE(Box(0).isEnabled());
+    Click(*form_, "Command12");
+    EXPECT_EQ(Box(0).text(), QString()) << "a random selection leaves it out";
+    EXPECT_FALSE(Box(1).text().isEmpty());
 }
 
 TEST_F(WheelRules, NumberTheBoxesOfAFormWithoutLetters) {
