@@ -19,6 +19,20 @@ namespace {
 const QColor red(192, 0, 0);
 const QColor blue(0, 0, 192);
 
+constexpr const char* headingLabel = "Label4";
+constexpr const char* explanationLabel = "Label5";
+constexpr const char* lotteryPrompt = "Label1";
+constexpr const char* lotteryList = "List1";
+constexpr const char* modePrompt = "Label6";
+constexpr const char* hotOption = "Option1(0)";
+constexpr const char* coldOption = "Option1(1)";
+constexpr const char* mainChart = "MSChart1";
+constexpr const char* extraChart = "MSChart2";
+constexpr const char* tenNumbersHeading = "Label2";
+constexpr const char* tenNumbers = "Label3";
+constexpr const char* printButton = "Command6";
+constexpr const char* closeButton = "Command1";
+
 class CommonNumbersForm : public testing::Test {
   protected:
     CommonNumbersForm() {
@@ -35,14 +49,14 @@ class CommonNumbersForm : public testing::Test {
     }
 
     void Choose(int index) {
-        Find<ListBox>(*form_, "List1")->SetIndex(index);
+        Find<ListBox>(*form_, lotteryList)->SetIndex(index);
         QApplication::processEvents();
     }
 
     QLabel& Label(const char* name) { return *Find<QLabel>(*form_, name); }
     QString Text(const char* name) { return Label(name).text(); }
-    Chart& MainChart() { return *Find<Chart>(*form_, "MSChart1"); }
-    Chart& ExtraChart() { return *Find<Chart>(*form_, "MSChart2"); }
+    Chart& MainChart() { return *Find<Chart>(*form_, mainChart); }
+    Chart& ExtraChart() { return *Find<Chart>(*form_, extraChart); }
 
     static std::vector<int> Figures(const Chart& chart) {
         std::vector<int> figures;
@@ -78,58 +92,58 @@ TEST_F(CommonNumbersForm, OpensWithTheWordsOfItsDesign) {
     Open();
     EXPECT_EQ(form_->objectName(), QStringLiteral("ACommonNumbers"));
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Most Common Numbers"));
-    EXPECT_EQ(Text("Label1"), QStringLiteral("Select a lottery:"));
-    EXPECT_EQ(Text("Label6"), QStringLiteral("Pick hot or cold:"));
-    EXPECT_EQ(Text("Label2"), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Text("Label4"), QStringLiteral("Hot Numbers"));
+    EXPECT_EQ(Text(lotteryPrompt), QStringLiteral("Select a lottery:"));
+    EXPECT_EQ(Text(modePrompt), QStringLiteral("Pick hot or cold:"));
+    EXPECT_EQ(Text(tenNumbersHeading), QStringLiteral("Hot numbers"));
+    EXPECT_EQ(Text(headingLabel), QStringLiteral("Hot Numbers"));
     EXPECT_EQ(MainChart().title(), QStringLiteral("Number frequency"));
-    EXPECT_EQ(Find<QRadioButton>(*form_, "Option1(0)")->text(), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Find<QRadioButton>(*form_, "Option1(1)")->text(), QStringLiteral("Cold numbers"));
+    EXPECT_EQ(Find<QRadioButton>(*form_, hotOption)->text(), QStringLiteral("Hot numbers"));
+    EXPECT_EQ(Find<QRadioButton>(*form_, coldOption)->text(), QStringLiteral("Cold numbers"));
 }
 
 TEST_F(CommonNumbersForm, OpensHotOnTheFirstLottery) {
     Open();
-    EXPECT_EQ(Find<ListBox>(*form_, "List1")->Index(), 0);
-    EXPECT_TRUE(Find<QRadioButton>(*form_, "Option1(0)")->isChecked());
+    EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->Index(), 0);
+    EXPECT_TRUE(Find<QRadioButton>(*form_, hotOption)->isChecked());
     EXPECT_EQ(MainChart().rowCount(), 49);
     EXPECT_EQ(MainChart().value(17, 1), 1);
     EXPECT_EQ(MainChart().value(18, 1), 0);
     EXPECT_EQ(MainChart().patternColour(), QColor(255, 0, 0));
     EXPECT_EQ(MainChart().fillColour(), QColor(128, 0, 0));
-    EXPECT_EQ(Text("Label3"), QStringLiteral("1, 2, 3, 13, 17, 22, 24, 34, 35, 41"));
+    EXPECT_EQ(Text(tenNumbers), QStringLiteral("1, 2, 3, 13, 17, 22, 24, 34, 35, 41"));
 }
 
 TEST_F(CommonNumbersForm, ShowsTheColdTextsColoursAndFigures) {
     Open();
-    Click(*form_, "Option1(1)");
+    Click(*form_, coldOption);
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Cold numbers"));
-    EXPECT_EQ(Text("Label4"), QStringLiteral("Cold numbers"));
-    EXPECT_EQ(Text("Label2"), QStringLiteral("Cold numbers"));
-    EXPECT_EQ(Label("Label2").palette().color(QPalette::Window), blue);
-    EXPECT_EQ(Label("Label3").palette().color(QPalette::WindowText), blue);
+    EXPECT_EQ(Text(headingLabel), QStringLiteral("Cold numbers"));
+    EXPECT_EQ(Text(tenNumbersHeading), QStringLiteral("Cold numbers"));
+    EXPECT_EQ(Label(tenNumbersHeading).palette().color(QPalette::Window), blue);
+    EXPECT_EQ(Label(tenNumbers).palette().color(QPalette::WindowText), blue);
     EXPECT_EQ(MainChart().title(), QStringLiteral(" Least common (cold) numbers "));
     EXPECT_EQ(MainChart().patternColour(), QColor(0, 0, 255));
     EXPECT_EQ(MainChart().fillColour(), QColor(0, 0, 128));
-    EXPECT_EQ(Text("Label5"),
+    EXPECT_EQ(Text(explanationLabel),
               QStringLiteral("These charts show which numbers appear the least often. If a lottery "
                              "is random, all numbers should appear an equal number of times. The "
                              "coldest numbers (the ones with the tallest bars in the charts below "
                              ") are therefore overdue. Maybe you should pick them!"));
-    EXPECT_EQ(Text("Label3"), QStringLiteral("4, 5, 6, 7, 8, 9, 10, 11, 12, 14"));
+    EXPECT_EQ(Text(tenNumbers), QStringLiteral("4, 5, 6, 7, 8, 9, 10, 11, 12, 14"));
 }
 
 TEST_F(CommonNumbersForm, ShowsTheHotTextsAndColoursOnTheWayBack) {
     Open();
-    Click(*form_, "Option1(1)");
-    Click(*form_, "Option1(0)");
+    Click(*form_, coldOption);
+    Click(*form_, hotOption);
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Text("Label4"), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Text("Label2"), QStringLiteral("Hot numbers"));
-    EXPECT_EQ(Label("Label2").palette().color(QPalette::Window), red);
-    EXPECT_EQ(Label("Label3").palette().color(QPalette::WindowText), red);
+    EXPECT_EQ(Text(headingLabel), QStringLiteral("Hot numbers"));
+    EXPECT_EQ(Text(tenNumbersHeading), QStringLiteral("Hot numbers"));
+    EXPECT_EQ(Label(tenNumbersHeading).palette().color(QPalette::Window), red);
+    EXPECT_EQ(Label(tenNumbers).palette().color(QPalette::WindowText), red);
     EXPECT_EQ(MainChart().title(), QStringLiteral(" Most common (hot) numbers "));
     EXPECT_EQ(MainChart().patternColour(), QColor(255, 0, 0));
-    EXPECT_EQ(Text("Label5"),
+    EXPECT_EQ(Text(explanationLabel),
               QStringLiteral("These charts show how many times each number has appeared in the "
                              "lottery draw result. Is there a reason why some numbers come up more "
                              "often than others? Are the balls bigger or heavier? Whatever the "
@@ -140,7 +154,7 @@ TEST_F(CommonNumbersForm, GivesAHottestNumberABarOfHeightZeroInColdMode) {
     Open();
     ASSERT_EQ(MainChart().value(17, 1), 1);
     ASSERT_EQ(MainChart().value(18, 1), 0);
-    Click(*form_, "Option1(1)");
+    Click(*form_, coldOption);
     EXPECT_EQ(MainChart().value(17, 1), 0);
     EXPECT_EQ(MainChart().value(18, 1), 1);
 }
@@ -150,7 +164,7 @@ TEST_F(CommonNumbersForm, ChartsTheBonusOfABonusLottery) {
     EXPECT_EQ(ExtraChart().title(), QStringLiteral(" Bonus frequency (hot nums) "));
     EXPECT_EQ(ExtraChart().rowCount(), 49);
     EXPECT_EQ(ExtraChart().value(9, 1), 1);
-    Click(*form_, "Option1(1)");
+    Click(*form_, coldOption);
     EXPECT_EQ(ExtraChart().title(), QStringLiteral(" Bonus frequency (cold nums) "));
     EXPECT_EQ(ExtraChart().value(9, 1), 0);
     EXPECT_EQ(ExtraChart().value(10, 1), 1);
@@ -162,7 +176,7 @@ TEST_F(CommonNumbersForm, ChartsTheExtraBall) {
     EXPECT_EQ(ExtraChart().title(), QStringLiteral(" Powerball frequency (hot nums) "));
     EXPECT_EQ(ExtraChart().rowCount(), 14);
     EXPECT_EQ(ExtraChart().value(6, 1), 1);
-    Click(*form_, "Option1(1)");
+    Click(*form_, coldOption);
     EXPECT_EQ(ExtraChart().title(), QStringLiteral(" Powerball frequency (cold nums) "));
     EXPECT_EQ(ExtraChart().value(6, 1), 0);
 }
@@ -210,11 +224,11 @@ TEST_F(CommonNumbersForm, ShowsOneWideChartForALotteryWithNeither) {
 
 TEST_F(CommonNumbersForm, ShowsBarsOfZeroAndTenOnesForALotteryWithoutDraws) {
     Open();
-    for (const char* option : {"Option1(0)", "Option1(1)"}) {
+    for (const char* option : {hotOption, coldOption}) {
         Click(*form_, option);
         Choose(2);
         EXPECT_EQ(Figures(MainChart()), std::vector<int>(27, 0));
-        EXPECT_EQ(Text("Label3"), QStringLiteral("1, 1, 1, 1, 1, 1, 1, 1, 1, 1"));
+        EXPECT_EQ(Text(tenNumbers), QStringLiteral("1, 1, 1, 1, 1, 1, 1, 1, 1, 1"));
     }
 }
 
@@ -222,7 +236,7 @@ TEST_F(CommonNumbersForm, RepeatsANumberInTheTextOfALotteryOfFewerThanTen) {
     AddLottery(test_.folder, "dbase103.txt", "Small", "2,5,0,0,0", {"28 May 05,3,5,0,0,0,0,0,0"});
     Open();
     Choose(3);
-    EXPECT_EQ(Text("Label3"), QStringLiteral("3, 5, 1, 1, 1, 1, 1, 1, 1, 1"));
+    EXPECT_EQ(Text(tenNumbers), QStringLiteral("3, 5, 1, 1, 1, 1, 1, 1, 1, 1"));
     EXPECT_EQ(Figures(MainChart()), (std::vector<int>{0, 0, 1, 0, 1}));
 }
 
@@ -232,23 +246,23 @@ TEST_F(CommonNumbersForm, PutsTheLowerOfTwoThatTieFirstInBothModes) {
         {"28 May 05,2,4,0,0,0,0,0,0", "27 May 05,2,4,0,0,0,0,0,0", "26 May 05,1,3,0,0,0,0,0,0"});
     Open();
     Choose(3);
-    EXPECT_TRUE(Text("Label3").startsWith(QStringLiteral("2, 4, 1, 3, 5")));
-    Click(*form_, "Option1(1)");
-    EXPECT_TRUE(Text("Label3").startsWith(QStringLiteral("5, 1, 3, 2")));
+    EXPECT_TRUE(Text(tenNumbers).startsWith(QStringLiteral("2, 4, 1, 3, 5")));
+    Click(*form_, coldOption);
+    EXPECT_TRUE(Text(tenNumbers).startsWith(QStringLiteral("5, 1, 3, 2")));
 }
 
 TEST_F(CommonNumbersForm, ReadsTheDatabaseAgainOnAChangeOfMode) {
     Open();
     AddLottery(test_.folder, "dbase100.txt", "UK Lotto", "6,49,0,0,1",
                {"01 Jun 05,40,41,42,43,44,45,0,9"});
-    Click(*form_, "Option1(0)");
-    EXPECT_EQ(Text("Label3"), QStringLiteral("40, 41, 42, 43, 44, 45, 1, 1, 1, 1"));
+    Click(*form_, hotOption);
+    EXPECT_EQ(Text(tenNumbers), QStringLiteral("40, 41, 42, 43, 44, 45, 1, 1, 1, 1"));
 }
 
 TEST_F(CommonNumbersForm, ShowsTheHourglassWhileALotteryIsLoadedAndCharted) {
     Open();
     const HourglassWatch watch(ExtraChart(), QEvent::HideToParent);
-    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    Find<ListBox>(*form_, lotteryList)->SetIndex(2);
     EXPECT_EQ(watch.UnderHourglass(), 1);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
@@ -267,27 +281,27 @@ TEST_F(CommonNumbersForm, TakesTheSkinsColours) {
     test_.state.Settings(3) = "&H000003";
     test_.state.Settings(5) = "&H00FFEEDD";
     Open();
-    EXPECT_EQ(Label("Label4").palette().color(QPalette::WindowText), QColor(1, 0, 0));
-    EXPECT_EQ(Label("Label5").palette().color(QPalette::WindowText), QColor(2, 0, 0));
-    EXPECT_EQ(Label("Label1").palette().color(QPalette::WindowText), QColor(3, 0, 0));
-    EXPECT_EQ(Label("Label6").palette().color(QPalette::WindowText), QColor(3, 0, 0));
+    EXPECT_EQ(Label(headingLabel).palette().color(QPalette::WindowText), QColor(1, 0, 0));
+    EXPECT_EQ(Label(explanationLabel).palette().color(QPalette::WindowText), QColor(2, 0, 0));
+    EXPECT_EQ(Label(lotteryPrompt).palette().color(QPalette::WindowText), QColor(3, 0, 0));
+    EXPECT_EQ(Label(modePrompt).palette().color(QPalette::WindowText), QColor(3, 0, 0));
     EXPECT_EQ(form_->palette().color(QPalette::Window), QColor(0xdd, 0xee, 0xff));
-    EXPECT_EQ(Label("Label3").palette().color(QPalette::WindowText), red);
+    EXPECT_EQ(Label(tenNumbers).palette().color(QPalette::WindowText), red);
 }
 
 TEST_F(CommonNumbersForm, PrintsItselfWherePrintingIsThere) {
     Open();
-    EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
+    EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
     const QWidget* printed = nullptr;
     test_.services.printForm = [&](QWidget& form) { printed = &form; };
     Open();
-    Click(*form_, "Command6");
+    Click(*form_, printButton);
     EXPECT_EQ(printed, form_.get());
 }
 
 TEST_F(CommonNumbersForm, ClosesByItsButtonAndByEsc) {
     Open();
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
     Open();
     QTest::keyClick(form_.get(), Qt::Key_Escape);
@@ -325,10 +339,10 @@ TEST_F(CommonNumbersForm, ChartsWhatAPlainCountGivesOnRealHistoriesInBothModes) 
     test_.folder = MemoryFolder();
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no folder of real histories";
     Open();
-    auto* list = Find<ListBox>(*form_, "List1");
+    auto* list = Find<ListBox>(*form_, lotteryList);
     ASSERT_EQ(list->count(), 8);
     for (const bool cold : {false, true}) {
-        Click(*form_, cold ? "Option1(1)" : "Option1(0)");
+        Click(*form_, cold ? coldOption : hotOption);
         for (int index = 0; index < 8; ++index) {
             Choose(index);
             const State& state = test_.state;
@@ -339,7 +353,7 @@ TEST_F(CommonNumbersForm, ChartsWhatAPlainCountGivesOnRealHistoriesInBothModes) 
             if (second) {
                 EXPECT_EQ(Figures(ExtraChart()), Counted(8, 8, balls, cold));
             }
-            EXPECT_EQ(Text("Label3").split(QStringLiteral(", ")).size(), 10);
+            EXPECT_EQ(Text(tenNumbers).split(QStringLiteral(", ")).size(), 10);
         }
     }
 }

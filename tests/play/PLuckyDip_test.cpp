@@ -13,6 +13,12 @@
 
 namespace {
 
+constexpr const char* lineCountBar = "HScroll1";
+constexpr const char* shownLineCount = "Label4";
+constexpr const char* statusLine = "Label5";
+constexpr const char* explainButton = "Command3";
+constexpr const char* helpButton = "Command8";
+
 class LuckyDipForm : public LinesFormTest {
   protected:
     LuckyDipForm() {
@@ -27,7 +33,7 @@ class LuckyDipForm : public LinesFormTest {
 
     void Open() { ShowForm(std::make_unique<PLuckyDip>(test_.program, nullptr)); }
 
-    QString Status() { return Text("Label5"); }
+    QString Status() { return Text(statusLine); }
 };
 
 TEST_F(LuckyDipForm, BearsItsWords) {
@@ -47,17 +53,17 @@ TEST_F(LuckyDipForm, BearsItsWords) {
                     {"Check2", "Too many low or high numbers"},
                     {"Check3", "Same numbers as a previous draw"},
                     {"Command3", "?"}});
-    ExpectFrameWords({}, "Command8");
+    ExpectFrameWords(usualFilters, helpButton);
 }
 
 TEST_F(LuckyDipForm, OpeningYieldsFiveLinesOfTheFirstLotteryAtTheFirstTry) {
     Open();
-    EXPECT_EQ(Find<ListBox>(*form_, "List1")->Index(), 0);
+    EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->Index(), 0);
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
     EXPECT_EQ(ShownLines(), 5);
     EXPECT_EQ(Status(), QStringLiteral("Tries: 1   Time: 0.000 sec"));
     EXPECT_EQ(test_.state.Busy, 0);
-    for (const char* box : {"Check1", "Check2", "Check3"}) {
+    for (const char* box : {oddEvenBox, highLowBox, previousDrawsBox}) {
         EXPECT_FALSE(Find<QCheckBox>(*form_, box)->isChecked()) << box;
     }
 }
@@ -80,12 +86,12 @@ TEST_F(LuckyDipForm, HeadsTheGridAndLeavesTheExtraBallEmptyWithoutOne) {
 
 TEST_F(LuckyDipForm, ChoosingALotteryMakesFreshLinesAndKeepsTheNumberOfLines) {
     Open();
-    Find<QScrollBar>(*form_, "HScroll1")->setValue(7);
-    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
-    Find<ListBox>(*form_, "List1")->SetIndex(1);
+    Find<QScrollBar>(*form_, lineCountBar)->setValue(7);
+    Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
+    ChooseLottery(1);
     EXPECT_EQ(test_.state.LotteryName, "UK Thunderball");
     EXPECT_EQ(ShownLines(), 7);
-    EXPECT_TRUE(Find<QCheckBox>(*form_, "Check1")->isChecked());
+    EXPECT_TRUE(Find<QCheckBox>(*form_, oddEvenBox)->isChecked());
     EXPECT_FALSE(Lines().Cell(7, 8).isEmpty());
     EXPECT_EQ(Lines().Cell(1, 6), QString());
 }
@@ -94,7 +100,7 @@ TEST_F(LuckyDipForm, AClickOnTheLotteryAlreadyChosenMakesFreshLines) {
     Open();
     const QStringList before = Texts();
     test_.seed = 2;
-    auto* list = Find<ListBox>(*form_, "List1");
+    auto* list = Find<ListBox>(*form_, lotteryList);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                       list->visualItemRect(list->item(0)).center());
     EXPECT_NE(Texts(), before);
@@ -103,22 +109,22 @@ TEST_F(LuckyDipForm, AClickOnTheLotteryAlreadyChosenMakesFreshLines) {
 
 TEST_F(LuckyDipForm, TheScrollBarChangesItsLabelAtOnceAndTheLinesOnlyWithGenerate) {
     Open();
-    auto* scroll = Find<QScrollBar>(*form_, "HScroll1");
+    auto* scroll = Find<QScrollBar>(*form_, lineCountBar);
     EXPECT_EQ(scroll->minimum(), 1);
     EXPECT_EQ(scroll->maximum(), 30);
     scroll->setValue(30);
-    EXPECT_EQ(Text("Label4"), QStringLiteral("30"));
+    EXPECT_EQ(Text(shownLineCount), QStringLiteral("30"));
     EXPECT_EQ(ShownLines(), 5);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(ShownLines(), 30);
 }
 
 TEST_F(LuckyDipForm, FiveLinesAfterThirtyLeaveTheOtherRowsBlank) {
     Open();
-    Find<QScrollBar>(*form_, "HScroll1")->setValue(30);
-    Click(*form_, "Command2");
-    Find<QScrollBar>(*form_, "HScroll1")->setValue(5);
-    Click(*form_, "Command2");
+    Find<QScrollBar>(*form_, lineCountBar)->setValue(30);
+    Click(*form_, generateButton);
+    Find<QScrollBar>(*form_, lineCountBar)->setValue(5);
+    Click(*form_, generateButton);
     for (int row = 6; row < Lines().RowCount(); ++row) {
         for (int column = 0; column < 9; ++column) EXPECT_EQ(Lines().Cell(row, column), QString());
     }
@@ -127,8 +133,8 @@ TEST_F(LuckyDipForm, FiveLinesAfterThirtyLeaveTheOtherRowsBlank) {
 TEST_F(LuckyDipForm, ASmallFieldLosesItsDuplicatesAndDoesNotTell) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,3,0,0,0");
     Open();
-    Find<QScrollBar>(*form_, "HScroll1")->setValue(30);
-    Click(*form_, "Command2");
+    Find<QScrollBar>(*form_, lineCountBar)->setValue(30);
+    Click(*form_, generateButton);
     EXPECT_LE(ShownLines(), 3);
     EXPECT_EQ(Status(), QStringLiteral("Tries: 1   Time: 0.000 sec"));
 }
@@ -137,9 +143,9 @@ TEST_F(LuckyDipForm, ConditionsThatNoLineMeetsEndAfterTenSecondsAndSaySo) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
     test_.state.Settings(11) = "2 Odd/Even filter";
     Open();
-    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_TRUE(
         Status().endsWith(QStringLiteral(" sec (Some lines do not comply with conditions)")))
         << Status().toStdString();
@@ -152,13 +158,13 @@ TEST_F(LuckyDipForm, EachConditionBoxAsksForItsOwnCondition) {
     Open();
     test_.tick = 2;
     const std::vector<std::pair<const char*, int>> boxes = {
-        {"Check1", 11}, {"Check2", 12}, {"Check3", 13}};
+        {oddEvenBox, 11}, {highLowBox, 12}, {previousDrawsBox, 13}};
     for (const auto& [box, slot] : boxes) {
         Find<QCheckBox>(*form_, box)->setChecked(true);
         for (int unmeetable = 11; unmeetable <= 13; ++unmeetable) {
             for (int other = 11; other <= 13; ++other) test_.state.Settings(other) = "0";
             test_.state.Settings(unmeetable) = "3";
-            Click(*form_, "Command2");
+            Click(*form_, generateButton);
             EXPECT_EQ(Status().endsWith(QStringLiteral("conditions)")), slot == unmeetable)
                 << box << ", strength " << unmeetable << ": " << Status().toStdString();
         }
@@ -169,8 +175,8 @@ TEST_F(LuckyDipForm, EachConditionBoxAsksForItsOwnCondition) {
 TEST_F(LuckyDipForm, TheStatusLineIsPaintedWhileTheGeneratorRuns) {
     Open();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(form_.get()));
-    const HourglassWatch watch(*Find<QLabel>(*form_, "Label5"), QEvent::Paint);
-    Click(*form_, "Command2");
+    const HourglassWatch watch(*Find<QLabel>(*form_, statusLine), QEvent::Paint);
+    Click(*form_, generateButton);
     EXPECT_GE(watch.UnderHourglass(), 1);
 }
 
@@ -183,7 +189,7 @@ TEST_F(LuckyDipForm, AFilterButtonRemovesWhatFailsAndRenumbersTheRest) {
     test_.state.Lines(1, 4) = 8;
     test_.state.Lines(1, 5) = 10;
     test_.state.Lines(1, 6) = 48;
-    Click(*form_, "Command13");
+    Click(*form_, usualFilters.oddEven);
     EXPECT_LE(ShownLines(), 4);
     EXPECT_EQ(Lines().Cell(1, 0), QStringLiteral("1"));
     for (int row = 1; row <= ShownLines(); ++row) {
@@ -194,14 +200,14 @@ TEST_F(LuckyDipForm, AFilterButtonRemovesWhatFailsAndRenumbersTheRest) {
 
 TEST_F(LuckyDipForm, EachFilterButtonHasItsFilter) {
     Open();
-    ExpectFiltersTakeLinesOut({});
+    ExpectFiltersTakeLinesOut(usualFilters);
 }
 
 TEST_F(LuckyDipForm, TakesColoursOneToFourOfTheSkin) {
     TakeSkinColours("&HFFFFFF");
     Open();
     const std::vector<std::pair<const char*, int>> reds = {
-        {"Label7", 1}, {"Label2", 2}, {"Label1", 3}, {"Label5", 4}};
+        {headingLabel, 1}, {bodyLabel, 2}, {lotteryPrompt, 3}, {statusLine, 4}};
     for (const auto& [name, red] : reds) EXPECT_EQ(TextColour(name), QColor(red, 0, 0)) << name;
 }
 
@@ -212,12 +218,13 @@ TEST_F(LuckyDipForm, NothingButTheScrollBarReactsWhileBusy) {
     const QStringList before = Texts();
     test_.state.Busy = -1;
     test_.seed = 2;
-    for (const char* name : {"Command2", "Command13", "Command14", "Command15", "Command9"}) {
+    for (const char* name : {generateButton, usualFilters.oddEven, usualFilters.highLow,
+                             usualFilters.longRuns, usualFilters.previousDraws}) {
         Click(*form_, name);
     }
-    Click(*form_, "Command6");
-    Click(*form_, "Command7");
-    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    Click(*form_, printButton);
+    Click(*form_, saveButton);
+    ChooseLottery(2);
     EXPECT_EQ(Texts(), before);
     EXPECT_EQ(saves_ + prints, 0);
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
@@ -233,17 +240,17 @@ TEST_F(LuckyDipForm, LoadingTheFormEndsBusy) {
 
 TEST_F(LuckyDipForm, SaveGoesToTheSavedEntries) {
     Open();
-    Click(*form_, "Command7");
+    Click(*form_, saveButton);
     EXPECT_EQ(saves_, 1);
 }
 
 TEST_F(LuckyDipForm, PrintWaitsForAPrinter) {
     Open();
-    EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
+    EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
     int prints = 0;
     test_.services.printLines = [&](QWidget*, Grid&) { ++prints; };
     Open();
-    Click(*form_, "Command6");
+    Click(*form_, printButton);
     EXPECT_EQ(prints, 1);
 }
 
@@ -257,12 +264,12 @@ TEST_F(LuckyDipForm, TheQuestionMarkShowsTheFirstTip) {
                                 " numbers. Setting this option ensures your     \r\n"
                                 " lottery entries have the right mix.     \r\n"),
          .sign = Sign::Information});
-    Click(*form_, "Command3");
+    Click(*form_, explainButton);
 }
 
 TEST_F(LuckyDipForm, HelpAndF1OpenThePlayHelp) {
     Open();
-    Click(*form_, "Command8");
+    Click(*form_, helpButton);
     QTest::keyClick(form_.get(), Qt::Key_F1);
     EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpplay.html"),
                                                  QStringLiteral("helpplay.html")}));
@@ -270,7 +277,7 @@ TEST_F(LuckyDipForm, HelpAndF1OpenThePlayHelp) {
 
 TEST_F(LuckyDipForm, CloseAndEscCloseTheForm) {
     Open();
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
     Open();
     QTest::keyClick(form_.get(), Qt::Key_Escape);
@@ -281,9 +288,9 @@ TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
     test_.state.Settings(11) = "2";
     Open();
-    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;
-    auto* close = Find<QPushButton>(*form_, "Command1");
+    auto* close = Find<QPushButton>(*form_, closeButton);
     QMetaObject::invokeMethod(close, "click", Qt::QueuedConnection);
     bool generated = false;
     QMetaObject::invokeMethod(
@@ -293,7 +300,7 @@ TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
             EXPECT_TRUE(form_->isVisible()) << "the form waits for the generation to end";
         },
         Qt::QueuedConnection);
-    Find<QPushButton>(*form_, "Command2")->click();
+    Find<QPushButton>(*form_, generateButton)->click();
     EXPECT_TRUE(generated) << "the waiting click was handled inside the generation";
     EXPECT_FALSE(form_->isVisible());
 }
@@ -302,9 +309,9 @@ TEST_F(LuckyDipForm, ClicksMadeDuringAGenerationDoNotStartAnother) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
     test_.state.Settings(11) = "2";
     Open();
-    Find<QCheckBox>(*form_, "Check1")->setChecked(true);
+    Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;
-    auto* generate = Find<QPushButton>(*form_, "Command2");
+    auto* generate = Find<QPushButton>(*form_, generateButton);
     const QPointF place = generate->rect().center();
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         QCoreApplication::postEvent(
@@ -338,9 +345,9 @@ TEST_F(LuckyDipForm, AFieldBeyondThePoolEndsTheRun) {
 
 TEST_F(LuckyDipForm, OpeningAgainShowsTheFirstLottery) {
     Open();
-    Find<ListBox>(*form_, "List1")->SetIndex(2);
+    ChooseLottery(2);
     EXPECT_EQ(test_.state.LotteryName, "UK Daily Play");
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     Open();
     EXPECT_EQ(test_.state.LotteryName, "UK Lotto");
 }

@@ -3,7 +3,7 @@
 
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
-#include "tests/support/form_test.h"
+#include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
@@ -37,7 +37,7 @@ class WatchingForm final : public PlayFrame {
 
   private:
     Sight Look() const {
-        const Grid& grid = *Find<Grid>(*this, "MSFlexGrid1");
+        const Grid& grid = *Find<Grid>(*this, linesGrid);
         const QCursor* cursor = QGuiApplication::overrideCursor();
         return {.lottery = state().LotteryName,
                 .busy = state().Busy,
@@ -56,7 +56,7 @@ struct ThePlayFrame : testing::Test {
         form->generated.clear();
     }
 
-    void ChooseSecondLottery() { Find<ListBox>(*form, "List1")->SetIndex(1); }
+    void ChooseSecondLottery() { Find<ListBox>(*form, lotteryList)->SetIndex(1); }
 
     TestProgram test;
     std::unique_ptr<WatchingForm> form;
@@ -77,7 +77,7 @@ TEST_F(ThePlayFrame, GeneratesAfterTheLoadBusyUnderTheHourglass) {
     EXPECT_EQ(form->generated[0].lottery, "UK Thunderball");
     EXPECT_EQ(form->generated[0].busy, -1);
     EXPECT_TRUE(form->generated[0].hourglass);
-    EXPECT_EQ(Find<Grid>(*form, "MSFlexGrid1")->Cell(1, 1), QStringLiteral("7"));
+    EXPECT_EQ(Find<Grid>(*form, linesGrid)->Cell(1, 1), QStringLiteral("7"));
 }
 
 TEST_F(ThePlayFrame, IsNeitherBusyNorUnderTheHourglassAfterwards) {
@@ -89,7 +89,7 @@ TEST_F(ThePlayFrame, IsNeitherBusyNorUnderTheHourglassAfterwards) {
 TEST_F(ThePlayFrame, ClearsTheGridBeforeALoadThatFails) {
     test.folder.Lock(test.state.DbaseFiles(1));
     EXPECT_THROW(ChooseSecondLottery(), std::runtime_error);
-    EXPECT_EQ(Find<Grid>(*form, "MSFlexGrid1")->Cell(1, 1), QString());
+    EXPECT_EQ(Find<Grid>(*form, linesGrid)->Cell(1, 1), QString());
     EXPECT_TRUE(form->generated.empty());
 }
 

@@ -58,16 +58,16 @@ void LinesFormTest::ExpectCaptions(const Words& words) {
 }
 
 void LinesFormTest::ExpectFrameWords(const FilterNames& filters, const char* help) {
-    ExpectLabels({{"Label1", "Select a lottery:"}});
+    ExpectLabels({{lotteryPrompt, "Select a lottery:"}});
     ExpectCaptions({{filters.oddEven, "Odd/even"},
                     {filters.highLow, "High/low"},
                     {filters.longRuns, "Long runs"},
                     {filters.previousDraws, "Previous draws"},
                     {help, " Help "}});
-    const Words toolTips = {{"Command2", "Generate another selection of lottery entries"},
-                            {"Command6", "Print out the lottery entries"},
-                            {"Command7", "Save these lottery entries to disk"},
-                            {"Command1", " Close "}};
+    const Words toolTips = {{generateButton, "Generate another selection of lottery entries"},
+                            {printButton, "Print out the lottery entries"},
+                            {saveButton, "Save these lottery entries to disk"},
+                            {closeButton, " Close "}};
     for (const auto& [name, text] : toolTips) {
         EXPECT_EQ(Find<QWidget>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
     }
@@ -117,4 +117,6 @@ void LinesFormTest::ExpectTabOrder(const std::vector<const char*>& order) {
     }
 }
 
-void LinesFormTest::ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+void LinesFormTest::ChooseLottery(int index) {
+    Find<ListBox>(*form_, lotteryList)->SetIndex(index);
+}

@@ -13,6 +13,22 @@
 /// Names of controls and their texts.
 using Words = std::vector<std::pair<const char*, const char*>>;
 
+/// What the forms that make lines call the controls that all of them have.
+constexpr const char* headingLabel = "Label7";
+constexpr const char* bodyLabel = "Label2";
+constexpr const char* lotteryPrompt = "Label1";
+constexpr const char* lotteryList = "List1";
+constexpr const char* linesGrid = "MSFlexGrid1";
+constexpr const char* generateButton = "Command2";
+constexpr const char* printButton = "Command6";
+constexpr const char* saveButton = "Command7";
+constexpr const char* closeButton = "Command1";
+
+/// The boxes of the forms that try until their lines comply.
+constexpr const char* oddEvenBox = "Check1";
+constexpr const char* highLowBox = "Check2";
+constexpr const char* previousDrawsBox = "Check3";
+
 /// The filter buttons of a form.
 struct FilterNames {
     const char* oddEven = "Command13";
@@ -20,6 +36,7 @@ struct FilterNames {
     const char* longRuns = "Command15";
     const char* previousDraws = "Command9";
 };
+inline constexpr FilterNames usualFilters;
 
 /// A form that makes lines, on a folder in memory. A test fills the folder, then shows its form.
 class LinesFormTest : public testing::Test {
@@ -28,7 +45,7 @@ class LinesFormTest : public testing::Test {
 
     void ShowForm(std::unique_ptr<Form> form);
 
-    Grid& Lines() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+    Grid& Lines() { return *Find<Grid>(*form_, linesGrid); }
     int ShownLines();
 
     /// Every text below the headings, to see whether lines are others.

@@ -79,9 +79,10 @@ TEST_F(WheelingPairs, PutsTheChosenSizeToUseAndEmptiesTheRest) {
         for (int index = 0; index < boxCount; ++index) TypeBox(index, QStringLiteral("7"));
         ChooseSize(option);
         const int count = 2 * option + 8;
-        EXPECT_EQ(Text("Label8"), QStringLiteral("   Enter %1 different pairs of numbers, starting "
-                                                 "with A:")
-                                      .arg(count));
+        EXPECT_EQ(Text(promptLabel),
+                  QStringLiteral("   Enter %1 different pairs of numbers, starting "
+                                 "with A:")
+                      .arg(count));
         for (int index = 0; index < boxCount; ++index) {
             const bool inUse = index < count;
             EXPECT_EQ(Background(index), inUse ? white : grey) << index;
@@ -110,7 +111,7 @@ TEST_F(WheelingPairs, TakesASizeChosenInCode) {
 TEST_F(WheelingPairs, MakesThreeLinesOfSixFromEightNumbers) {
     Open();
     TypeCounting(8);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(8),
               (std::vector<std::vector<int>>{
                   {1, 2, 3, 4, 7, 8, 0, 0}, {1, 2, 5, 6, 7, 8, 0, 0}, {3, 4, 5, 6, 7, 8, 0, 0}}));
@@ -126,7 +127,7 @@ TEST_F(WheelingPairs, MakesSixLinesOfFourFromEightNumbers) {
     Open();
     ChooseLottery(Four);
     TypeCounting(8);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(4), sixLines);
     for (int row = 1; row <= 6; ++row) {
         for (int column = 5; column <= 8; ++column) EXPECT_EQ(Lines().Cell(row, column), QString());
@@ -139,7 +140,7 @@ TEST_F(WheelingPairs, AddsARandomFifthNumberToEachOfThem) {
         ChooseLottery(lottery);
         TypeCounting(8);
         for (test_.seed = 1; test_.seed <= 20; ++test_.seed) {
-            Click(*form_, "Command2");
+            Click(*form_, generateButton);
             const auto rows = Rows(8);
             ASSERT_EQ(rows.size(), sixLines.size());
             for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -159,7 +160,7 @@ TEST_F(WheelingPairs, AddsARandomSeventhNumberToLinesOfSix) {
     Open();
     ChooseLottery(Seven);
     TypeCounting(8);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     const auto rows = Rows(8);
     ASSERT_EQ(rows.size(), 3U);
     for (const auto& row : rows) {
@@ -174,8 +175,8 @@ TEST_F(WheelingPairs, MakesAsManyLinesAsEachCaptionSays) {
         ChooseLottery(lottery);
         for (int option = 0; option < 6; ++option) {
             ChooseSize(option);
-            Click(*form_, "Command12");
-            Click(*form_, "Command2");
+            Click(*form_, randomSelectionButton);
+            Click(*form_, generateButton);
             EXPECT_TRUE(
                 Captions()[option].endsWith(QStringLiteral(" in %1 lines").arg(ShownLines())))
                 << Captions()[option].toStdString() << " but " << ShownLines();
@@ -188,7 +189,7 @@ TEST_F(WheelingPairs, PlaysANumberTypedTwiceTwice) {
     ChooseLottery(Four);
     TypeCounting(8);
     TypeBox(1, QStringLiteral("1"));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(4)[0], (std::vector<int>{1, 1, 3, 4}));
     EXPECT_EQ(ShownLines(), 6);
 }
@@ -198,7 +199,7 @@ TEST_F(WheelingPairs, WritesFourColumnsForThreePicksAndSortsThree) {
     Open();
     TypeCounting(8);
     for (int index = 0; index < 8; ++index) TypeBox(index, QString::number(40 - index));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(5)[0], (std::vector<int>{38, 39, 40, 37, 0}));
     EXPECT_EQ(ShownLines(), 6);
 }
@@ -208,7 +209,7 @@ TEST_F(WheelingPairs, AnswersANumberThatCannotBeFoundWithTheTip) {
     Open();
     for (int index = 0; index < 8; ++index) TypeBox(index, QString::number(index % 4 + 1));
     ExpectInputTip();
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(test_.messages.Shown(), 1);
     EXPECT_EQ(ShownLines(), 0);
     EXPECT_EQ(test_.state.Busy, 0);
@@ -220,7 +221,7 @@ TEST_F(WheelingPairs, FillsBoxesBeyondASmallFieldWithWhatThePoolHeld) {
     ChooseSize(5);
     test_.state.Pool(17) = 77;
     test_.state.Pool(18) = 0;
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     EXPECT_EQ(Box(16).text(), QStringLiteral("77"));
     EXPECT_EQ(Box(17).text(), QStringLiteral("0"));
     QStringList shuffled = BoxTexts(16);
@@ -230,9 +231,9 @@ TEST_F(WheelingPairs, FillsBoxesBeyondASmallFieldWithWhatThePoolHeld) {
 TEST_F(WheelingPairs, TakesColoursOneAndTwoOfTheSkinOnly) {
     TakeSkinColours("&H202020");
     Open();
-    EXPECT_EQ(TextColour("Label7"), QColor(1, 0, 0));
-    EXPECT_EQ(TextColour("Label2"), QColor(2, 0, 0));
-    EXPECT_EQ(TextColour("Label1"), form_->palette().color(QPalette::WindowText));
+    EXPECT_EQ(TextColour(headingLabel), QColor(1, 0, 0));
+    EXPECT_EQ(TextColour(bodyLabel), QColor(2, 0, 0));
+    EXPECT_EQ(TextColour(lotteryPrompt), form_->palette().color(QPalette::WindowText));
     EXPECT_EQ(Background(0), white);
     EXPECT_EQ(Background(17), grey);
     EXPECT_EQ(Box(0).palette().color(QPalette::Text), QColor(Qt::black));

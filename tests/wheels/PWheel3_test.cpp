@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int boxCount = 24;
+constexpr const char* adviceLabel = "Label4";
 
 class WheelingTriplets : public WheelFormTest {
   protected:
@@ -59,10 +60,10 @@ TEST_F(WheelingTriplets, SaysWhichLotteriesTheMethodSuits) {
         {Lotto, "6-pick lotteries are OK with Wheeling Triplets."},
         {Seven, "7-pick lotteries are not ideal for this method."},
         {three, "7-pick lotteries are not ideal for this method."}};
-    EXPECT_EQ(Text("Label4"), QStringLiteral("6-pick lotteries are OK with Wheeling Triplets."));
+    EXPECT_EQ(Text(adviceLabel), QStringLiteral("6-pick lotteries are OK with Wheeling Triplets."));
     for (const auto& [lottery, text] : advice) {
         ChooseLottery(lottery);
-        EXPECT_EQ(Text("Label4"), QString::fromLatin1(text)) << test_.state.LotteryName;
+        EXPECT_EQ(Text(adviceLabel), QString::fromLatin1(text)) << test_.state.LotteryName;
     }
 }
 
@@ -73,16 +74,17 @@ TEST_F(WheelingTriplets, KeepsTheTextsOfBoxesThatASmallerSizePutsOutOfUse) {
     for (int option = 5; option >= 0; --option) {
         ChooseSize(option);
         const int count = 3 * option + 9;
-        EXPECT_EQ(Text("Label8"), QStringLiteral("   Enter %1 different numbers in groups of three,"
-                                                 " starting with group A:")
-                                      .arg(count));
+        EXPECT_EQ(Text(promptLabel),
+                  QStringLiteral("   Enter %1 different numbers in groups of three,"
+                                 " starting with group A:")
+                      .arg(count));
         for (int index = 0; index < boxCount; ++index) {
             EXPECT_EQ(Background(index), index < count ? white : grey) << index;
             EXPECT_EQ(Box(index).text(), QStringLiteral("7")) << index;
             EXPECT_TRUE(Box(index).isEnabled()) << index;
         }
     }
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     for (int index = 0; index < boxCount; ++index) {
         EXPECT_EQ(Box(index).text(), index < 9 ? QStringLiteral("7") : QString()) << index;
     }
@@ -95,14 +97,14 @@ TEST_F(WheelingTriplets, MixesNumbersLeftInGreyBoxesIn) {
     ChooseSize(0);
     bool mixedIn = false;
     for (int time = 0; time < 20 && !mixedIn; ++time) {
-        Click(*form_, "Command8");
+        Click(*form_, randomOrderButton);
         QStringList texts = BoxTexts(12);
         EXPECT_EQ(QSet<QString>(texts.begin(), texts.end()).size(), 12);
         const QStringList inUse = texts.mid(0, 9);
         mixedIn = inUse.contains(QStringLiteral("10")) || inUse.contains(QStringLiteral("11"));
     }
     EXPECT_TRUE(mixedIn);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(BoxTexts(12).mid(9), QStringList(3));
     EXPECT_EQ(ShownLines(), 3);
 }
@@ -111,7 +113,7 @@ TEST_F(WheelingTriplets, PlaysAWholeGroupWithTheFirstOfTheOtherForFourPicks) {
     Open();
     ChooseLottery(Four);
     TypeCounting(9);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(8),
               (std::vector<std::vector<int>>{
                   {1, 2, 3, 4, 0, 0, 0, 0}, {1, 2, 3, 7, 0, 0, 0, 0}, {4, 5, 6, 7, 0, 0, 0, 0}}));
@@ -121,7 +123,7 @@ TEST_F(WheelingTriplets, PlaysTheFirstTwoOfTheOtherForFivePicksWithTheExtraBall)
     Open();
     ChooseLottery(Five);
     TypeCounting(9);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(5),
               (std::vector<std::vector<int>>{{1, 2, 3, 4, 5}, {1, 2, 3, 7, 8}, {4, 5, 6, 7, 8}}));
     for (const auto& row : Rows(8)) EXPECT_TRUE(row[7] >= 1 && row[7] <= 14) << row[7];
@@ -130,7 +132,7 @@ TEST_F(WheelingTriplets, PlaysTheFirstTwoOfTheOtherForFivePicksWithTheExtraBall)
 TEST_F(WheelingTriplets, PlaysBothGroupsForSixPicks) {
     Open();
     TypeCounting(9);
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Rows(8),
               (std::vector<std::vector<int>>{
                   {1, 2, 3, 4, 5, 6, 0, 0}, {1, 2, 3, 7, 8, 9, 0, 0}, {4, 5, 6, 7, 8, 9, 0, 0}}));
@@ -141,7 +143,7 @@ TEST_F(WheelingTriplets, AddsARandomNumberToBothGroupsForSevenPicks) {
     ChooseLottery(Seven);
     TypeCounting(9);
     for (test_.seed = 1; test_.seed <= 20; ++test_.seed) {
-        Click(*form_, "Command2");
+        Click(*form_, generateButton);
         const auto rows = Rows(8);
         ASSERT_EQ(rows.size(), 3U);
         for (const auto& row : rows) {
@@ -159,8 +161,8 @@ TEST_F(WheelingTriplets, MakesAsManyLinesAsEachCaptionSays) {
         ChooseLottery(lottery);
         for (int option = 0; option < 6; ++option) {
             ChooseSize(option);
-            Click(*form_, "Command12");
-            Click(*form_, "Command2");
+            Click(*form_, randomSelectionButton);
+            Click(*form_, generateButton);
             const std::array lines = {3, 6, 10, 15, 21, 28};
             EXPECT_EQ(ShownLines(), lines[static_cast<std::size_t>(option)]);
         }
@@ -172,7 +174,7 @@ TEST_F(WheelingTriplets, AnswersANumberThatCannotBeFoundWithTheTip) {
     Open();
     for (int index = 0; index < 9; ++index) TypeBox(index, QString::number(index % 6 + 1));
     ExpectInputTip();
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(test_.messages.Shown(), 1);
     EXPECT_EQ(ShownLines(), 0);
     EXPECT_EQ(test_.state.Lines(1, 1), 0);
@@ -181,10 +183,10 @@ TEST_F(WheelingTriplets, AnswersANumberThatCannotBeFoundWithTheTip) {
 TEST_F(WheelingTriplets, GivesColourFourOfTheSkinToTheAdvice) {
     TakeSkinColours("&H202020");
     Open();
-    EXPECT_EQ(TextColour("Label7"), QColor(1, 0, 0));
-    EXPECT_EQ(TextColour("Label2"), QColor(2, 0, 0));
-    EXPECT_EQ(TextColour("Label4"), QColor(4, 0, 0));
-    EXPECT_EQ(TextColour("Label1"), form_->palette().color(QPalette::WindowText));
+    EXPECT_EQ(TextColour(headingLabel), QColor(1, 0, 0));
+    EXPECT_EQ(TextColour(bodyLabel), QColor(2, 0, 0));
+    EXPECT_EQ(TextColour(adviceLabel), QColor(4, 0, 0));
+    EXPECT_EQ(TextColour(lotteryPrompt), form_->palette().color(QPalette::WindowText));
 }
 
 TEST_F(WheelingTriplets, WheelsTheNumbersOfRealLotteries) {

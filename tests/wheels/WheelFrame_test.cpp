@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr const char* helpButton = "Command3";
+
 struct BoxForm {
     const char* name;
     int boxCount;
@@ -30,7 +32,7 @@ class EachWheelForm : public WheelFormTest, public testing::WithParamInterface<B
     void ExpectRefusal() {
         ExpectInputTip();
         const int before = test_.messages.Shown();
-        Click(*form_, "Command2");
+        Click(*form_, generateButton);
         EXPECT_EQ(test_.messages.Shown(), before + 1);
     }
 };
@@ -79,7 +81,7 @@ TEST_P(EachWheelForm, TakesASizeFromTheArrowKeysToo) {
     const int count = Size() + GetParam().boxesInGroup;
     EXPECT_EQ(Background(count - 1), white);
     EXPECT_EQ(Background(count), grey);
-    EXPECT_TRUE(Text("Label8").startsWith(QStringLiteral("   Enter %1 different").arg(count)));
+    EXPECT_TRUE(Text(promptLabel).startsWith(QStringLiteral("   Enter %1 different").arg(count)));
 }
 
 TEST_P(EachWheelForm, MakesNothingOnEnterInABoxAndStaysThere) {
@@ -100,7 +102,7 @@ TEST_P(EachWheelForm, MakesNothingOnEnterInABoxAndStaysThere) {
 TEST_P(EachWheelForm, RefusesABoxThatIsEmptyZeroOrTooHigh) {
     Open();
     TypeCounting(Size());
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     const QStringList before = Texts();
     for (const char* wrong : {"", "0", "000", "50", "999"}) {
         TypeBox(3, QString::fromLatin1(wrong));
@@ -112,7 +114,7 @@ TEST_P(EachWheelForm, RefusesABoxThatIsEmptyZeroOrTooHigh) {
         EXPECT_EQ(form_->focusWidget(), &Box(3)) << "where the input has to be mended";
         EXPECT_EQ(Box(3).text(), QString::fromLatin1(wrong)) << "as typed";
     }
-    Click(*form_, "Command13");
+    Click(*form_, usualFilters.oddEven);
     EXPECT_EQ(ShownLines(), 0) << "a filter shows that there are none";
 }
 
@@ -120,7 +122,7 @@ TEST_P(EachWheelForm, TakesTheHighestNumberOfTheLottery) {
     Open();
     TypeCounting(Size());
     TypeBox(0, QStringLiteral("49"));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_GT(ShownLines(), 0);
 }
 
@@ -129,7 +131,7 @@ TEST_P(EachWheelForm, EmptiesGreyBoxesAndNeverRefusesThem) {
     TypeCounting(Size());
     TypeBox(Size(), QStringLiteral("99"));
     TypeBox(Size() + 1, QStringLiteral("0"));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_GT(ShownLines(), 0);
     EXPECT_EQ(Box(Size()).text(), QString());
     EXPECT_EQ(Box(Size() + 1).text(), QString());
@@ -148,18 +150,18 @@ TEST_P(EachWheelForm, EmptiesTheBoxesThatTheNextLotteryHasNoNumberFor) {
                                QStringLiteral("0"),  QStringLiteral("49"), QStringLiteral("007")};
     for (int index = 0; index < typed.size(); ++index) TypeBox(index, typed[index]);
     TypeBox(GetParam().boxCount - 1, QStringLiteral("45"));
-    const QString prompt = Text("Label8");
+    const QString prompt = Text(promptLabel);
     ChooseLottery(Six40);
     EXPECT_EQ(BoxTexts(6), (QStringList{QStringLiteral("05"), QStringLiteral("40"), QString(),
                                         QString(), QString(), QStringLiteral("007")}));
     EXPECT_EQ(Box(GetParam().boxCount - 1).text(), QString()) << "grey boxes too";
-    EXPECT_EQ(Text("Label8"), prompt);
+    EXPECT_EQ(Text(promptLabel), prompt);
 }
 
 TEST_P(EachWheelForm, ClearsTheGridButNotTheLinesOnAChangeOfLottery) {
     Open();
     TypeCounting(Size());
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     test_.state.Pool(100) = 33;
     ChooseLottery(Four);
     EXPECT_EQ(ShownLines(), 0);
@@ -172,7 +174,7 @@ TEST_P(EachWheelForm, FillsTheBoxesInUseWithDifferentNumbersOfTheLottery) {
     Open();
     for (int time = 0; time < 10; ++time) {
         TypeBox(Size(), QStringLiteral("9"));
-        Click(*form_, "Command12");
+        Click(*form_, randomSelectionButton);
         QStringList texts = BoxTexts(Size());
         EXPECT_EQ(QSet<QString>(texts.begin(), texts.end()).size(), Size());
         for (const QString& text : texts) EXPECT_TRUE(text.toInt() >= 1 && text.toInt() <= 49);
@@ -182,9 +184,9 @@ TEST_P(EachWheelForm, FillsTheBoxesInUseWithDifferentNumbersOfTheLottery) {
 
 TEST_P(EachWheelForm, DrawsEachSelectionFromWhereTheLastOneStopped) {
     Open();
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     const QStringList first = BoxTexts(Size());
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     EXPECT_NE(BoxTexts(Size()), first) << "the clock would give the same seed again";
 }
 
@@ -193,7 +195,7 @@ TEST_P(EachWheelForm, MixesTheNumbersAndWritesThemPlain) {
     TypeCounting(Size());
     TypeBox(4, QStringLiteral("005"));
     QStringList before = BoxTexts(Size());
-    Click(*form_, "Command8");
+    Click(*form_, randomOrderButton);
     QStringList after = BoxTexts(Size());
     EXPECT_NE(after, before);
     before[4] = QStringLiteral("5");
@@ -206,7 +208,7 @@ TEST_P(EachWheelForm, MixesNoughtsIntoEmptyBoxes) {
     Open();
     TypeBox(0, QStringLiteral("0"));
     TypeBox(5, QStringLiteral("8"));
-    Click(*form_, "Command8");
+    Click(*form_, randomOrderButton);
     QStringList texts = BoxTexts(GetParam().boxCount);
     EXPECT_EQ(texts.count(QStringLiteral("8")), 1);
     EXPECT_EQ(texts.count(QString()), GetParam().boxCount - 1);
@@ -217,12 +219,12 @@ TEST_P(EachWheelForm, LeavesFiltersPrintSaveAndTheListAloneWhileBusy) {
     test_.services.printLines = [&prints](QWidget*, Grid&) { ++prints; };
     Open();
     TypeCounting(Size());
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     const QStringList before = Texts();
     for (int row = 1; row <= 3; ++row) test_.state.Lines(row, 1) = 2;
     test_.state.Busy = -1;
-    for (const char* name :
-         {"Command13", "Command14", "Command15", "Command9", "Command6", "Command7"}) {
+    for (const char* name : {usualFilters.oddEven, usualFilters.highLow, usualFilters.longRuns,
+                             usualFilters.previousDraws, printButton, saveButton}) {
         Click(*form_, name);
     }
     ChooseLottery(Four);
@@ -231,8 +233,8 @@ TEST_P(EachWheelForm, LeavesFiltersPrintSaveAndTheListAloneWhileBusy) {
     EXPECT_EQ(saves_, 0);
     EXPECT_EQ(test_.state.LotteryName, "Lotto");
     test_.state.Busy = 0;
-    Click(*form_, "Command6");
-    Click(*form_, "Command7");
+    Click(*form_, printButton);
+    Click(*form_, saveButton);
     EXPECT_EQ(prints, 1);
     EXPECT_EQ(saves_, 1);
 }
@@ -256,7 +258,7 @@ TEST_P(EachWheelForm, IsBusyUnderTheHourglassWhileItGeneratesAndLoads) {
 
     TypeCounting(Size());
     Box(Size()).setText(QStringLiteral("9"));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(seen, std::vector<Work>{working}) << "generate empties a grey box";
 
     Box(Size()).setText(QStringLiteral("49"));
@@ -269,13 +271,13 @@ TEST_P(EachWheelForm, IsBusyUnderTheHourglassWhileItGeneratesAndLoads) {
 TEST_P(EachWheelForm, GeneratesSelectsAndMixesEvenWhileBusy) {
     Open();
     test_.state.Busy = -1;
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     EXPECT_NE(Box(0).text(), QString());
     TypeCounting(Size());
-    Click(*form_, "Command8");
+    Click(*form_, randomOrderButton);
     EXPECT_NE(BoxTexts(Size()).first(3),
               (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_GT(ShownLines(), 0);
     EXPECT_EQ(test_.state.Busy, 0);
 }
@@ -284,24 +286,24 @@ TEST_P(EachWheelForm, WaitsWithItsCloseUntilBusyFalls) {
     Open();
     TypeCounting(Size());
     test_.state.Busy = -1;
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_TRUE(form_->isVisible());
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_FALSE(form_->isVisible());
 }
 
 TEST_P(EachWheelForm, RemovesLinesByTheFiltersAndMakesNoOthers) {
     Open();
     TypeCounting(Size());
-    Click(*form_, "Command2");
-    ExpectFiltersTakeLinesOut({});
+    Click(*form_, generateButton);
+    ExpectFiltersTakeLinesOut(usualFilters);
 }
 
 TEST_P(EachWheelForm, OpensTheHelpPageAndCloses) {
     Open();
-    Click(*form_, "Command3");
+    Click(*form_, helpButton);
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
 }
 

@@ -16,6 +16,10 @@
 inline const QColor white(255, 255, 255);
 inline const QColor grey(192, 192, 192);
 
+constexpr const char* promptLabel = "Label8";
+constexpr const char* randomSelectionButton = "Command12";
+constexpr const char* randomOrderButton = "Command8";
+
 /// A wheel form with number boxes, over lotteries that differ in their picks.
 class WheelFormTest : public LinesFormTest {
   protected:
@@ -50,7 +54,7 @@ class WheelFormTest : public LinesFormTest {
         ExpectLabels({{"Label6", "Filters"}});
         ExpectLetters(groups);
         ExpectCaptions({{"Command12", "Random selection"}, {"Command8", "Random order"}});
-        ExpectFrameWords({}, "Command3");
+        ExpectFrameWords(usualFilters, "Command3");
         for (const char* name : {"HScroll1", "Check1", "Check2", "Check3", "Label5"}) {
             EXPECT_EQ(form_->findChild<QObject*>(QString::fromLatin1(name)), nullptr) << name;
         }
@@ -85,10 +89,10 @@ class WheelFormTest : public LinesFormTest {
     /// Random selections of the sixth size for every real lottery make this many whole lines.
     void ExpectWheelsOfRealLotteries(const std::function<int()>& lineCount) {
         ChooseSize(5);
-        for (int index = 0; index < Find<ListBox>(*form_, "List1")->count(); ++index) {
+        for (int index = 0; index < Find<ListBox>(*form_, lotteryList)->count(); ++index) {
             ChooseLottery(index);
-            Click(*form_, "Command12");
-            Click(*form_, "Command2");
+            Click(*form_, randomSelectionButton);
+            Click(*form_, generateButton);
             EXPECT_EQ(ShownLines(), lineCount()) << test_.state.LotteryName;
             for (const auto& row : Rows(8)) {
                 const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);

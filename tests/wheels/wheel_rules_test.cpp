@@ -96,10 +96,10 @@ TEST_F(WheelRules, TellOfASizeOnceForEachChoice) {
 TEST_F(WheelRules, FollowAWheelThatPutsABoxOutOfUse) {
     Open("PDIYWheels");
     Ruled().putsFirstBoxOutOfUse = true;
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Background(0), grey);
     EXPECT_FALSE(Box(0).isEnabled());
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     EXPECT_EQ(Box(0).text(), QString()) << "a random selection leaves it out";
     EXPECT_FALSE(Box(1).text().isEmpty());
 }
@@ -137,7 +137,7 @@ TEST_F(WheelRules, LetAnyTextIntoTheBoxesOfBudgetWheels) {
     EXPECT_EQ(ShownLines(), 0);
     TypeBox(0, QStringLiteral("3"));
     TypeBox(2, QStringLiteral("5"));
-    Click(*form_, "Command8");
+    Click(*form_, randomOrderButton);
     QStringList texts = BoxTexts(4);
     std::ranges::sort(texts);
     EXPECT_EQ(texts, (QStringList{QString(), QStringLiteral("0"), QStringLiteral("3"),
@@ -156,7 +156,7 @@ TEST_F(WheelRules, LeadToTheFirstBoxInUseThatTheFormDoesNotAccept) {
         if (std::string(rules) == "PBudgetWheel") TypeBox(2, QStringLiteral("-3"));
         Ruled().outcome = wheels::Outcome::CheckInput;
         ExpectInputTip();
-        Click(*form_, "Command2");
+        Click(*form_, generateButton);
         EXPECT_EQ(form_->focusWidget(), &Box(wrong)) << rules;
         EXPECT_EQ(Box(wrong).selectedText(), Box(wrong).text()) << rules;
     }
@@ -164,10 +164,10 @@ TEST_F(WheelRules, LeadToTheFirstBoxInUseThatTheFormDoesNotAccept) {
 
 TEST_F(WheelRules, SayAndShowNothingWhereAFormRefusesInItsOwnWords) {
     Open("PBudgetWheel");
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     Box(0).setFocus();
     Ruled().outcome = wheels::Outcome::Refused;
-    QTest::keyClick(Find<QPushButton>(*form_, "Command2"), Qt::Key_Space);
+    QTest::keyClick(Find<QPushButton>(*form_, generateButton), Qt::Key_Space);
     EXPECT_EQ(test_.messages.Shown(), 0);
     EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7")) << "the grid keeps what it showed";
     EXPECT_EQ(form_->focusWidget(), &Box(0));
@@ -175,12 +175,12 @@ TEST_F(WheelRules, SayAndShowNothingWhereAFormRefusesInItsOwnWords) {
 
 TEST_F(WheelRules, LetAFormRefuseALotteryBeforeItIsBusy) {
     Open("PWheel2");
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Ruled().busyBefore, 0);
     EXPECT_EQ(Ruled().busyAtWork, -1);
     Ruled().suitsLottery = false;
     Ruled().busyAtWork = 1;
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Ruled().busyAtWork, 1) << "no lines are made";
     EXPECT_EQ(test_.state.Busy, 0);
     EXPECT_EQ(ShownLines(), 1) << "the grid keeps what it showed";
@@ -188,7 +188,7 @@ TEST_F(WheelRules, LetAFormRefuseALotteryBeforeItIsBusy) {
 
 TEST_F(WheelRules, TakeTheLinesOutOfTheGridOnly) {
     Open("PThreeMatch");
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     Ruled().EmptyGrid();
     for (int column = 0; column <= 8; ++column) EXPECT_EQ(Lines().Cell(1, column), QString());
     EXPECT_EQ(Lines().Cell(0, 1), QStringLiteral("Num1"));
@@ -199,9 +199,9 @@ TEST_F(WheelRules, GiveTheRandomButtonsToolTipsWhereAFormHasThem) {
     Open("PBudgetWheel");
     Ruled().RandomSelection().setToolTip(QStringLiteral(" Pick some numbers for me "));
     Ruled().RandomOrder().setToolTip(QStringLiteral(" Mix up the order of the numbers "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command12")->toolTip(),
+    EXPECT_EQ(Find<QPushButton>(*form_, randomSelectionButton)->toolTip(),
               QStringLiteral(" Pick some numbers for me "));
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command8")->toolTip(),
+    EXPECT_EQ(Find<QPushButton>(*form_, randomOrderButton)->toolTip(),
               QStringLiteral(" Mix up the order of the numbers "));
 }
 
@@ -215,9 +215,9 @@ TEST_F(WheelRules, FindTheSkinsLabelsOfAnyWheelForm) {
 
 TEST_F(WheelRules, ShowAPromptOnlyWhereTheFormHasOne) {
     Open("PBudgetWheel");
-    EXPECT_FALSE(Find<QLabel>(*form_, "Label8")->isVisible());
+    EXPECT_FALSE(Find<QLabel>(*form_, promptLabel)->isVisible());
     ShowForm(std::make_unique<PWheel2>(test_.program, nullptr));
-    EXPECT_TRUE(Find<QLabel>(*form_, "Label8")->isVisible());
+    EXPECT_TRUE(Find<QLabel>(*form_, promptLabel)->isVisible());
 }
 
 TEST_F(WheelRules, LeaveTheCursorWhereNoBoxIsToBlame) {
@@ -225,7 +225,7 @@ TEST_F(WheelRules, LeaveTheCursorWhereNoBoxIsToBlame) {
     Box(3).setFocus();
     Ruled().outcome = wheels::Outcome::NoOtherNumber;
     ExpectInputTip();
-    QTest::keyClick(Find<QPushButton>(*form_, "Command2"), Qt::Key_Space);
+    QTest::keyClick(Find<QPushButton>(*form_, generateButton), Qt::Key_Space);
     EXPECT_EQ(form_->focusWidget(), &Box(3));
     EXPECT_EQ(ShownLines(), 0);
 }
@@ -233,14 +233,14 @@ TEST_F(WheelRules, LeaveTheCursorWhereNoBoxIsToBlame) {
 TEST_F(WheelRules, SelectFromTheStartOfThePool) {
     for (const char* rules : {"PBudgetWheel", "PDIYWheels", "PThreeMatch"}) {
         Open(rules);
-        Click(*form_, "Command12");
+        Click(*form_, randomSelectionButton);
         for (int index = 0; index < 8; ++index) {
             EXPECT_EQ(Box(index).text().toInt(), test_.state.Pool(index)) << rules;
         }
         EXPECT_EQ(Box(8).text(), QString());
     }
     ShowForm(std::make_unique<PWheel2>(test_.program, nullptr));
-    Click(*form_, "Command12");
+    Click(*form_, randomSelectionButton);
     for (int index = 0; index < 8; ++index) {
         EXPECT_EQ(Box(index).text().toInt(), test_.state.Pool(index + 1));
     }
@@ -248,19 +248,19 @@ TEST_F(WheelRules, SelectFromTheStartOfThePool) {
 
 TEST_F(WheelRules, IgnoreTheCloseOfABusyBudgetWheelAndLetItFilter) {
     Open("PBudgetWheel");
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     test_.state.Lines(1, 1) = 8;
     test_.state.Busy = -1;
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_TRUE(form_->isVisible());
-    Click(*form_, "Command7");
+    Click(*form_, saveButton);
     EXPECT_EQ(saves_, 0);
-    Click(*form_, "Command15");
+    Click(*form_, usualFilters.longRuns);
     EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << "the filters do not wait";
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << "generate does";
     test_.state.Busy = 0;
-    Click(*form_, "Command2");
+    Click(*form_, generateButton);
     EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7"));
     EXPECT_TRUE(form_->isVisible()) << "the ignored click is not made up for";
 }
@@ -273,7 +273,7 @@ TEST_F(WheelRules, LeaveItToSomeFormsToSetBusy) {
                                                                     {"PThreeMatch", 0}};
     for (const auto& [rules, busy] : setByTheFrame) {
         Open(rules);
-        Click(*form_, "Command2");
+        Click(*form_, generateButton);
         EXPECT_EQ(Ruled().busyAtWork, busy) << rules;
         EXPECT_EQ(test_.state.Busy, 0) << rules;
     }
@@ -284,15 +284,15 @@ TEST_F(WheelRules, LetMatchAndOwnWheelsDoEverythingWhileBusy) {
         Open(rules);
         saves_ = 0;
         test_.state.Busy = -1;
-        Click(*form_, "Command2");
+        Click(*form_, generateButton);
         EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("7")) << rules;
         EXPECT_EQ(test_.state.Busy, -1) << "generate leaves it alone";
         test_.state.Lines(1, 1) = 8;
-        Click(*form_, "Command15");
+        Click(*form_, usualFilters.longRuns);
         EXPECT_EQ(Lines().Cell(1, 1), QStringLiteral("8")) << rules;
-        Click(*form_, "Command7");
+        Click(*form_, saveButton);
         EXPECT_EQ(saves_, 1) << rules;
-        Click(*form_, "Command1");
+        Click(*form_, closeButton);
         EXPECT_FALSE(form_->isVisible()) << rules;
         test_.state.Busy = 0;
     }
