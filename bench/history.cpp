@@ -63,7 +63,7 @@ void FillWithPassingLines(State& state, int count) {
     int row = 0;
     while (row < count) {
         lucky_dip::PlayLotto(state, random, 1);
-        if (plain::HistoryOK(state, true) == 0) continue;
+        if (!plain::HistoryPasses(state)) continue;
         ++row;
         std::copy_n(View(state).Lines.Row(1), 15, passing.Row(row));
     }

@@ -4,40 +4,40 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <limits>
 
 #include "core/settings.h"
 #include "core/text.h"
 
 namespace {
 
-constexpr std::int16_t passed = -1;
-constexpr std::int16_t notPassed = 0;
 constexpr int lastLine = static_cast<int>(decltype(State::Lines)::RowCount()) - 1;
 
 int Strength(const State& state, setting::Slot slot) { return LeadingWhole(state.Settings(slot)); }
 
-// Whether `count` of the line's numbers are of one kind where at least t of either kind are asked.
-bool OutOfBalance(const State& state, int count, long long t) {
-    return count < t || count > state.Picks - t;
+// Whether fewer than `strength` of the line's numbers are of one kind or of the other, where
+// `count` of them are of the one.
+bool OutOfBalance(const State& state, int count, int strength) {
+    return std::min(count, state.Picks - count) < strength;
 }
 
-bool FailsOddEven(const State& state, int row, int t) {
+bool FailsOddEven(const State& state, int row, int strength) {
     int odd = 0;
     for (int column = 1; column <= state.Picks; ++column) {
         if (state.Lines(row, column) % 2 != 0) ++odd;
     }
-    return OutOfBalance(state, odd, t);
+    return OutOfBalance(state, odd, strength);
 }
 
-bool FailsHighLow(const State& state, int row, int t) {
+bool FailsHighLow(const State& state, int row, int strength) {
     int low = 0;
     for (int column = 1; column <= state.Picks; ++column) {
         if (2 * state.Lines(row, column) < state.MaxNum) ++low;
     }
-    return OutOfBalance(state, low, t);
+    return OutOfBalance(state, low, strength);
 }
 
-bool FailsLongRun(const State& state, int row, int t) {
+bool FailsLongRun(const State& state, int row, int strength) {
     int longest = 0;
     int steps = 0;
     for (int column = 1; column < state.Picks; ++column) {
@@ -45,30 +45,29 @@ bool FailsLongRun(const State& state, int row, int t) {
         steps = step ? steps + 1 : 0;
         longest = std::max(longest, steps);
     }
-    return longest >= t;
+    return longest >= strength;
 }
 
-using LineFails = bool (*)(const State& state, int row, int t);
+using LineFails = bool (*)(const State& state, int row, int strength);
 
 template <LineFails Fails>
-std::int16_t Test(const State& state, bool boxSet, setting::Slot slot) {
-    if (!boxSet) return passed;
-    const int t = Strength(state, slot);
-    std::int16_t result = passed;
+bool AllLinesPass(const State& state, setting::Slot slot) {
+    const int strength = Strength(state, slot);
+    bool pass = true;
     int row = 1;
     do {
-        if (Fails(state, row, t)) result = notPassed;
+        pass = !Fails(state, row, strength);
         ++row;
-    } while (state.Lines(row, 1) != 0 && result != notPassed);
-    return result;
+    } while (state.Lines(row, 1) != 0 && pass);
+    return pass;
 }
 
 template <LineFails Fails>
 void Prune(State& state, setting::Slot slot) {
-    const int t = Strength(state, slot);
+    const int strength = Strength(state, slot);
     int row = 1;
     do {
-        if (Fails(state, row, t)) {
+        if (Fails(state, row, strength)) {
             RemoveLine(state, row);
         } else {
             ++row;
@@ -104,9 +103,9 @@ void KeepLines(State& state, int lineCount, const Keep& keep) {
     for (int row = kept + 1; row <= lineCount; ++row) CopyLine(state, lineCount + 1, row);
 }
 
-bool RepeatsDraw(const State& state, int row, int t) {
+bool RepeatsDraw(const State& state, int row, int strength) {
     const std::int16_t* numbers = state.Lines.Row(row) + 1;
-    const long long limit = static_cast<long long>(state.Picks) - t;
+    const long long limit = static_cast<long long>(state.Picks) - strength;
     if (!state.drawIndex.Covers(numbers)) return plain::RepeatsDraw(state, row, limit);
     return state.drawIndex.AnyDrawMatches(numbers, limit + 1);
 }
@@ -143,28 +142,36 @@ class LineSet {
 
   private:
     std::array<std::uint8_t, 512> rows_{};
+    static_assert(lastLine <= std::numeric_limits<std::uint8_t>::max(), "a byte holds any row");
+    static_assert(lastLine < 512, "a free slot ends every search");
 };
+
+// Whether no line repeats too much of a previous draw.
+bool HistoryPasses(State& state) {
+    const int lineCount = LinesBeforeEndMark(state);
+    state.drawIndex.Update(state);
+    if (lineCount == noEndMark || !state.drawIndex.Usable()) return plain::HistoryPasses(state);
+    const int strength = Strength(state, setting::HistoryStrength);
+    for (int row = 1; row <= lineCount; ++row) {
+        if (RepeatsDraw(state, row, strength)) return false;
+    }
+    return true;
+}
+
+std::int16_t Answer(bool passed) { return passed ? -1 : 0; }
 
 }  // namespace
 
 std::int16_t OddEvenOK(const State& state, bool boxSet) {
-    return Test<FailsOddEven>(state, boxSet, setting::OddEvenStrength);
+    return Answer(!boxSet || AllLinesPass<FailsOddEven>(state, setting::OddEvenStrength));
 }
 
 std::int16_t HighLowOK(const State& state, bool boxSet) {
-    return Test<FailsHighLow>(state, boxSet, setting::HighLowStrength);
+    return Answer(!boxSet || AllLinesPass<FailsHighLow>(state, setting::HighLowStrength));
 }
 
 std::int16_t HistoryOK(State& state, bool boxSet) {
-    if (!boxSet) return passed;
-    const int lineCount = LinesBeforeEndMark(state);
-    state.drawIndex.Update(state);
-    if (lineCount == noEndMark || !state.drawIndex.Usable()) return plain::HistoryOK(state, boxSet);
-    const int t = Strength(state, setting::HistoryStrength);
-    for (int row = 1; row <= lineCount; ++row) {
-        if (RepeatsDraw(state, row, t)) return notPassed;
-    }
-    return passed;
+    return Answer(!boxSet || HistoryPasses(state));
 }
 
 void PruneOddEven(State& state) { Prune<FailsOddEven>(state, setting::OddEvenStrength); }
@@ -181,8 +188,8 @@ void PruneHistory(State& state) {
         plain::PruneHistory(state);
         return;
     }
-    const int t = Strength(state, setting::HistoryStrength);
-    KeepLines(state, lineCount, [&](int row, int) { return !RepeatsDraw(state, row, t); });
+    const int strength = Strength(state, setting::HistoryStrength);
+    KeepLines(state, lineCount, [&](int row, int) { return !RepeatsDraw(state, row, strength); });
 }
 
 void PruneDuplicates(State& state) {

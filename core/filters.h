@@ -52,7 +52,8 @@ void RemoveLine(State& state, int row);
 /// effects and failures of the fast routines are those of these on every input.
 namespace plain {
 
-std::int16_t HistoryOK(const State& state, bool boxSet);
+/// Whether `HistoryOK` passes where its box is set.
+bool HistoryPasses(const State& state);
 void PruneHistory(State& state);
 void PruneDuplicates(State& state);
 

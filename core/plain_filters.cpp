@@ -47,14 +47,13 @@ bool plain::RepeatsDraw(const State& state, int row, long long limit) {
     return repeats;
 }
 
-std::int16_t plain::HistoryOK(const State& state, bool boxSet) {
-    if (!boxSet) return -1;
+bool plain::HistoryPasses(const State& state) {
     const long long limit = HistoryLimit(state);
-    std::int16_t result = -1;
-    for (int row = 1; state.Lines(row, 1) != 0 && result != 0; ++row) {
-        if (RepeatsDraw(state, row, limit)) result = 0;
+    bool repeats = false;
+    for (int row = 1; state.Lines(row, 1) != 0 && !repeats; ++row) {
+        repeats = RepeatsDraw(state, row, limit);
     }
-    return result;
+    return !repeats;
 }
 
 // Draw 1 is compared before its end mark is looked for, so with no draws loaded each line meets

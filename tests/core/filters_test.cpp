@@ -8,14 +8,18 @@
 
 namespace {
 
-constexpr std::int16_t passed = -1;
-constexpr std::int16_t notPassed = 0;
-
 std::unique_ptr<State> LotteryWith(int picks, int maxNum, const std::vector<Row>& lines,
                                    const std::string& strength) {
     auto state = Lottery(picks, maxNum);
     FillRows(state->Lines, lines);
-    for (int slot = 11; slot <= 14; ++slot) state->Settings(slot) = strength;
+    SetStrengths(*state, strength);
+    return state;
+}
+
+std::unique_ptr<State> FullTableOf(std::int16_t first, std::int16_t second) {
+    auto state = Lottery(2, 49);
+    state->Lines.Fill(first);
+    for (int row = 0; row <= 180; ++row) state->Lines(row, 2) = second;
     return state;
 }
 
@@ -92,11 +96,25 @@ TEST(OddEven, EmptyFirstRowIsExaminedAndFails) {
 }
 
 TEST(OddEven, FullTableIsAFailure) {
-    const auto state = Lottery(2, 49);
-    state->Lines.Fill(1);
-    for (int row = 0; row <= 180; ++row) state->Lines(row, 2) = 2;
+    const auto state = FullTableOf(1, 2);
     EXPECT_THROW(OddEvenOK(*state, true), Failure);
-    EXPECT_THROW(HighLowOK(*Lottery(15, 49), true), Failure);
+}
+
+TEST(OddEven, FullTableIsAFailureAlsoWhereItsLastLineFails) {
+    const auto state = FullTableOf(1, 2);
+    state->Lines(180, 2) = 3;
+    EXPECT_THROW(OddEvenOK(*state, true), Failure);
+}
+
+TEST(OddEven, FullTableIsNotWalkedToItsEndWhereALineBeforeTheLastFails) {
+    const auto state = FullTableOf(1, 2);
+    state->Lines(179, 2) = 3;
+    EXPECT_EQ(OddEvenOK(*state, true), notPassed);
+}
+
+TEST(OddEven, StrengthBeyondAnyCountIsNeverMet) {
+    EXPECT_EQ(OddEven({1, 2, 3, 4}, "99999999999"), notPassed);
+    EXPECT_EQ(OddEven({1, 2, 3, 4}, "-99999999999"), passed);
 }
 
 TEST(HighLow, OfFortyNine24IsLowAnd25IsNot) {
@@ -113,6 +131,12 @@ TEST(HighLow, AllLowFailsToo) {
     EXPECT_EQ(HighLow(49, {1, 2, 3, 4, 5, 24}, "1"), notPassed);
     EXPECT_EQ(HighLow(49, {1, 2, 3, 4, 5, 25}, "1"), passed);
     EXPECT_EQ(HighLow(49, {1, 2, 3, 4, 5, 25}, "2"), notPassed);
+}
+
+TEST(HighLow, FullTableIsAFailure) { EXPECT_THROW(HighLowOK(*FullTableOf(1, 30), true), Failure); }
+
+TEST(HighLow, MoreNumbersInALineThanTheTableHasColumnsIsAFailure) {
+    EXPECT_THROW(HighLowOK(*Lottery(15, 49), true), Failure);
 }
 
 TEST(LongRun, FourConsecutiveNumbersFailAtStrengthThree) {

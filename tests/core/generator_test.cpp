@@ -121,7 +121,7 @@ TEST_F(Generator, ConditionsThatAreNotSetDoNotCount) {
 }
 
 TEST_F(Generator, PicksTwoAtStrengthTwoRunsItsTenSeconds) {
-    state->Settings(11) = "2 Odd/even filter";
+    state->Settings(setting::OddEvenStrength) = "2 Odd/even filter";
     conditions.oddEven = true;
     TickEachTry(0.25);
     EXPECT_EQ(Generate(), std::string("Tries: 41   Time: 10.25 sec") + notComplying);

@@ -6,16 +6,27 @@
 #include <utility>
 #include <vector>
 
-#include "core/state.h"
+#include "core/settings.h"
 
 using Row = std::vector<int>;
+
+/// What the tests of the filters answer.
+inline constexpr std::int16_t passed = -1;
+inline constexpr std::int16_t notPassed = 0;
+
+/// Gives all four filters that strength.
+inline void SetStrengths(State& state, const std::string& strength) {
+    for (int slot = setting::OddEvenStrength; slot <= setting::LongRunStrength; ++slot) {
+        state.Settings(slot) = strength;
+    }
+}
 
 /// A run state whose lottery has `picks` numbers of `maxNum`, every filter at strength 1.
 inline std::unique_ptr<State> Lottery(int picks, int maxNum) {
     auto state = std::make_unique<State>();
     state->Picks = picks;
     state->MaxNum = maxNum;
-    for (int slot = 11; slot <= 14; ++slot) state->Settings(slot) = "1";
+    SetStrengths(*state, "1");
     return state;
 }
 
