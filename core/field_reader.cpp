@@ -70,22 +70,28 @@ void FieldReader::RequireMore(std::string_view expected) const {
                         "expected " + std::string(expected) + ", but the file ends there.");
 }
 
+bool FieldReader::EndsField(std::size_t position) const {
+    return position == content_.size() || content_[position] == ',' ||
+           IsLineEnd(content_[position]);
+}
+
 std::size_t FieldReader::FieldEnd(std::size_t start) const {
     std::size_t end = start;
-    while (end < content_.size() && content_[end] != ',' && !IsLineEnd(content_[end])) ++end;
+    while (!EndsField(end)) ++end;
     return end;
 }
 
 // Where the field at `start` stands in quotes, the place of the closing one: the first behind which
-// the field ends.
-std::size_t FieldReader::ClosingQuote(std::size_t start) const {
+// the field ends. A line without one is searched for its first field only.
+std::size_t FieldReader::ClosingQuote(std::size_t start) {
     constexpr std::size_t none = std::string_view::npos;
     if (quotes_ == Quotes::Kept || start == content_.size() || content_[start] != '"') return none;
-    for (std::size_t i = start + 1; i < content_.size() && !IsLineEnd(content_[i]); ++i) {
-        if (content_[i] != '"') continue;
-        const std::size_t next = BehindBlanks(content_, i + 1);
-        if (FieldEnd(next) == next) return i;
+    if (start < noneCloses_) return none;
+    std::size_t i = start + 1;
+    for (; i < content_.size() && !IsLineEnd(content_[i]); ++i) {
+        if (content_[i] == '"' && EndsField(BehindBlanks(content_, i + 1))) return i;
     }
+    noneCloses_ = i;
     return none;
 }
 

@@ -47,15 +47,17 @@ class FieldReader {
 
   private:
     void RequireMore(std::string_view expected) const;
+    bool EndsField(std::size_t position) const;
     std::size_t FieldEnd(std::size_t start) const;
-    std::size_t ClosingQuote(std::size_t start) const;
+    std::size_t ClosingQuote(std::size_t start);
     void PassLineEnd();
 
     std::string_view content_;
     std::string fileName_;
     Quotes quotes_;
     std::size_t position_ = 0;
-    bool fieldPending_ = false;  // a comma was the last thing read
+    std::size_t noneCloses_ = 0;  // up to here no quote does
+    bool fieldPending_ = false;   // a comma was the last thing read
     int line_ = 1;
     int nextLine_ = 1;
 };

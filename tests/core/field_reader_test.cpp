@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
 #include <vector>
 
 #include "tests/core/failures.h"
@@ -19,6 +20,31 @@ std::vector<std::string> Fields(std::string_view content, Quotes quotes = Quotes
 }
 
 using Texts = std::vector<std::string>;
+
+std::string Repeated(const std::string& text, int times) {
+    std::string result;
+    for (int time = 0; time < times; ++time) result += text;
+    return result;
+}
+
+// The first field of a text where quotes are removed, looked for character by character; the text
+// is left without it and its comma or line feed.
+std::string TakeQuotedField(std::string& text) {
+    text.erase(0, text.find_first_not_of(' '));
+    for (std::size_t i = 1; text.starts_with('"') && i < text.size() && text[i] != '\n'; ++i) {
+        const std::size_t next = std::min(text.find_first_not_of(' ', i + 1), text.size());
+        if (text[i] != '"' || (next < text.size() && text[next] != ',' && text[next] != '\n')) {
+            continue;
+        }
+        const std::string field = text.substr(1, i - 1);
+        text.erase(0, next + 1);
+        return field;
+    }
+    const std::size_t end = std::min(text.find_first_of(",\n"), text.size());
+    const std::string field = text.substr(0, end);
+    text.erase(0, end + 1);
+    return field.substr(0, field.find_last_not_of(' ') + 1);
+}
 
 }  // namespace
 
@@ -74,6 +100,32 @@ TEST(FieldReader, KeepsAQuoteThatItsLineDoesNotClose) {
 TEST(FieldReader, KeepsQuotesWithinAField) {
     EXPECT_EQ(Fields("\"Joe \"Boss\" Smith\",5\"", Quotes::Removed),
               (Texts{"Joe \"Boss\" Smith", "5\""}));
+}
+
+// A search for the end of the field behind each quote, or to the end of the line for each field,
+// would take minutes here.
+TEST(FieldReader, FindsTheQuoteThatClosesBehindVeryManyThatDoNot) {
+    const std::string quotes = Repeated("x\"", 200000);
+    const Texts expected = {quotes.substr(0, quotes.size() - 1), "5"};
+    EXPECT_TRUE(Fields("\"" + quotes + ",5", Quotes::Removed) == expected);
+}
+
+TEST(FieldReader, KeepsVeryManyQuotesThatTheirLineDoesNotClose) {
+    Texts expected(200000, "\"x");
+    expected.insert(expected.end(), {"y", "z"});
+    EXPECT_TRUE(Fields(Repeated("\"x,", 200000) + "y\n\"z\"", Quotes::Removed) == expected);
+}
+
+TEST(FieldReader, ReadsQuotesWhereverTheyStand) {
+    std::mt19937 random(1);
+    for (int time = 0; time < 20000; ++time) {
+        std::string text(1 + random() % 12, ' ');
+        for (char& character : text) character = std::string_view("\"\"\", a\n")[random() % 7];
+        const Texts fields = Fields(text, Quotes::Removed);
+        std::string left = text;
+        for (const std::string& field : fields) ASSERT_EQ(field, TakeQuotedField(left)) << text;
+        ASSERT_EQ(left, "") << text;
+    }
 }
 
 TEST(FieldReader, ReadsALineWithItsCommasAndBlanks) {
