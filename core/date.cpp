@@ -2,7 +2,6 @@
 #include "core/date.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstddef>
 
 #include "core/failure.h"
@@ -32,12 +31,6 @@ struct DayText {
 
 bool IsNumber(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-int NumberIn(std::string_view digits) {
-    int number = 0;
-    std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return number;
 }
 
 // A run of blanks with at most one sign among them.
@@ -103,8 +96,8 @@ std::optional<DayText> Numeric(const Pieces& pieces, const Region& region) {
     if (sign != pieces.separator[1] || sign == ' ' || sign == ',') return std::nullopt;
     const auto dated = [](std::string_view inYear, std::string_view inMonth,
                           std::string_view onDay) {
-        return DayText{inYear, inMonth.size() > 2 ? 0 : static_cast<unsigned>(NumberIn(inMonth)),
-                       onDay};
+        return DayText{
+            inYear, inMonth.size() > 2 ? 0 : static_cast<unsigned>(LeadingWhole(inMonth)), onDay};
     };
     const bool yearLast = third.size() == 4 && first.size() != 4;
     if (first.size() == 4) return dated(first, second, third);
@@ -114,7 +107,7 @@ std::optional<DayText> Numeric(const Pieces& pieces, const Region& region) {
 }
 
 std::optional<int> YearIn(std::string_view digits, Date today) {
-    const int number = NumberIn(digits);
+    const int number = LeadingWhole(digits);
     if (digits.size() == 4 && number >= 100) return number;
     if (digits.size() != 2) return std::nullopt;
     const int last = static_cast<int>(today.year()) + 20;
@@ -147,7 +140,7 @@ std::optional<Date> ReadDate(std::string_view text, const Region& region, Date t
     const auto yearNumber = YearIn(found->year, today);
     if (!yearNumber) return std::nullopt;
     const Date date(year(*yearNumber), month(found->month),
-                    day(static_cast<unsigned>(NumberIn(found->day))));
+                    day(static_cast<unsigned>(LeadingWhole(found->day))));
     return date.ok() ? std::optional(date) : std::nullopt;
 }
 

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <limits>
 
 #include "core/text.h"
 
@@ -24,19 +22,10 @@ constexpr std::array<std::string_view, lastColumn + 1> expectedFields = {
     "the number in column 7 of a draw",
     "the number in column 8 of a draw"};
 
-// The field as a 16-bit number. Nearly all fields are plain digits, which need no fraction.
-std::int16_t NumberIn(std::string_view field, const FieldReader& reader,
-                      std::string_view expected) {
-    std::int16_t plain = 0;
-    const char* const end = field.data() + field.size();
-    const auto read = std::from_chars(field.data(), end, plain);
-    if (read.ec == std::errc() && read.ptr == end) return plain;
-    const long long number = RoundHalfToEven(LeadingNumber(field));
-    if (number < std::numeric_limits<std::int16_t>::min() ||
-        number > std::numeric_limits<std::int16_t>::max()) {
-        throw reader.Unexpected(std::string(expected) + " (-32768 to 32767)", field);
-    }
-    return static_cast<std::int16_t>(number);
+std::int16_t ReadNumber(FieldReader& reader, std::string_view expected) {
+    const std::string_view field = reader.ReadField(expected);
+    if (const auto number = LeadingInt16(field)) return *number;
+    throw reader.Unexpected(std::string(expected) + " (-32768 to 32767)", field);
 }
 
 std::string ChooseDatabase(State& state, const ProgramFolder& folder, std::int16_t index) {
@@ -58,14 +47,12 @@ void ReadDatabaseHeader(State& state, FieldReader& reader) {
     state.MaxNum = LeadingWhole(reader.ReadField("the highest number"));
     state.HasPball = LeadingWhole(reader.ReadField("whether there is an extra ball"));
     state.MaxPball = LeadingWhole(reader.ReadField("the highest extra ball"));
-    constexpr std::string_view bonus = "whether there is a bonus ball";
-    state.HasBonus = NumberIn(reader.ReadField(bonus), reader, bonus);
+    state.HasBonus = ReadNumber(reader, "whether there is a bonus ball");
 }
 
 void ReadDraw(std::int16_t* row, FieldReader& reader) {
     for (std::size_t column = 1; column <= lastColumn; ++column) {
-        const std::string_view expected = expectedFields[column];
-        row[column] = NumberIn(reader.ReadField(expected), reader, expected);
+        row[column] = ReadNumber(reader, expectedFields[column]);
     }
 }
 

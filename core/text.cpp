@@ -71,9 +71,20 @@ double LeadingNumber(std::string_view text) {
 }
 
 int LeadingWhole(std::string_view text) {
+    // Nearly all fields of a draw database are plain digits, which need no fraction.
+    int plain = 0;
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), plain);
+    if (read.ec == std::errc() && read.ptr == text.data() + text.size()) return plain;
     const long long whole = RoundHalfToEven(LeadingNumber(text));
     return static_cast<int>(std::clamp<long long>(whole, std::numeric_limits<int>::min(),
                                                   std::numeric_limits<int>::max()));
+}
+
+std::optional<std::int16_t> LeadingInt16(std::string_view text) {
+    using Limits = std::numeric_limits<std::int16_t>;
+    const int number = LeadingWhole(text);
+    if (number < Limits::min() || number > Limits::max()) return std::nullopt;
+    return static_cast<std::int16_t>(number);
 }
 
 long long RoundHalfToEven(double value) {

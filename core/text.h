@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+
+// Every number that was typed or stands in a file is read by these three.
 
 /// The number at the head of a text: blanks, a sign, digits with a decimal point. Anything else
 /// ends it, and where nothing was read it is 0. "2 Odd/Even filter" is 2, "x" is 0.
@@ -11,6 +14,9 @@ double LeadingNumber(std::string_view text);
 
 /// `LeadingNumber` rounded to a whole number, half to even, and held within `int`.
 int LeadingWhole(std::string_view text);
+
+/// `LeadingWhole` where it is from -32768 to 32767, as the tables of numbers hold it.
+std::optional<std::int16_t> LeadingInt16(std::string_view text);
 
 /// The nearest whole number; a fraction of one half goes to the even neighbour.
 long long RoundHalfToEven(double value);

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <utility>
 
 #include "core/failure.h"
@@ -13,12 +12,8 @@ namespace wheels {
 namespace {
 
 std::int16_t PoolNumber(const Box& box) {
-    const int number = LeadingWhole(box.text);
-    using Limits = std::numeric_limits<std::int16_t>;
-    if (number < Limits::min() || number > Limits::max()) {
-        throw Failure("A number box holds " + Quoted(box.text) + ", which is too large");
-    }
-    return static_cast<std::int16_t>(number);
+    if (const auto number = LeadingInt16(box.text)) return *number;
+    throw Failure("A number box holds " + Quoted(box.text) + ", which is too large");
 }
 
 int Count(const Boxes& boxes) { return static_cast<int>(boxes.size()); }

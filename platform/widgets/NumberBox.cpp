@@ -5,6 +5,7 @@
 #include <QValidator>
 
 #include "core/text.h"
+#include "platform/system/TextConversion.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ NumberBox::NumberBox(QWidget* parent) : QLineEdit(parent) {
     setInputMethodHints(Qt::ImhDigitsOnly);
 }
 
-int NumberBox::Value() const { return LeadingWhole(text().toStdString()); }
+int NumberBox::Value() const { return LeadingWhole(FromQString(text())); }
 
 void NumberBox::keyPressEvent(QKeyEvent* event) {
     // A dropped key leaves a marked text as it is, which the validator alone could not do.

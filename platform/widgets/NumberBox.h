@@ -10,7 +10,8 @@ class NumberBox final : public QLineEdit {
   public:
     explicit NumberBox(QWidget* parent = nullptr);
 
-    /// The number in the box, 0 where there is none; what is too large is the largest `int`.
+    /// The number in the box as `LeadingWhole` reads it: 0 where there is none; what is too large
+    /// is the largest `int`.
     int Value() const;
 
   protected:

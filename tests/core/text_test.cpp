@@ -52,6 +52,24 @@ TEST(LeadingWhole, IsHeldWithinInt) {
     EXPECT_EQ(LeadingWhole("-99999999999999999999999"), std::numeric_limits<int>::min());
 }
 
+TEST(LeadingWhole, ReadsPlainDigitsAsAnyOtherNumber) {
+    for (const char* text : {"0", "7", "007", "-0", "-12", "2147483647", "-2147483648"}) {
+        EXPECT_EQ(LeadingWhole(text), LeadingWhole(std::string(text) + " ")) << text;
+    }
+    EXPECT_EQ(LeadingWhole("007"), 7);
+    EXPECT_EQ(LeadingWhole("2147483648"), std::numeric_limits<int>::max());
+    EXPECT_EQ(LeadingWhole(""), 0);
+}
+
+TEST(LeadingInt16, IsTheWholeNumberOrNothing) {
+    EXPECT_EQ(LeadingInt16("12.5 x"), std::int16_t{12});
+    EXPECT_EQ(LeadingInt16("x"), std::int16_t{0});
+    EXPECT_EQ(LeadingInt16("32767"), std::int16_t{32767});
+    EXPECT_EQ(LeadingInt16("-32768"), std::int16_t{-32768});
+    EXPECT_EQ(LeadingInt16("32767.5"), std::nullopt);
+    EXPECT_EQ(LeadingInt16("-32769"), std::nullopt);
+}
+
 TEST(RoundHalfToEven, GoesToTheNearestWholeNumberAndFromAHalfToTheEvenOne) {
     EXPECT_EQ(RoundHalfToEven(0.5), 0);
     EXPECT_EQ(RoundHalfToEven(1.5), 2);
