@@ -33,12 +33,13 @@ class StatusLine {
     double painted_ = 0;
 };
 
-// All three tests run, also where the first has failed.
-bool AllPass(State& state, const Conditions& conditions) {
+// All tests run, also where the first has failed.
+bool AllPass(State& state, const Conditions& conditions, const GeneratorSteps& steps) {
+    const bool further = !steps.furtherCondition || steps.furtherCondition();
     const bool history = HistoryOK(state, conditions.history) != 0;
     const bool highLow = HighLowOK(state, conditions.highLow) != 0;
     const bool oddEven = OddEvenOK(state, conditions.oddEven) != 0;
-    return history && highLow && oddEven;
+    return further && history && highLow && oddEven;
 }
 
 }  // namespace
@@ -62,8 +63,9 @@ std::string GenerateLines(State& state, Random& random, const Conditions& condit
         ++tries;
         status.Try(tries, steps.seconds() - start);
         over = steps.seconds() - start > generatorLimit;
-        pass = AllPass(state, conditions);
+        pass = AllPass(state, conditions, steps);
     }
+    if (style.sortLines) SortLines(state, state.Picks);
     if (style.pruneDuplicates) PruneDuplicates(state);
     steps.showLines();
     std::string text = status.Text();

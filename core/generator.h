@@ -17,6 +17,7 @@ struct Conditions {
 /// How one form's generator differs from the others'.
 struct GeneratorStyle {
     int timeDecimals = 2;          ///< Places of the shown time: 3 or 2.
+    bool sortLines = false;        ///< Whether the lines are sorted at the end; tries need not be.
     bool pruneDuplicates = false;  ///< Whether equal lines are removed at the end.
 };
 
@@ -26,6 +27,9 @@ struct GeneratorSteps {
     std::function<void(const std::string&)> paintStatus;  ///< Shows a status text at once.
     std::function<void()> showLines;                      ///< Fills the grid.
     std::function<double()> seconds;                      ///< Monotonic clock, in seconds.
+    /// Whether the lines keep to what this method asks beside the boxes; nothing: it asks for no
+    /// more. It sees the lines as `playLotto` left them, before the boxes' conditions do.
+    std::function<bool()> furtherCondition{};
 };
 
 /// The status line of a generator: "Tries: 1,234   Time: 0.123 sec".
@@ -35,8 +39,9 @@ std::string StatusText(int tries, double seconds, int timeDecimals);
 inline constexpr double generatorLimit = 10.0;
 
 /// Clears the lines, seeds `random` from the clock, and makes whole sets of lines until one passes
-/// all conditions or more than 10 seconds are over; then prunes equal lines where the style says
-/// so, shows the lines, and returns the status text, which says where the lines do not comply.
+/// all conditions or more than 10 seconds are over; then sorts them and prunes equal ones where the
+/// style says so, shows the lines, and returns the status text, which says where the lines do not
+/// comply.
 ///
 /// The status is painted at the first try, then some 60 times a second, and at the end. `Busy` is
 /// the caller's. A failure in a step leaves through here.

@@ -176,6 +176,60 @@ TEST_F(Generator, DuplicatesStayOtherwise) {
     EXPECT_EQ(shown, lines);
 }
 
+TEST_F(Generator, LinesAreSortedAtTheEndWhereTheStyleSaysSo) {
+    lines = {{40, 1}, {2, 31}};
+    style.sortLines = true;
+    Generate();
+    EXPECT_EQ(shown, (std::vector<Row>{{1, 40}, {2, 31}}));
+}
+
+TEST_F(Generator, LinesStayAsTheyWerePlayedOtherwise) {
+    lines = {{40, 1}, {2, 31}};
+    Generate();
+    EXPECT_EQ(shown, lines);
+}
+
+TEST_F(Generator, LinesThatOnlyTheSortMakesEqualArePruned) {
+    lines = {{40, 1}, {2, 31}, {1, 40}};
+    style = {.sortLines = true, .pruneDuplicates = true};
+    Generate();
+    EXPECT_EQ(shown, (std::vector<Row>{{1, 40}, {2, 31}}));
+}
+
+TEST_F(Generator, RetriesForAFurtherConditionThoughNoBoxIsSet) {
+    steps.furtherCondition = [this] { return Tries() == 7; };
+    EXPECT_EQ(Generate(), "Tries: 7   Time: 0.00 sec");
+}
+
+TEST_F(Generator, FurtherConditionAndTheBoxesMustHoldAtTheSameTry) {
+    conditions.oddEven = true;
+    const auto play = steps.playLotto;
+    steps.playLotto = [&] {
+        play();
+        if (Tries() % 3 != 0) FillRows(state->Lines, {{1, 3}});
+    };
+    steps.furtherCondition = [this] { return Tries() % 2 == 0; };
+    EXPECT_EQ(Generate(), "Tries: 6   Time: 0.00 sec");
+}
+
+TEST_F(Generator, FurtherConditionSeesTheLinesBeforeTheyAreSorted) {
+    lines = {{40, 1}};
+    style.sortLines = true;
+    std::vector<Row> seen;
+    steps.furtherCondition = [&] {
+        seen = LinesOf(*state, 2);
+        return true;
+    };
+    Generate();
+    EXPECT_EQ(seen, lines);
+}
+
+TEST_F(Generator, FurtherConditionThatNeverHoldsRunsItsTenSeconds) {
+    steps.furtherCondition = [] { return false; };
+    TickEachTry(3);
+    EXPECT_EQ(Generate(), std::string("Tries: 4   Time: 12.00 sec") + notComplying);
+}
+
 TEST_F(Generator, PaintsTheFirstTryAndTheEnd) {
     Generate();
     EXPECT_EQ(painted, (std::vector<std::string>(2, "Tries: 1   Time: 0.00 sec")));
