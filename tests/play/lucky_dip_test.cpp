@@ -8,14 +8,9 @@
 
 #include "core/failure.h"
 #include "tests/core/lines_support.h"
+#include "tests/play/random_support.h"
 
 namespace {
-
-Random Seeded(std::uint64_t seed) {
-    Random random([] { return std::uint64_t{0}; });
-    random.Reset(seed);
-    return random;
-}
 
 std::vector<Row> Play(State& state, std::uint64_t seed, int lineCount) {
     Random random = Seeded(seed);
