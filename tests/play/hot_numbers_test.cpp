@@ -9,12 +9,10 @@
 #include <set>
 #include <vector>
 
-#include "core/draw_database.h"
 #include "core/filters.h"
-#include "core/memory_folder.h"
 #include "core/text.h"
 #include "tests/core/failures.h"
-#include "tests/support/real_histories.h"
+#include "tests/support/each_real_history.h"
 
 namespace {
 
@@ -257,11 +255,7 @@ TEST_F(HotNumbers, EndWithAReportOnAHistoryWithoutAnEmptyRowBehindIt) {
 }
 
 TEST_F(HotNumbers, OfRealHistoriesAreTheOnesThatAPlainCountGives) {
-    MemoryFolder folder;
-    if (!AddRealHistories(folder)) GTEST_SKIP() << "no folder of real histories";
-    const auto names = ListDatabases(*state_, folder);
-    for (std::size_t index = 0; index < names.size(); ++index) {
-        LoadDatabase(*state_, folder, static_cast<std::int16_t>(index));
+    const auto check = [&](const std::string& name) {
         std::map<int, int> times;
         for (int row = 1; state_->Draws(row, 1) != 0; ++row) {
             for (int pick = 1; pick <= state_->Picks; ++pick) ++times[state_->Draws(row, pick)];
@@ -274,9 +268,10 @@ TEST_F(HotNumbers, OfRealHistoriesAreTheOnesThatAPlainCountGives) {
             });
             std::string expected = std::to_string(numbers[0]);
             for (std::size_t i = 1; i < 10; ++i) expected += ", " + std::to_string(numbers[i]);
-            EXPECT_EQ(Play(mode), expected) << names[index];
+            EXPECT_EQ(Play(mode), expected) << name;
         }
-    }
+    };
+    if (!ForEachRealHistory(*state_, check)) GTEST_SKIP() << "no folder of real histories";
 }
 
 }  // namespace
