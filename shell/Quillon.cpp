@@ -4,11 +4,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QPainter>
-#include <QVBoxLayout>
-#include <array>
 
-#include "core/british_dates.h"
 #include "core/draw_database.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
@@ -21,25 +17,15 @@
 #include "platform/widgets/Widgets.h"
 #include "shell/BiochartPanel.h"
 #include "shell/InfoPanels.h"
+#include "shell/MainArea.h"
 #include "shell/MainMenu.h"
 #include "shell/Toolbar.h"
-#include "shell/Welcome.h"
 #include "shell/form_catalogue.h"
 
 namespace {
 
 constexpr const char* backupFolder = "Backup";
-constexpr const char* pictureFile = "SkinMain.jpg";
-constexpr int internetPicture = 12;
-constexpr int downloadPicture = 1;
-
-/// The menu entry behind each toolbar picture. The picture of a lucky dip opens the numerology form
-/// and stays so; the download depends on the region, and the internet needs no visible entry.
-constexpr std::array<const char*, Toolbar::pictureCount> pictureEntries = {
-    "FileNotes",           "DatabaseUpdate",  "wDatabaseView",   "DatabaseCheck",
-    "DatabaseStoreDrawsW", "AnalysisCommon",  "AnalyseNumStats", "AnalyseOddEven",
-    "PlayFullSel",         "PlayHot",         "PlayLucky",       "PlayDIYWheels",
-    "LinksLink(0)",        "HelpLotteryInfo", "HelpHelp",        "FileExit"};
+constexpr const char* internetEntry = "LinksLink(0)";
 
 }  // namespace
 
@@ -47,37 +33,22 @@ Quillon::Quillon(Program& program, QWidget* parent)
     : QMainWindow(parent),
       program_(program),
       menu_(new MainMenu(this)),
-      toolbar_(new Toolbar),
-      panels_(new InfoPanels(program, nullptr)) {
+      area_(new MainArea(program, this)) {
     setObjectName(QStringLiteral("Quillon"));
     setWindowTitle(QStringLiteral("Lottery Quillon World"));
-    Build();
+    setMenuBar(menu_);
+    setCentralWidget(area_);
+    KeepTextBoxesToOneLine(*this);
+    resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
     AnswerMenu();
     AnswerForms();
-    DimPictures();
-}
-
-void Quillon::Build() {
-    auto* centre = new QWidget(this);
-    auto* layout = new QVBoxLayout(centre);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(toolbar_, 0, Qt::AlignTop);
-    layout->addWidget(panels_, 1);
-    setMenuBar(menu_);
-    setCentralWidget(centre);
-    KeepTextBoxesToOneLine(*this);
-    // Wherever the mouse moves but on a picture, the pictures lose their border.
-    centre->setMouseTracking(true);
-    setMouseTracking(true);
-    resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
-    connect(toolbar_, &Toolbar::clicked, this, &Quillon::Image1_Click);
+    AnswerArea();
 }
 
 void Quillon::AnswerMenu() {
     menu_->Answer(QStringLiteral("FileNotes"), [this] { ShowPanels(); });
-    menu_->Answer(QStringLiteral("FileDeleteSaved"), [this] { FileDeleteSaved_Click(); });
-    menu_->Answer(QStringLiteral("FileExit"), [this] { FileExit_Click(); });
+    menu_->Answer(QStringLiteral("FileDeleteSaved"), [this] { DeleteSavedEntries(); });
+    menu_->Answer(QStringLiteral("FileExit"), [this] { Quit(); });
     menu_->Answer(QStringLiteral("HelpHelp"),
                   [this] { program_.services.openPage(QStringLiteral("help.html")); });
     menu_->Answer(QStringLiteral("HelpWebSite"), [this] {
@@ -94,10 +65,16 @@ void Quillon::AnswerForms() {
         if (name.isEmpty() || entry.make == nullptr) continue;
         menu_->Answer(name, [this, &entry] { Open(entry); });
     }
-    const QString biorhythms = QStringLiteral("AnalyseBiorhythms");
-    panels_->Biochart().SetMoreAvailable(menu_->Entry(biorhythms)->isEnabled());
-    connect(&panels_->Biochart(), &BiochartPanel::moreWanted, menu_->Entry(biorhythms),
-            &QAction::trigger);
+}
+
+void Quillon::AnswerArea() {
+    connect(area_, &MainArea::stepChosen, this, &Quillon::Choose);
+    connect(&area_->Pictures(), &Toolbar::chosen, this, &Quillon::Choose);
+    area_->Pictures().DimPictures(*menu_);
+    QAction* biorhythms = menu_->Entry(QStringLiteral("AnalyseBiorhythms"));
+    BiochartPanel& biochart = area_->Panels().Biochart();
+    biochart.SetMoreAvailable(biorhythms->isEnabled());
+    connect(&biochart, &BiochartPanel::moreWanted, biorhythms, &QAction::trigger);
 }
 
 void Quillon::Load() {
@@ -106,9 +83,9 @@ void Quillon::Load() {
     LoadSettings();
     Skinning();
     if (program_.state.Settings(setting::InfoPanels) == "1") ShowPanels();
-    if (program_.folder.Exists(notesFile)) panels_->ShowNotes(ReadNotes(program_.folder));
-    panels_->Biochart().ShowBirthDate();
-    panels_->Biochart().DoBiorhythm();
+    if (program_.folder.Exists(notesFile)) area_->Panels().ShowNotes(ReadNotes(program_.folder));
+    area_->Panels().Biochart().ShowBirthDate();
+    area_->Panels().Biochart().DoBiorhythm();
     LoadSyndicate(program_.state, program_.folder);
     UpdateSyndicate();
     ListDatabases();
@@ -121,51 +98,20 @@ void Quillon::LoadSettings() {
 
 void Quillon::Skinning() {
     ApplySkinColours(program_.state, *this, {});
-    if (painted_) SkinPicture();
-}
-
-void Quillon::SkinPicture() {
-    // Where pictures are chosen and this one is missing, the window stays as it is.
-    if (!SkinChoiceOf(program_.state).pictures) {
-        picture_ = {};
-    } else if (const QString file = QString::fromLatin1(pictureFile);
-               program_.folder.Exists(pictureFile)) {
-        picture_ = ::SkinPicture(program_.state, program_.folder, file);
-    }
-    update();
-}
-
-void Quillon::CompletePainting() {
-    toolbar_->LoadPictures();
-    SkinPicture();
-    ShowWelcome(!panels_->Shown());
-}
-
-void Quillon::ShowWelcome(bool shown) {
-    if (shown && welcome_ == nullptr) {
-        welcome_ = new Welcome(centralWidget());
-        connect(welcome_, &Welcome::stepChosen, this,
-                [this](const QString& entry) { menu_->Entry(entry)->trigger(); });
-        auto* layout = qobject_cast<QVBoxLayout*>(centralWidget()->layout());
-        layout->insertWidget(1, welcome_, 1, Qt::AlignCenter);
-    }
-    if (welcome_ == nullptr) return;
-    welcome_->SuitLotteries(anyLottery_);
-    welcome_->setVisible(shown);
+    area_->TakePicture();
 }
 
 void Quillon::ListDatabases() {
     const std::vector<std::string> names = ::ListDatabases(program_.state, program_.folder);
-    panels_->ShowDatabases(names);
-    anyLottery_ = !names.empty();
-    if (welcome_ != nullptr) welcome_->SuitLotteries(anyLottery_);
+    area_->Panels().ShowDatabases(names);
+    area_->SuitLotteries(!names.empty());
 }
 
 void Quillon::UpdateSyndicate() {
     LoadSyndicate(program_.state, program_.folder);
     const std::string& name = View(program_.state).Members(0, 10);
     const std::string& manager = View(program_.state).Members(0, 0);
-    panels_->ShowSyndicate(name, manager);
+    area_->Panels().ShowSyndicate(name, manager);
     const bool open = !name.empty() && !manager.empty();
     const std::initializer_list<const char*> entries = {"SyndicateMembers", "SyndicatePayments",
                                                         "SyndicatesNotes", "SyndicateManager"};
@@ -178,13 +124,12 @@ void Quillon::UpdateSyndicate() {
 }
 
 void Quillon::ShowPanels() {
-    const bool shown = !panels_->Shown();
-    if (painted_) ShowWelcome(!shown);
-    panels_->SetShown(shown);
+    const bool shown = !area_->Panels().Shown();
+    area_->ShowPanels(shown);
     program_.state.Settings(setting::InfoPanels).assign(1, shown ? '1' : '0');
 }
 
-void Quillon::SaveNotes() { ::SaveNotes(program_.folder, panels_->CurrentNotes()); }
+void Quillon::SaveNotes() { ::SaveNotes(program_.folder, area_->Panels().CurrentNotes()); }
 
 void Quillon::Open(const CatalogueEntry& entry) {
     if (entry.needsSavedEntries && !program_.folder.Exists(savedEntriesFile)) {
@@ -216,7 +161,7 @@ void Quillon::LinksLink(int index) {
     program_.services.openPage(ToQString(program_.state.Settings(setting::LinkAddresses + index)));
 }
 
-void Quillon::FileDeleteSaved_Click() {
+void Quillon::DeleteSavedEntries() {
     MessageBoxes& messages = program_.services.messages;
     if (!program_.folder.Exists(savedEntriesFile)) {
         messages.Show(this, {.title = tr("Error!"),
@@ -234,34 +179,17 @@ void Quillon::FileDeleteSaved_Click() {
     if (answer == Answer::Yes) program_.folder.Delete(savedEntriesFile);
 }
 
-void Quillon::FileExit_Click() {
+void Quillon::Quit() {
     QCoreApplication::processEvents();
     close();
 }
 
-QString Quillon::DownloadEntry() const {
-    return BritishDates(program_.services.region) ? QStringLiteral("DatabaseUpdate")
-                                                  : QStringLiteral("DatabaseUS");
-}
-
-void Quillon::Image1_Click(int index) {
-    if (index == internetPicture) {
+void Quillon::Choose(const QString& menuEntry) {
+    // The internet is browsed even where its entry has lost its caption and is hidden.
+    if (menuEntry == QLatin1String(internetEntry)) {
         LinksLink(0);
-    } else if (index == downloadPicture) {
-        menu_->Entry(DownloadEntry())->trigger();
     } else {
-        const auto place = static_cast<std::size_t>(index);
-        menu_->Entry(QString::fromLatin1(pictureEntries.at(place)))->trigger();
-    }
-}
-
-void Quillon::DimPictures() {
-    for (int i = 0; i < Toolbar::pictureCount; ++i) {
-        const QString entry =
-            i == downloadPicture
-                ? DownloadEntry()
-                : QString::fromLatin1(pictureEntries.at(static_cast<std::size_t>(i)));
-        toolbar_->Picture(i)->SetDimmed(!menu_->Entry(entry)->isEnabled());
+        menu_->Entry(menuEntry)->trigger();
     }
 }
 
@@ -278,21 +206,4 @@ void Quillon::keyPressEvent(QKeyEvent* event) {
     } else {
         QMainWindow::keyPressEvent(event);
     }
-}
-
-void Quillon::mouseMoveEvent(QMouseEvent* event) {
-    QMainWindow::mouseMoveEvent(event);
-    toolbar_->ClearBorders();
-}
-
-void Quillon::paintEvent(QPaintEvent* event) {
-    QMainWindow::paintEvent(event);
-    if (!painted_) {
-        // The frame is there at once; the pictures and the welcome follow it.
-        painted_ = true;
-        QMetaObject::invokeMethod(this, &Quillon::CompletePainting, Qt::QueuedConnection);
-    }
-    if (picture_.isNull()) return;
-    QPainter painter(this);
-    PaintSkin(painter, centralWidget()->geometry(), picture_, palette());
 }

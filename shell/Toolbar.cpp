@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Toolbar.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "core/british_dates.h"
 #include "platform/widgets/Widgets.h"
+#include "shell/MainMenu.h"
 
 namespace {
 
@@ -16,27 +19,34 @@ constexpr int groupGap = 12;
 
 struct PictureText {
     const char* toolTip;
+    const char* menuEntry;  // none: the download, which depends on the region
     bool startsGroup = false;
 };
 
 constexpr std::array<PictureText, Toolbar::pictureCount> pictureTexts = {{
-    {QT_TRANSLATE_NOOP("Toolbar", " Show notes, checklist, etc. ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Download latest lottery results "), true},
-    {QT_TRANSLATE_NOOP("Toolbar", " View lottery draws databases ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Check lottery entries to see if you have won ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Type in your lottery entries ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Chart the most common numbers "), true},
-    {QT_TRANSLATE_NOOP("Toolbar", " Statistical analysis of lottery numbers ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Chart odd:even number ratios ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Full selection pick "), true},
-    {QT_TRANSLATE_NOOP("Toolbar", " Hot numbers pick ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Lucky dip pick ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Create your own wheel ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Browse the Internet "), true},
-    {QT_TRANSLATE_NOOP("Toolbar", " Lottery information ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Help ")},
-    {QT_TRANSLATE_NOOP("Toolbar", " Quit "), true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Show notes, checklist, etc. "), "FileNotes"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Download latest lottery results "), nullptr, true},
+    {QT_TRANSLATE_NOOP("Toolbar", " View lottery draws databases "), "wDatabaseView"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Check lottery entries to see if you have won "),
+     "DatabaseCheck"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Type in your lottery entries "), "DatabaseStoreDrawsW"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Chart the most common numbers "), "AnalysisCommon", true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Statistical analysis of lottery numbers "), "AnalyseNumStats"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Chart odd:even number ratios "), "AnalyseOddEven"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Full selection pick "), "PlayFullSel", true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Hot numbers pick "), "PlayHot"},
+    // Kept on purpose: the picture of a lucky dip opens the numerology form.
+    {QT_TRANSLATE_NOOP("Toolbar", " Lucky dip pick "), "PlayLucky"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Create your own wheel "), "PlayDIYWheels"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Browse the Internet "), "LinksLink(0)", true},
+    {QT_TRANSLATE_NOOP("Toolbar", " Lottery information "), "HelpLotteryInfo"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Help "), "HelpHelp"},
+    {QT_TRANSLATE_NOOP("Toolbar", " Quit "), "FileExit", true},
 }};
+
+QString DownloadEntry(const Region& region) {
+    return BritishDates(region) ? QStringLiteral("DatabaseUpdate") : QStringLiteral("DatabaseUS");
+}
 
 }  // namespace
 
@@ -103,7 +113,8 @@ void ToolbarPicture::paintEvent(QPaintEvent*) {
                                {pictureMargin, pictureMargin, pictureMargin, pictureMargin}));
 }
 
-Toolbar::Toolbar(QWidget* parent) : QLabel(parent) {
+Toolbar::Toolbar(const Region& region, QWidget* parent)
+    : QLabel(parent), download_(DownloadEntry(region)) {
     setObjectName(QStringLiteral("Label1"));
     setMouseTracking(true);
     auto* layout = new QHBoxLayout(this);
@@ -117,7 +128,7 @@ Toolbar::Toolbar(QWidget* parent) : QLabel(parent) {
         pictures_.at(place) = picture;
         layout->addWidget(picture);
         connect(picture, &ToolbarPicture::mouseOver, this, [this, i] { MoveBorderTo(i); });
-        connect(picture, &QToolButton::clicked, this, [this, i] { Q_EMIT clicked(i); });
+        connect(picture, &QToolButton::clicked, this, [this, i] { Q_EMIT chosen(EntryOf(i)); });
     }
     layout->addStretch();
     // A label asks for the room of its text alone, so the pictures' room is set here.
@@ -129,6 +140,17 @@ void Toolbar::LoadPictures() {
     for (int i = 0; i < pictureCount; ++i) {
         Picture(i)->setIcon(
             QIcon(QStringLiteral(":/icons/icons/toolbar%1.svg").arg(i, 2, 10, QLatin1Char('0'))));
+    }
+}
+
+QString Toolbar::EntryOf(int index) const {
+    const char* entry = pictureTexts.at(static_cast<std::size_t>(index)).menuEntry;
+    return entry == nullptr ? download_ : QString::fromLatin1(entry);
+}
+
+void Toolbar::DimPictures(const MainMenu& menu) {
+    for (int i = 0; i < pictureCount; ++i) {
+        Picture(i)->SetDimmed(!menu.Entry(EntryOf(i))->isEnabled());
     }
 }
 

@@ -5,6 +5,9 @@
 #include <QToolButton>
 #include <array>
 
+class MainMenu;
+struct Region;
+
 /// A picture of the toolbar: a button without a frame, with a border inside its edge while the
 /// mouse was last seen over it.
 class ToolbarPicture final : public QToolButton {
@@ -37,13 +40,17 @@ class ToolbarPicture final : public QToolButton {
     bool focusVisible_ = false;
 };
 
-/// The row of sixteen pictures on their background `Label1`.
+/// The row of sixteen pictures on their background.
 class Toolbar final : public QLabel {
     Q_OBJECT
   public:
     static constexpr int pictureCount = 16;
 
-    explicit Toolbar(QWidget* parent = nullptr);
+    /// The region tells which download is the user's: the UK one where dates are British ones.
+    Toolbar(const Region& region, QWidget* parent);
+
+    /// The menu entry that the picture stands for.
+    QString EntryOf(int index) const;
 
     ToolbarPicture* Picture(int index) const {
         return pictures_.at(static_cast<std::size_t>(index));
@@ -52,11 +59,15 @@ class Toolbar final : public QLabel {
     /// Gives the pictures what they show; until then their places are empty.
     void LoadPictures();
 
+    /// Dims the pictures whose entry the menu does not answer.
+    void DimPictures(const MainMenu& menu);
+
     /// Takes the border from every picture.
     void ClearBorders();
 
   Q_SIGNALS:
-    void clicked(int index);
+    /// Somebody has clicked the picture of this menu entry.
+    void chosen(const QString& menuEntry);
 
   protected:
     void leaveEvent(QEvent* event) override;
@@ -67,4 +78,5 @@ class Toolbar final : public QLabel {
     void MoveBorderTo(int index);
 
     std::array<ToolbarPicture*, pictureCount> pictures_{};
+    QString download_;
 };

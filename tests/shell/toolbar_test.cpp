@@ -41,6 +41,8 @@ class ToolbarOfWindow : public MainWindow {
         return Find<ToolbarPicture>(*window, Name(index).c_str());
     }
 
+    QString DownloadEntry() { return Find<Toolbar>(*window, "Label1")->EntryOf(1); }
+
     std::vector<int> Bordered() {
         std::vector<int> bordered;
         for (int i = 0; i < 16; ++i) {
@@ -215,7 +217,7 @@ TEST_F(ToolbarOfWindow, APictureTriggersItsEntryAndNoOther) {
 
 TEST_F(ToolbarOfWindow, BritishDatesMeanTheDownloadForTheUk) {
     Start();
-    EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUpdate"));
+    EXPECT_EQ(DownloadEntry(), QStringLiteral("DatabaseUpdate"));
 }
 
 TEST_F(ToolbarOfWindow, OtherDatesMeanTheDownloadForTheUs) {
@@ -224,8 +226,7 @@ TEST_F(ToolbarOfWindow, OtherDatesMeanTheDownloadForTheUs) {
           QLocale(QLocale::Swedish, QLocale::Sweden), QLocale(QLocale::German, QLocale::Germany)}) {
         program.services.region = RegionOf(locale);
         Start();
-        EXPECT_EQ(window->DownloadEntry(), QStringLiteral("DatabaseUS"))
-            << locale.name().toStdString();
+        EXPECT_EQ(DownloadEntry(), QStringLiteral("DatabaseUS")) << locale.name().toStdString();
     }
 }
 
