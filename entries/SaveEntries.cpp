@@ -9,7 +9,7 @@
 
 #include "core/settings.h"
 #include "core/text.h"
-#include "entries/saved_entries.h"
+#include "entries/draw_days.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"

@@ -4,9 +4,6 @@
 #include <array>
 #include <string>
 
-#include "core/date.h"
-#include "core/state.h"
-
 inline constexpr const char* savedEntriesFile = "MyLottery.txt";
 
 /// One entry as the file holds it: draw date, seven main numbers, extra ball, lottery, player,
@@ -15,9 +12,3 @@ using SavedEntry = std::array<std::string, 12>;
 
 /// The record of an entry: its fields with a comma between, and a line end. Nothing is quoted.
 std::string SavedEntryRecord(const SavedEntry& entry);
-
-/// The draw date to propose for `state.LotteryName`.
-///
-/// For the seven known lotteries it is the next draw day, today included; for others, or on a draw
-/// day, it is today, or `setting::DrawDate` where that lies later.
-Date NextDrawDate(const State& state, const Region& region, Date today);
