@@ -17,13 +17,13 @@ int CountLines(const Grid& grid) {
 
 SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::string& player) {
     SavedEntry entry;
-    entry[0] = state.Settings(setting::DrawDate);
-    for (int column = 1; column <= 8; ++column) {
+    entry[entry_column::date] = state.Settings(setting::DrawDate);
+    for (int column = 1; column <= entry_column::extraBall; ++column) {
         entry[static_cast<std::size_t>(column)] = FromQString(grid.Cell(row, column));
     }
-    entry[9] = state.LotteryName;
-    entry[10] = player;
-    entry[11] = state.DbaseFile;
+    entry[entry_column::lottery] = state.LotteryName;
+    entry[entry_column::player] = player;
+    entry[entry_column::database] = state.DbaseFile;
     return entry;
 }
 
@@ -39,11 +39,11 @@ void SaveLines(Program& program, Form* form, Grid& grid) {
     const int wanted = dialog.LineCount();
     if (wanted == 0) return;
 
-    std::string records;
+    std::vector<SavedEntry> entries;
     int row = 1;
     do {
-        records += SavedEntryRecord(EntryOf(program.state, grid, row, dialog.PlayerName()));
+        entries.push_back(EntryOf(program.state, grid, row, dialog.PlayerName()));
         ++row;
     } while (row <= wanted && !grid.Cell(row, 1).isEmpty());
-    program.folder.Append(savedEntriesFile, records);
+    AppendEntries(program.folder, entries);
 }

@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "core/text.h"
+#include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LinesGrid.h"
 #include "platform/system/MessageBoxes.h"
@@ -17,11 +18,8 @@
 namespace {
 
 constexpr int lastRow = 500;
-constexpr int lastColumn = 11;
-constexpr int extraBallColumn = 8;
-constexpr int lotteryColumn = 9;
 
-// The same for every lottery.
+// Kept on purpose: the same for every lottery.
 constexpr double highestNumber = 60;
 
 }  // namespace
@@ -44,10 +42,10 @@ void ShowMyDrawsW::Load() {
 void ShowMyDrawsW::DisplayMyDraws() {
     const EntryTable& table = entryTable_;
     for (int row = 1; row <= lastRow; ++row) {
-        for (int column = 0; column <= lastColumn; ++column) {
+        for (int column = 0; column <= entry_column::last; ++column) {
             grid_->SetCell(row, column, ToQString(table(row, column)));
         }
-        grid_->SetCellColour(row, extraBallColumn, ExtraBallColour());
+        grid_->SetCellColour(row, entry_column::extraBall, ExtraBallColour());
     }
     GoToFirstCell();
 }
@@ -87,11 +85,11 @@ void ShowMyDrawsW::Command10_Click() {
         services().messages.Show(this,
                                  {.title = tr("Error"), .text = text, .sign = Sign::Exclamation});
     };
-    if (column == lotteryColumn) return refuse(tr("Can't change lotteries!  "));
+    if (column == entry_column::lottery) return refuse(tr("Can't change lotteries!  "));
     if (grid_->Cell(row, column).isEmpty()) return;
     const std::string text = FromQString(text1_->text());
     const double number = LeadingNumber(text);
-    const bool isNumber = column >= 1 && column <= extraBallColumn;
+    const bool isNumber = column >= 1 && column <= entry_column::extraBall;
     if (isNumber && (number < 1 || number > highestNumber)) {
         return refuse(tr("Number out of range!  "));
     }
@@ -154,7 +152,7 @@ void ShowMyDrawsW::Command4_Click() {
                          tr("that are older than today?    ");
     if (!Confirmed(text)) return;
     const Hourglass hourglass;
-    // Entries of yesterday stay, whatever the question says.
+    // Kept on purpose: entries of yesterday stay, whatever the question says.
     DeleteOutOfDate(entryTable_, services().region, services().today());
     DisplayMyDraws();
     entriesChanged_ = -1;
@@ -172,33 +170,17 @@ void ShowMyDrawsW::Command9_Click() {
     Unload();
 }
 
-SavedEntry ShowMyDrawsW::EntryInGrid(int row) const {
-    SavedEntry entry;
-    for (int column = 0; column <= lastColumn; ++column) {
-        entry[static_cast<std::size_t>(column)] = FromQString(grid_->Cell(row, column));
-    }
-    return entry;
-}
-
-std::string ShowMyDrawsW::GridRecords() const {
-    std::string records;
-    for (int row = 1; !grid_->Cell(row, 0).isEmpty(); ++row) {
-        records += SavedEntryRecord(EntryInGrid(row));
-    }
-    return records;
-}
-
 void ShowMyDrawsW::Command13_Click() {
-    const std::string records = GridRecords();
-    if (!records.empty()) {
-        folder().Write(savedEntriesFile, records);
+    const std::vector<SavedEntry> entries = EntriesInGrid(*grid_);
+    if (!entries.empty()) {
+        WriteEntries(folder(), entries);
     } else if (folder().Exists(savedEntriesFile)) {
         folder().Delete(savedEntriesFile);
     }
     grid_->SetCurrentCell(1, 1);
     MSFlexGrid1_Click();
-    // An empty table is not counted as saved.
-    if (!records.empty()) entriesChanged_ = 0;
+    // Kept on purpose: an empty table is not counted as saved.
+    if (!entries.empty()) entriesChanged_ = 0;
 }
 
 void ShowMyDrawsW::Command1_Click() {

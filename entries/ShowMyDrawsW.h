@@ -44,8 +44,6 @@ class ShowMyDrawsW final : public Form {
     void DisplayMyDraws();
     void GoToFirstCell();
     void ShowCurrentCell();
-    SavedEntry EntryInGrid(int row) const;
-    std::string GridRecords() const;
     bool Confirmed(const QString& text);
 
     template <typename Sort>

@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "entries/EntryGrid.h"
 #include "entries/MatchColours.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/Hourglass.h"
@@ -48,7 +49,7 @@ void ShowMyDrawsW::Command2_Click() {
 void ShowMyDrawsW::CheckEntries(EntryCheck& check) {
     nextMessages_ = services().seconds();
     for (int row = 1; !grid_->Cell(row, 0).isEmpty(); ++row) {
-        const auto match = check.Check(EntryInGrid(row), row);
+        const auto match = check.Check(EntryInGrid(*grid_, row), row);
         if (match) Paint(row, *match);
         LetMessagesRun(row);
     }

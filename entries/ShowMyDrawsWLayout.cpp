@@ -6,10 +6,10 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "entries/EntryGrid.h"
 #include "entries/MatchColours.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
-#include "platform/forms/LinesGrid.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Widgets.h"
@@ -92,11 +92,7 @@ void ShowMyDrawsW::MakeLabels() {
 void ShowMyDrawsW::MakeGrid() {
     grid_ = Named(new Grid(rowCount, columnCount), QStringLiteral("MSFlexGrid1"));
     grid_->setAccessibleName(label5_->text().trimmed());
-    SetLinesHeadings(*grid_);
-    grid_->SetCell(0, 0, tr("Date"));
-    grid_->SetCell(0, 9, tr("Lottery"));
-    grid_->SetCell(0, 10, tr("Name"));
-    grid_->SetCell(0, 11, tr("File"));
+    SetEntryHeadings(*grid_);
     const auto widthOf = [this](const char* text) {
         return grid_->fontMetrics().horizontalAdvance(QLatin1String(text));
     };

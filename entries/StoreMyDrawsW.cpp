@@ -8,7 +8,7 @@
 
 #include "core/draw_database.h"
 #include "core/failure.h"
-#include "entries/saved_entries.h"
+#include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LinesGrid.h"
 #include "platform/forms/LotteryList.h"
@@ -25,12 +25,12 @@ namespace {
 
 // The last grid row is the parking place of the current row: there, no row is chosen.
 constexpr int parkingRow = 99;
-constexpr int lastColumn = 11;
 constexpr int boxCount = 8;
 constexpr int extraBallBox = 8;
 
-// Rows move without their database file: a moved row takes the file name of its new place.
-constexpr int lastMovedColumn = 10;
+// Kept on purpose: rows move without their database file: a moved row takes the file name of its
+// new place.
+constexpr int lastMovedColumn = entry_column::player;
 
 }  // namespace
 
@@ -105,29 +105,21 @@ void StoreMyDrawsW::Command2_Click() {
 }
 
 void StoreMyDrawsW::WriteEntry(int row) {
-    grid_->SetCell(row, 0, ToQString(DrawDate(dtPicker1_->Value())));
+    grid_->SetCell(row, entry_column::date, ToQString(DrawDate(dtPicker1_->Value())));
     for (int column = 1; column <= state().Picks; ++column) {
         grid_->SetCell(row, column, Text1(column)->text());
     }
     if (state().MaxPball > 0) {
-        grid_->SetCell(row, 8, Text1(8)->text());
-        grid_->SetCellColour(row, 8, ExtraBallColour());
+        grid_->SetCell(row, entry_column::extraBall, Text1(extraBallBox)->text());
+        grid_->SetCellColour(row, entry_column::extraBall, ExtraBallColour());
     }
-    grid_->SetCell(row, 9, ToQString(state().LotteryName));
-    grid_->SetCell(row, 10, textPName_->text());
-    grid_->SetCell(row, 11, ToQString(state().DbaseFile));
+    grid_->SetCell(row, entry_column::lottery, ToQString(state().LotteryName));
+    grid_->SetCell(row, entry_column::player, textPName_->text());
+    grid_->SetCell(row, entry_column::database, ToQString(state().DbaseFile));
 }
 
 void StoreMyDrawsW::Command3_Click() {
-    std::string records;
-    for (int row = 1; !grid_->Cell(row, 0).isEmpty(); ++row) {
-        SavedEntry entry;
-        for (int column = 0; column <= lastColumn; ++column) {
-            entry[static_cast<std::size_t>(column)] = FromQString(grid_->Cell(row, column));
-        }
-        records += SavedEntryRecord(entry);
-    }
-    folder().Append(savedEntriesFile, records);
+    AppendEntries(folder(), EntriesInGrid(*grid_));
     services().messages.Show(this, {.title = tr("Lottery Quillon World"),
                                     .text = tr("Your entries have been saved.  "),
                                     .sign = Sign::Information});

@@ -6,9 +6,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "entries/EntryGrid.h"
 #include "entries/StoreMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
-#include "platform/forms/LinesGrid.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
@@ -63,11 +63,7 @@ void StoreMyDrawsW::MakeControls() {
 void StoreMyDrawsW::MakeGrid() {
     grid_ = Named(new Grid(rowCount, columnCount), QStringLiteral("MSFlexGrid1"));
     grid_->setAccessibleName(tr("Entries to save"));
-    SetLinesHeadings(*grid_);
-    grid_->SetCell(0, 0, tr("Date"));
-    grid_->SetCell(0, 9, tr("Lottery"));
-    grid_->SetCell(0, 10, tr("Name"));
-    grid_->SetCell(0, 11, tr("File"));
+    SetEntryHeadings(*grid_);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     const int date = 12 * digit;
     const int number = 7 * digit;

@@ -12,8 +12,7 @@
 
 namespace {
 
-constexpr std::size_t databaseColumn = 11;
-constexpr int extraColumn = 8;
+constexpr int extraColumn = entry_column::extraBall;  // of a draw, too
 
 // What a scan decides at a draw.
 enum class Step { Found, NoDraw, GoOn };
@@ -161,7 +160,7 @@ EntryCheck::Database& EntryCheck::DatabaseOf(const std::string& file) {
 }
 
 std::optional<EntryMatch> EntryCheck::Check(const SavedEntry& entry, int row) {
-    state_.DbaseFile = entry[databaseColumn];
+    state_.DbaseFile = entry[entry_column::database];
     Database& database = DatabaseOf(state_.DbaseFile);
     database.ReadLottery(state_);
     if (!database.HasDraws()) return std::nullopt;
@@ -174,7 +173,7 @@ std::optional<EntryMatch> EntryCheck::Check(const SavedEntry& entry, int row) {
 std::optional<EntryMatch> plain::CheckEntry(State& state, const ProgramFolder& folder,
                                             const Region& region, Date today,
                                             const SavedEntry& entry, int row, MatchCounts& counts) {
-    state.DbaseFile = entry[databaseColumn];
+    state.DbaseFile = entry[entry_column::database];
     const std::string content = folder.Read(state.DbaseFile);
     FieldReader reader(content, state.DbaseFile);
     ReadDatabaseHeader(state, reader);

@@ -11,14 +11,6 @@
 namespace {
 
 constexpr int lastEntry = 499;
-constexpr std::size_t lotteryColumn = 9;
-constexpr std::size_t nameColumn = 10;
-
-constexpr std::array<std::string_view, 12> expectedFields = {
-    "the date of an entry",    "number 1 of an entry", "number 2 of an entry",
-    "number 3 of an entry",    "number 4 of an entry", "number 5 of an entry",
-    "number 6 of an entry",    "number 7 of an entry", "the extra ball of an entry",
-    "the lottery of an entry", "the name of a player", "the draw database of an entry"};
 
 int EntryCount(const EntryTable& table) {
     int count = 0;
@@ -59,11 +51,9 @@ void SortEntries(EntryTable& table, KeyOf keyOf, Order order) {
     }
 }
 
-void SortByText(EntryTable& table, std::size_t column) {
+void SortByText(EntryTable& table, int column) {
     const EntryTable& view = table;
-    const auto name = [&view, column](int row) {
-        return UpperCase(view(row, static_cast<long long>(column)));
-    };
+    const auto name = [&view, column](int row) { return UpperCase(view(row, column)); };
     SortEntries(table, name, std::less<>());
 }
 
@@ -78,10 +68,7 @@ void LoadMyDraws(EntryTable& table, const ProgramFolder& folder) {
     const std::string content = folder.Read(savedEntriesFile);
     FieldReader reader(content, savedEntriesFile);
     for (int row = 1; row <= lastEntry && !reader.AtEnd(); ++row) {
-        std::string* const cells = table.Row(row);
-        for (std::size_t column = 0; column < expectedFields.size(); ++column) {
-            cells[column] = reader.ReadField(expectedFields[column]);
-        }
+        ReadEntry(reader, table.Row(row));
     }
 }
 
@@ -93,9 +80,9 @@ void SortByDate(EntryTable& table, const Region& region, Date today) {
     SortEntries(table, date, std::greater<>());
 }
 
-void SortByName(EntryTable& table) { SortByText(table, nameColumn); }
+void SortByName(EntryTable& table) { SortByText(table, entry_column::player); }
 
-void SortByLottery(EntryTable& table) { SortByText(table, lotteryColumn); }
+void SortByLottery(EntryTable& table) { SortByText(table, entry_column::lottery); }
 
 void DeleteRow(EntryTable& table, std::int16_t row) {
     const EntryTable& view = table;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/failure.h"
+#include "core/field_reader.h"
 #include "core/memory_folder.h"
 
 namespace {
@@ -29,23 +30,54 @@ TEST(SavedEntryRecord, WritesACommaInANameAsItStands) {
 TEST(SavedEntriesFile, IsNotTouchedByAFailingWriteAtAnyByte) {
     MemoryFolder folder;
     const std::string record = SavedEntryRecord(lottoEntry);
-    folder.Append("MyLottery.txt", record);
+    AppendEntries(folder, {lottoEntry});
     const auto before = folder.Snapshot();
     for (std::size_t bytes = 0; bytes < 2 * record.size(); ++bytes) {
         folder.FailAfterBytes(bytes);
-        ASSERT_THROW(folder.Append("MyLottery.txt", record), Failure) << bytes;
+        ASSERT_THROW(AppendEntries(folder, {lottoEntry}), Failure) << bytes;
         ASSERT_EQ(folder.Snapshot(), before) << bytes;
     }
     folder.FailAfterBytes(2 * record.size());
-    folder.Append("MyLottery.txt", record);
+    AppendEntries(folder, {lottoEntry});
     EXPECT_EQ(folder.Read("MyLottery.txt"), record + record);
 }
 
 TEST(SavedEntriesFile, IsNotTouchedByAFailureAtAnyOperation) {
     MemoryFolder folder;
-    folder.Append("MyLottery.txt", SavedEntryRecord(lottoEntry));
+    AppendEntries(folder, {lottoEntry});
     const auto before = folder.Snapshot();
     folder.FailAtOperation(0);
-    EXPECT_THROW(folder.Append("MyLottery.txt", SavedEntryRecord(lottoEntry)), Failure);
+    EXPECT_THROW(AppendEntries(folder, {lottoEntry}), Failure);
+    EXPECT_THROW(WriteEntries(folder, {lottoEntry}), Failure);
     EXPECT_EQ(folder.Snapshot(), before);
+}
+
+TEST(SavedEntriesFile, GetsNewEntriesBehindTheOldOnes) {
+    MemoryFolder folder;
+    folder.Write("MyLottery.txt", "old\r\n");
+    AppendEntries(folder, {lottoEntry, {}});
+    EXPECT_EQ(folder.Read("MyLottery.txt"),
+              "old\r\n" + SavedEntryRecord(lottoEntry) + ",,,,,,,,,,,\r\n");
+}
+
+TEST(SavedEntriesFile, ComesIntoBeingEvenForNoEntries) {
+    MemoryFolder folder;
+    AppendEntries(folder, {});
+    EXPECT_EQ(folder.Read("MyLottery.txt"), "");
+}
+
+TEST(SavedEntriesFile, IsReplacedByTheEntriesThatAreWritten) {
+    MemoryFolder folder;
+    folder.Write("MyLottery.txt", "old\r\n");
+    WriteEntries(folder, {lottoEntry});
+    EXPECT_EQ(folder.Read("MyLottery.txt"), SavedEntryRecord(lottoEntry));
+}
+
+TEST(SavedEntriesFile, IsReadAsItWasWritten) {
+    const std::string record = SavedEntryRecord(lottoEntry);
+    FieldReader reader(record, "MyLottery.txt");
+    SavedEntry read;
+    ReadEntry(reader, read.data());
+    EXPECT_EQ(read, lottoEntry);
+    EXPECT_TRUE(reader.AtEnd());
 }
