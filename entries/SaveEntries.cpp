@@ -17,23 +17,18 @@
 
 SaveEntries::SaveEntries(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("SaveEntries"), tr("Save lottery entries"), parent),
-      text1_(Named(new QLineEdit, QStringLiteral("Text1"))),
-      text2_(Named(new QLineEdit, QStringLiteral("Text2"))),
-      dtPicker1_(Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
-                       QStringLiteral("DTPicker1"))),
-      command7_(MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
-                               tr(" Save lottery entries "))),
-      command1_(MakeIconButton(QStringLiteral("Command1"), QStringLiteral("dialog-cancel"),
-                               tr(" Cancel "))) {
-    Build();
-    connect(command7_, &QPushButton::clicked, this, [this] { Command7_Click(); });
-    connect(command1_, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    command7_->setDefault(true);
-    SetCloseButton(command1_);
+      lines_(Named(new QLineEdit, QStringLiteral("Text1"))),
+      player_(Named(new QLineEdit, QStringLiteral("Text2"))),
+      drawDate_(Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
+                      QStringLiteral("DTPicker1"))) {
+    QVBoxLayout* layout = MakeFormLayout(this);
+    layout->addLayout(BuildInputs(), 1);
+    layout->addLayout(BuildActions());
+    setMinimumWidth(440);
     SetHelpPage(QStringLiteral("helpplay.html"));
 }
 
-void SaveEntries::Build() {
+QLayout* SaveEntries::BuildInputs() {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
     grid->setVerticalSpacing(4);
@@ -49,45 +44,53 @@ void SaveEntries::Build() {
         row += 3;
     };
     addInput(
-        MakeLabel(QStringLiteral("Label1"), tr("Lines:")), text1_,
+        MakeLabel(QStringLiteral("Label1"), tr("Lines:")), lines_,
         MakeBody(QStringLiteral("Label3"), tr("Select the number of lottery entries to save.")));
-    addInput(MakeLabel(QStringLiteral("LabelPName"), tr("Name:")), text2_,
+    addInput(MakeLabel(QStringLiteral("LabelPName"), tr("Name:")), player_,
              MakeBody(QStringLiteral("Label2"),
                       tr("You can associate these lottery entries with a player or syndicate by "
                          "entering a name.")));
-    addInput(MakeLabel(QStringLiteral("Label5"), tr("Date:")), dtPicker1_,
+    addInput(MakeLabel(QStringLiteral("Label5"), tr("Date:")), drawDate_,
              MakeBody(QStringLiteral("Label6"),
                       tr("It is essential that you set the lottery draw date. It is used when "
                          "checking entries.")));
+    return grid;
+}
 
-    QVBoxLayout* layout = MakeFormLayout(this);
-    layout->addLayout(grid, 1);
-    layout->addLayout(BuildActionRow({command7_}, {command1_}));
-    setMinimumWidth(440);
+QLayout* SaveEntries::BuildActions() {
+    QPushButton* save = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
+                                       tr(" Save lottery entries "));
+    connect(save, &QPushButton::clicked, this, [this] { Save(); });
+    save->setDefault(true);
+    QPushButton* cancel =
+        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("dialog-cancel"), tr(" Cancel "));
+    connect(cancel, &QPushButton::clicked, this, [this] { Cancel(); });
+    SetCloseButton(cancel);
+    return BuildActionRow({save}, {cancel});
 }
 
 void SaveEntries::Load() {
-    text2_->setText(ToQString(state().Settings(setting::PlayerName)));
-    dtPicker1_->SetValue(NextDrawDate(state(), services().region, services().today()));
+    player_->setText(ToQString(state().Settings(setting::PlayerName)));
+    drawDate_->SetValue(NextDrawDate(state(), services().region, services().today()));
 }
 
 void SaveEntries::SetLineCount(int count) {
-    text1_->setText(QString::number(count));
-    text1_->selectAll();
+    lines_->setText(QString::number(count));
+    lines_->selectAll();
 }
 
-int SaveEntries::LineCount() const { return LeadingWhole(FromQString(text1_->text())); }
+int SaveEntries::LineCount() const { return LeadingWhole(FromQString(lines_->text())); }
 
-std::string SaveEntries::PlayerName() const { return FromQString(text2_->text()); }
+std::string SaveEntries::PlayerName() const { return FromQString(player_->text()); }
 
-void SaveEntries::Command7_Click() {
+void SaveEntries::Save() {
     state().Settings(setting::PlayerName) = Trim(PlayerName());
-    state().Settings(setting::DrawDate) = MediumDate(dtPicker1_->Value());
+    state().Settings(setting::DrawDate) = MediumDate(drawDate_->Value());
     hide();
     QCoreApplication::processEvents();
 }
 
-void SaveEntries::Command1_Click() {
-    text1_->setText(QStringLiteral("0"));
+void SaveEntries::Cancel() {
+    lines_->setText(QStringLiteral("0"));
     hide();
 }

@@ -4,8 +4,8 @@
 #include "platform/forms/Form.h"
 
 class DatePicker;
+class QLayout;
 class QLineEdit;
-class QPushButton;
 
 /// Asks how many lines to save, for whom and for which draw.
 ///
@@ -26,13 +26,13 @@ class SaveEntries final : public Form {
     std::string PlayerName() const;
 
   private:
-    void Build();
-    void Command7_Click();
-    void Command1_Click();
+    QLayout* BuildInputs();
+    QLayout* BuildActions();
 
-    QLineEdit* text1_;
-    QLineEdit* text2_;
-    DatePicker* dtPicker1_;
-    QPushButton* command7_;
-    QPushButton* command1_;
+    void Save();
+    void Cancel();
+
+    QLineEdit* lines_;
+    QLineEdit* player_;
+    DatePicker* drawDate_;
 };

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "entries/SaveLines.h"
+#include "entries/AppendShownLines.h"
 #include "platform/forms/Form.h"
 #include "platform/system/Clock.h"
 #include "platform/system/DiskFolder.h"

@@ -10,7 +10,7 @@
 
 #include "core/draw_database.h"
 #include "core/filters.h"
-#include "entries/SaveLines.h"
+#include "entries/AppendShownLines.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Grid.h"

@@ -3,7 +3,7 @@
 // saved, for a lottery with an extra ball and for one without.
 #include <QAction>
 
-#include "entries/SaveLines.h"
+#include "entries/AppendShownLines.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"

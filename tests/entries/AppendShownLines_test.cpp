@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "entries/SaveLines.h"
+#include "entries/AppendShownLines.h"
 
 #include <QDateEdit>
 #include <QLabel>
@@ -15,6 +15,12 @@
 #include "tests/support/form_test.h"
 
 namespace {
+
+constexpr auto saveButton = "Command7";
+constexpr auto cancelButton = "Command1";
+constexpr auto linesBox = "Text1";
+constexpr auto nameBox = "Text2";
+constexpr auto dateBox = "DTPicker1";
 
 class SavingLines : public testing::Test {
   protected:
@@ -56,7 +62,7 @@ TEST_F(SavingLines, LeavesTheFirstNumberCurrent) {
         if (lines == 0) {
             SaveLines(test_.program, nullptr, grid_);
         } else {
-            Save([](QDialog& dialog) { Click(dialog, "Command7"); });
+            Save([](QDialog& dialog) { Click(dialog, saveButton); });
         }
         EXPECT_EQ(grid_.CurrentRow(), 1) << lines;
         EXPECT_EQ(grid_.currentIndex().column(), 1) << lines;
@@ -80,10 +86,10 @@ TEST_F(SavingLines, BearsItsWords) {
         for (const auto& [name, text] : labels) {
             EXPECT_EQ(Find<QLabel>(dialog, name)->text(), QString::fromLatin1(text)) << name;
         }
-        EXPECT_EQ(Find<QPushButton>(dialog, "Command7")->toolTip(),
+        EXPECT_EQ(Find<QPushButton>(dialog, saveButton)->toolTip(),
                   QStringLiteral(" Save lottery entries "));
-        EXPECT_EQ(Find<QPushButton>(dialog, "Command1")->toolTip(), QStringLiteral(" Cancel "));
-        EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->displayFormat(),
+        EXPECT_EQ(Find<QPushButton>(dialog, cancelButton)->toolTip(), QStringLiteral(" Cancel "));
+        EXPECT_EQ(Find<QDateEdit>(dialog, dateBox)->displayFormat(),
                   QStringLiteral("ddd d MMM yyyy"));
     });
 }
@@ -92,9 +98,9 @@ TEST_F(SavingLines, AppendsEveryShownLineAsARecord) {
     test_.folder.Write("MyLottery.txt", "old\r\n");
     ShowSomeLines(2);
     Save([](QDialog& dialog) {
-        EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("2"));
-        Type(dialog, "Text2", QStringLiteral("Ann"));
-        Click(dialog, "Command7");
+        EXPECT_EQ(Find<QLineEdit>(dialog, linesBox)->text(), QStringLiteral("2"));
+        Type(dialog, nameBox, QStringLiteral("Ann"));
+        Click(dialog, saveButton);
     });
     EXPECT_EQ(Saved(),
               "old\r\n"
@@ -105,8 +111,8 @@ TEST_F(SavingLines, AppendsEveryShownLineAsARecord) {
 TEST_F(SavingLines, SavesTheFirstLinesWhereFewerAreAskedFor) {
     ShowSomeLines(5);
     Save([](QDialog& dialog) {
-        Type(dialog, "Text1", QStringLiteral("2"));
-        Click(dialog, "Command7");
+        Type(dialog, linesBox, QStringLiteral("2"));
+        Click(dialog, saveButton);
     });
     EXPECT_EQ(Saved(),
               "01-Jun-2005,2,3,4,5,6,7,,,UK Lotto,,dbase100.txt\r\n"
@@ -116,8 +122,8 @@ TEST_F(SavingLines, SavesTheFirstLinesWhereFewerAreAskedFor) {
 TEST_F(SavingLines, SavesAllWhereMoreAreAskedFor) {
     ShowSomeLines(3);
     Save([](QDialog& dialog) {
-        Type(dialog, "Text1", QStringLiteral("999"));
-        Click(dialog, "Command7");
+        Type(dialog, linesBox, QStringLiteral("999"));
+        Click(dialog, saveButton);
     });
     const std::string saved = Saved();
     EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 3);
@@ -130,8 +136,8 @@ TEST_F(SavingLines, SavesAsManyAsTheNumberAtTheHeadOfTheBoxSays) {
         test_.folder.Write("MyLottery.txt", "");
         ShowSomeLines(5);
         Save([box = text](QDialog& dialog) {
-            Type(dialog, "Text1", QString::fromLatin1(box));
-            Click(dialog, "Command7");
+            Type(dialog, linesBox, QString::fromLatin1(box));
+            Click(dialog, saveButton);
         });
         const std::string saved = Saved();
         EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), count) << text;
@@ -142,16 +148,16 @@ TEST_F(SavingLines, SavesWhatTheGridShowsNotTheLinesBehindIt) {
     ShowSomeLines(1);
     test_.state.Lines(1, 1) = 49;
     grid_.SetCell(1, 8, QStringLiteral("9"));
-    Save([](QDialog& dialog) { Click(dialog, "Command7"); });
+    Save([](QDialog& dialog) { Click(dialog, saveButton); });
     EXPECT_EQ(Saved(), "01-Jun-2005,2,3,4,5,6,7,,9,UK Lotto,,dbase100.txt\r\n");
 }
 
 TEST_F(SavingLines, KeepsTheNameTrimmedAndTheDateInTheSettings) {
     ShowSomeLines(1);
     Save([](QDialog& dialog) {
-        Type(dialog, "Text2", QStringLiteral(" Ann "));
-        Find<QDateEdit>(dialog, "DTPicker1")->setDate(QDate(2005, 6, 18));
-        Click(dialog, "Command7");
+        Type(dialog, nameBox, QStringLiteral(" Ann "));
+        Find<QDateEdit>(dialog, dateBox)->setDate(QDate(2005, 6, 18));
+        Click(dialog, saveButton);
     });
     EXPECT_EQ(test_.state.Settings(17), "Ann");
     EXPECT_EQ(test_.state.Settings(18), "18-Jun-2005");
@@ -165,7 +171,7 @@ TEST_F(SavingLines, LetsMessagesRunOnceTheDialogIsHidden) {
     dialog.show();
     bool hidden = false;
     QTimer::singleShot(0, &dialog, [&] { hidden = !dialog.isVisible(); });
-    Find<QPushButton>(dialog, "Command7")->click();
+    Find<QPushButton>(dialog, saveButton)->click();
     EXPECT_TRUE(hidden);
 }
 
@@ -174,8 +180,8 @@ TEST_F(SavingLines, OffersTheLastNameAndTheNextDrawDate) {
     test_.today = Date(std::chrono::year(2005), std::chrono::June, std::chrono::day(2));
     ShowSomeLines(1);
     Save([](QDialog& dialog) {
-        EXPECT_EQ(Find<QLineEdit>(dialog, "Text2")->text(), QStringLiteral("Ann"));
-        EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->date(), QDate(2005, 6, 4));
+        EXPECT_EQ(Find<QLineEdit>(dialog, nameBox)->text(), QStringLiteral("Ann"));
+        EXPECT_EQ(Find<QDateEdit>(dialog, dateBox)->date(), QDate(2005, 6, 4));
     });
 }
 
@@ -184,9 +190,9 @@ TEST_F(SavingLines, CancelWritesNothingAndKeepsTheSettings) {
     test_.state.Settings(18) = "01-Jan-2005";
     ShowSomeLines(3);
     Save([](QDialog& dialog) {
-        Type(dialog, "Text2", QStringLiteral("Bob"));
-        Click(dialog, "Command1");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("0"));
+        Type(dialog, nameBox, QStringLiteral("Bob"));
+        Click(dialog, cancelButton);
+        EXPECT_EQ(Find<QLineEdit>(dialog, linesBox)->text(), QStringLiteral("0"));
     });
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
     EXPECT_EQ(test_.state.Settings(17), "Ann");
@@ -201,16 +207,17 @@ TEST_F(SavingLines, EscIsCancel) {
 
 TEST_F(SavingLines, EnterSaves) {
     ShowSomeLines(1);
-    Save(
-        [](QDialog& dialog) { QTest::keyClick(Find<QLineEdit>(dialog, "Text1"), Qt::Key_Return); });
+    Save([](QDialog& dialog) {
+        QTest::keyClick(Find<QLineEdit>(dialog, linesBox), Qt::Key_Return);
+    });
     EXPECT_TRUE(test_.folder.Exists("MyLottery.txt"));
 }
 
 TEST_F(SavingLines, AnEmptyLinesBoxSavesNothing) {
     ShowSomeLines(1);
     Save([](QDialog& dialog) {
-        Find<QLineEdit>(dialog, "Text1")->clear();
-        Click(dialog, "Command7");
+        Find<QLineEdit>(dialog, linesBox)->clear();
+        Click(dialog, saveButton);
     });
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
 }
@@ -218,8 +225,8 @@ TEST_F(SavingLines, AnEmptyLinesBoxSavesNothing) {
 TEST_F(SavingLines, ACommaInTheNameIsWrittenAsItStands) {
     ShowSomeLines(1);
     Save([](QDialog& dialog) {
-        Type(dialog, "Text2", QStringLiteral("Smith, Ann"));
-        Click(dialog, "Command7");
+        Type(dialog, nameBox, QStringLiteral("Smith, Ann"));
+        Click(dialog, saveButton);
     });
     EXPECT_EQ(Saved(), "01-Jun-2005,2,3,4,5,6,7,,,UK Lotto,Smith, Ann,dbase100.txt\r\n");
 }
@@ -229,7 +236,7 @@ TEST_F(SavingLines, AFullDiskEndsTheRunAndLeavesTheFileAsItWas) {
     const auto before = test_.folder.Snapshot();
     test_.folder.FailAfterBytes(3);
     ShowSomeLines(2);
-    EXPECT_THROW(Save([](QDialog& dialog) { Click(dialog, "Command7"); }), std::runtime_error);
+    EXPECT_THROW(Save([](QDialog& dialog) { Click(dialog, saveButton); }), std::runtime_error);
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
 

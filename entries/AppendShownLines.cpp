@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "entries/SaveLines.h"
+#include "entries/AppendShownLines.h"
 
 #include "core/settings.h"
 #include "entries/SaveEntries.h"
