@@ -27,13 +27,13 @@ PlayFormText Words() {
                 "(hot) numbers..")};
 }
 
-PlayButtonNames Names() {
+PlayControlNames Names() {
     return {.oddEven = QStringLiteral("Command8"),
             .highLow = QStringLiteral("Command9"),
             .longRuns = QStringLiteral("Command10"),
             .previousDraws = QStringLiteral("Command11"),
             .help = QStringLiteral("Command4"),
-            .filtersLabel = QStringLiteral("Label6")};
+            .filters = QStringLiteral("Label6")};
 }
 
 }  // namespace

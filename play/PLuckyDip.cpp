@@ -1,11 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PLuckyDip.h"
 
-#include <QHBoxLayout>
-#include <QPushButton>
-
-#include "platform/forms/ShowTip.h"
-#include "platform/widgets/Widgets.h"
 #include "play/lucky_dip.h"
 
 namespace {
@@ -22,13 +17,7 @@ PlayFormText Words() {
 
 }  // namespace
 
-PLuckyDip::PLuckyDip(Program& program, QWidget* parent) : PlayForm(program, Words(), parent) {
-    QPushButton* explain = MakeButton(QStringLiteral("Command3"), tr("?"));
-    explain->setAccessibleName(tr("What these conditions do"));
-    explain->setFixedWidth(explain->minimumHeight());
-    ConditionsHeading().addWidget(explain);
-    connect(explain, &QPushButton::clicked, this, [this] { ShowTip(services(), this, 1); });
-}
+PLuckyDip::PLuckyDip(Program& program, QWidget* parent) : PlayForm(program, Words(), parent) {}
 
 void PLuckyDip::PlayLotto() { lucky_dip::PlayLotto(state(), services().random, LinesWanted()); }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PlayForm.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScrollBar>
@@ -12,37 +11,12 @@ namespace {
 
 constexpr int mostLines = 30;
 
-// Below this many seconds nobody has had the time to click anywhere.
-constexpr double patience = 0.25;
-
-QCheckBox* MakeCondition(const QString& name, const QString& caption) {
-    return Named(new QCheckBox(caption), name);
-}
-
 }  // namespace
 
 PlayForm::PlayForm(Program& program, const PlayFormText& text, QWidget* parent)
-    : PlayFrame(program, text, {}, mostLines, parent),
-      status_(MakeLabel(QStringLiteral("Label5"), QString())),
-      inputs_(new QVBoxLayout),
-      conditionsHeading_(new QHBoxLayout) {
-    Column().addLayout(BuildLineCount());
-    Column().addLayout(inputs_);
-    Column().addSpacing(8);
-    BuildConditions();
-    Foot().addWidget(status_);
-    SetStatusLabel(status_->objectName());
+    : RetryingForm(program, text, {}, mostLines, parent) {
+    Inputs().addLayout(BuildLineCount());
     connect(lineCount_, &QScrollBar::valueChanged, this, [this] { ShowLineCount(); });
-}
-
-void PlayForm::BuildConditions() {
-    conditionsHeading_->addWidget(
-        MakeLabel(QStringLiteral("Label6"), tr("Do not pick lottery entries with...")), 1);
-    oddEven_ = MakeCondition(QStringLiteral("Check1"), tr("Too many odd or even numbers"));
-    highLow_ = MakeCondition(QStringLiteral("Check2"), tr("Too many low or high numbers"));
-    history_ = MakeCondition(QStringLiteral("Check3"), tr("Same numbers as a previous draw"));
-    Column().addLayout(conditionsHeading_);
-    for (QCheckBox* box : {oddEven_, highLow_, history_}) Column().addWidget(box);
 }
 
 QLayout* PlayForm::BuildLineCount() {
@@ -68,20 +42,3 @@ QLayout* PlayForm::BuildLineCount() {
 int PlayForm::LinesWanted() const { return lineCount_->value(); }
 
 void PlayForm::ShowLineCount() { shownLineCount_->setText(QString::number(LinesWanted())); }
-
-void PlayForm::MakeLines() {
-    const Conditions conditions{.oddEven = oddEven_->isChecked(),
-                                .highLow = highLow_->isChecked(),
-                                .history = history_->isChecked()};
-    const double start = services().seconds();
-    GenerateLines(state(), services().random, conditions, Style(),
-                  {.playLotto = [this] { PlayLotto(); },
-                   .paintStatus =
-                       [this](const std::string& text) {
-                           status_->setText(QString::fromStdString(text));
-                           status_->repaint();
-                       },
-                   .showLines = [this] { ShowResult(); },
-                   .seconds = services().seconds});
-    if (services().seconds() - start > patience) DropWaitingInput();
-}

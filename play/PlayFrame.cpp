@@ -22,7 +22,7 @@ const QString helpPage = QStringLiteral("helpplay.html");
 
 }  // namespace
 
-PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
                      int mostLines, QWidget* parent)
     : Form(program, text.name, text.caption, parent),
       heading_(MakeTitle(QStringLiteral("Label7"), text.heading)),
@@ -50,7 +50,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayButto
     SetHelpPage(helpPage);
 }
 
-QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
+QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
     QLabel* title = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
     Titled(title, lotteries_)->setMinimumWidth(240);
     connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
@@ -67,9 +67,9 @@ QLayout* PlayFrame::BuildInputs(const PlayButtonNames& names) {
     return column;
 }
 
-QLayout* PlayFrame::BuildFilters(const PlayButtonNames& names) {
+QLayout* PlayFrame::BuildFilters(const PlayControlNames& names) {
     auto* grid = new QGridLayout;
-    grid->addWidget(MakeLabel(names.filtersLabel, tr("Filters")), 0, 0, 1, 2);
+    grid->addWidget(MakeLabel(names.filters, tr("Filters")), 0, 0, 1, 2);
     grid->addWidget(BuildFilter(names.oddEven, tr("Odd/even"), &PruneOddEven), 1, 0);
     grid->addWidget(BuildFilter(names.highLow, tr("High/low"), &PruneHighLow), 1, 1);
     grid->addWidget(BuildFilter(names.longRuns, tr("Long runs"), &PruneLongRun), 2, 0);
@@ -97,7 +97,7 @@ QLayout* PlayFrame::BuildActions(const QString& helpName) {
                        tr("Print out the lottery entries"));
     QPushButton* save = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
                                        tr("Save these lottery entries to disk"));
-    QPushButton* help = MakeButton(helpName, tr(" Help "));
+    QPushButton* help = MakeHelpButton(helpName, tr(" Help "));
     close_ =
         MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
     generate->setDefault(true);
@@ -105,10 +105,15 @@ QLayout* PlayFrame::BuildActions(const QString& helpName) {
     connect(generate, &QPushButton::clicked, this, [this] { Generate(); });
     connect(print, &QPushButton::clicked, this, [this] { PrintLines(); });
     connect(save, &QPushButton::clicked, this, [this] { SaveLines(); });
-    connect(help, &QPushButton::clicked, this, [this] { services().openPage(helpPage); });
     connect(close_, &QPushButton::clicked, this, [this] { Close(); });
     SetCloseButton(close_);
     return BuildActionRow({generate, print, save}, {help, close_});
+}
+
+QPushButton* PlayFrame::MakeHelpButton(const QString& name, const QString& caption) {
+    QPushButton* help = MakeButton(name, caption);
+    connect(help, &QPushButton::clicked, this, [this] { services().openPage(helpPage); });
+    return help;
 }
 
 void PlayFrame::Load() {

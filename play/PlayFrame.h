@@ -20,13 +20,16 @@ struct PlayFormText {
 };
 
 /// The controls that bear other names in some forms.
-struct PlayButtonNames {
+struct PlayControlNames {
     QString oddEven = QStringLiteral("Command13");
     QString highLow = QStringLiteral("Command14");
     QString longRuns = QStringLiteral("Command15");
     QString previousDraws = QStringLiteral("Command9");
     QString help = QStringLiteral("Command8");
-    QString filtersLabel = QStringLiteral("Label6(1)");
+    QString filters = QStringLiteral("Label6(1)");  ///< The heading of the filter buttons.
+    QString conditions = QStringLiteral("Label6");  ///< The heading of the condition boxes.
+    QString explain = QStringLiteral("Command3");   ///< Their "?"; empty where there is none.
+    QString status = QStringLiteral("Label5");      ///< The tries and the time.
 };
 
 /// What all forms that make lines have in common: lottery list, filter buttons, grid, and the
@@ -41,7 +44,7 @@ class PlayFrame : public Form {
 
   protected:
     /// `mostLines` is the longest result that the form can have.
-    PlayFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+    PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
               int mostLines, QWidget* parent);
 
     /// Makes the lines and shows them; `Busy` and the hourglass are set around it where the form's
@@ -76,6 +79,9 @@ class PlayFrame : public Form {
     /// Takes the lines out of the grid; `state().Lines` stays.
     void EmptyGrid();
 
+    /// A button that opens the help page.
+    QPushButton* MakeHelpButton(const QString& name, const QString& caption);
+
     /// Throws away what was clicked and typed during long work, but for the close button.
     void DropWaitingInput();
 
@@ -90,8 +96,8 @@ class PlayFrame : public Form {
     QVBoxLayout& Foot() { return *foot_; }              ///< Below inputs and grid.
 
   private:
-    QLayout* BuildInputs(const PlayButtonNames& names);
-    QLayout* BuildFilters(const PlayButtonNames& names);
+    QLayout* BuildInputs(const PlayControlNames& names);
+    QLayout* BuildFilters(const PlayControlNames& names);
     QPushButton* BuildFilter(const QString& name, const QString& caption, void (*prune)(State&));
     QLayout* BuildActions(const QString& helpName);
     void PrintLines();

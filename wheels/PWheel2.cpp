@@ -30,7 +30,7 @@ QStringList Captions(int picks) {
 }  // namespace
 
 PWheel2::PWheel2(Program& program, QWidget* parent)
-    : WheelFrame(program, Words(), WheelButtonNames(QStringLiteral("Command3")), grouping,
+    : WheelFrame(program, Words(), WheelControlNames(QStringLiteral("Command3")), grouping,
                  mostLines, parent) {
     AddSizes(Captions(6));
 }

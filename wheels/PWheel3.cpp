@@ -34,7 +34,7 @@ QStringList Captions() {
 }  // namespace
 
 PWheel3::PWheel3(Program& program, QWidget* parent)
-    : WheelFrame(program, Words(), WheelButtonNames(QStringLiteral("Command3")), grouping,
+    : WheelFrame(program, Words(), WheelControlNames(QStringLiteral("Command3")), grouping,
                  mostLines, parent),
       advice_(MakeLabel(QStringLiteral("Label4"), QString())) {
     AddSizes(Captions());

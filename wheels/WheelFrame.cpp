@@ -63,10 +63,10 @@ QStringList NamesIn(std::span<const std::string_view> slots) {
 
 }  // namespace
 
-PlayButtonNames WheelButtonNames(const QString& help) {
-    PlayButtonNames names;
+PlayControlNames WheelControlNames(const QString& help) {
+    PlayControlNames names;
     names.help = help;
-    names.filtersLabel = QStringLiteral("Label6");
+    names.filters = QStringLiteral("Label6");
     return names;
 }
 
@@ -78,7 +78,7 @@ SkinLabels WheelSkinLabels(const QString& form) {
             .status = NamesIn(colours.status)};
 }
 
-WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
                        const BoxGrouping& grouping, int mostLines, QWidget* parent)
     : PlayFrame(program, text, names, mostLines, parent),
       rules_(wheels::RulesOf(FromQString(text.name))),

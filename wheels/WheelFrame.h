@@ -13,7 +13,7 @@ class QLineEdit;
 class QPushButton;
 
 /// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
-PlayButtonNames WheelButtonNames(const QString& help);
+PlayControlNames WheelControlNames(const QString& help);
 
 /// The labels of the wheel form of that name that take the skin's colours.
 SkinLabels WheelSkinLabels(const QString& form);
@@ -40,7 +40,7 @@ class WheelFrame : public PlayFrame {
 
   protected:
     /// `text.name` finds the form's row of rules.
-    WheelFrame(Program& program, const PlayFormText& text, const PlayButtonNames& names,
+    WheelFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
                const BoxGrouping& grouping, int mostLines, QWidget* parent);
 
     /// A size was chosen, or the form is loading: puts boxes to use and sets the prompt.

@@ -20,7 +20,7 @@ class RuledForm final : public WheelFrame {
   public:
     RuledForm(Program& program, const QString& rules)
         : WheelFrame(program, {.name = rules, .caption = rules, .heading = rules, .body = {}},
-                     WheelButtonNames(QStringLiteral("Command4")), {}, 20, nullptr) {
+                     WheelControlNames(QStringLiteral("Command4")), {}, 20, nullptr) {
         const SkinLabels skin = WheelSkinLabels(rules);
         for (const QString& label : skin.small + skin.status) {
             if (findChild<QLabel*>(label) == nullptr) MakeLabel(label, {}, this)->hide();
