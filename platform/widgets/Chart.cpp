@@ -6,6 +6,8 @@
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <string>
@@ -13,6 +15,7 @@
 #include "core/failure.h"
 #include "platform/widgets/ChartPlot.h"
 #include "platform/widgets/Widgets.h"
+#include "platform/widgets/WindowShade.h"
 
 namespace {
 
@@ -30,7 +33,9 @@ void CheckIndex(const QObject& chart, const char* what, int index, int count) {
 }  // namespace
 
 Chart::Chart(int rowCount, int columnCount, QWidget* parent)
-    : QWidget(parent), figures_(rowCount, columnCount) {
+    : QWidget(parent),
+      figures_(rowCount, columnCount),
+      shade_(new WindowShade(*this, [this] { Refresh(); })) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     setFocusPolicy(Qt::StrongFocus);
@@ -48,10 +53,13 @@ ChartPlot& Chart::Plot() {
     if (plot_ == nullptr) {
         plot_ = std::make_unique<ChartPlot>(figures_, *this);
         plot_->Widget().installEventFilter(this);
+        // The plotting library keeps presses to itself, so the menu is opened here.
+        plot_->Widget().setContextMenuPolicy(Qt::PreventContextMenu);
         layout()->addWidget(&plot_->Widget());
         // The labels are fitted to the place that the plot has now.
         plot_->Widget().show();
         layout()->activate();
+        plot_->SetDark(shade_->IsDark());
         plot_->Draw();
         copyPicture_->setIcon(ThemeIcon(QStringLiteral("image-x-generic")));
         copyTable_->setIcon(ThemeIcon(QStringLiteral("edit-copy")));
@@ -141,10 +149,20 @@ void Chart::SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor&
     SetSeriesColour(1, fill);
 }
 
+void Chart::SetAverage(std::optional<double> average) { figures_.average = average; }
+
+void Chart::SetRankedRows(const std::vector<int>& rows) {
+    for (const int row : rows) CheckRow(row);
+    figures_.ranked = rows;
+}
+
 void Chart::SetRange(double lowest, double highest) { figures_.range = {lowest, highest}; }
 
 void Chart::Refresh() {
-    if (plot_ != nullptr) plot_->Draw();
+    if (plot_ != nullptr) {
+        plot_->SetDark(shade_->IsDark());
+        plot_->Draw();
+    }
     NameItself();
     setAccessibleDescription(figures_.Description());
 }
@@ -166,6 +184,12 @@ void Chart::CopyPicture() {
 void Chart::CopyTable() const { QGuiApplication::clipboard()->setText(figures_.Table()); }
 
 bool Chart::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress) {
+        const auto* press = static_cast<QMouseEvent*>(event);
+        if (press->button() != Qt::RightButton) return false;
+        QMenu::exec(actions(), press->globalPosition().toPoint(), nullptr, this);
+        return true;
+    }
     if (event->type() != QEvent::ToolTip) return QWidget::eventFilter(watched, event);
     auto* help = static_cast<QHelpEvent*>(event);
     const int place = plot_->PlaceAt(help->pos());

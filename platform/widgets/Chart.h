@@ -5,10 +5,13 @@
 #include <QString>
 #include <QWidget>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "platform/widgets/ChartFigures.h"
 
 class ChartPlot;
+class WindowShade;
 class QAction;
 class QPainter;
 
@@ -18,7 +21,8 @@ class QPainter;
 /// Rows and columns count from 1, others are a `Failure`; a column is a series, a row a place on
 /// the horizontal axis. With one row each of several columns is a bar of its own with the column's
 /// label below it; with more the bars of a row stand side by side above its label. Labels that do
-/// not fit side by side are staggered. The chart is light on every desktop and on paper.
+/// not fit side by side are staggered. In a dark window the chart is dark; paper and copies are
+/// light.
 ///
 /// What is set shows with the next `Refresh`.
 class Chart final : public QWidget {
@@ -61,6 +65,12 @@ class Chart final : public QWidget {
     /// Draws the bars of the first series in `fill` with a pattern in `colour` over it.
     void SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor& fill);
 
+    /// Draws a thin line with the words "average 367" across the chart, or none.
+    void SetAverage(std::optional<double> average);
+
+    /// The rows above whose bars their figures stand.
+    void SetRankedRows(const std::vector<int>& rows);
+
     /// Ends of the vertical axis; without them it reaches from 0 to the furthest values.
     void SetRange(double lowest, double highest);
 
@@ -91,6 +101,7 @@ class Chart final : public QWidget {
 
     ChartFigures figures_;
     std::unique_ptr<ChartPlot> plot_;  // none before the chart is seen
+    WindowShade* shade_;
     QAction* copyPicture_;
     QAction* copyTable_;
     QString givenName_;  // the accessible name that the chart gave itself

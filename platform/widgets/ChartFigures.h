@@ -57,6 +57,8 @@ class ChartFigures {
     std::vector<QString> columnLabels;
     std::vector<QColor> colours;    ///< Of the series.
     std::optional<QBrush> pattern;  ///< Drawn over the bars' colour.
+    std::optional<double> average;  ///< Where a line across the bars is drawn.
+    std::vector<int> ranked;        ///< Rows whose bars bear their figure.
 
   private:
     static std::size_t Index(int count) { return static_cast<std::size_t>(count - 1); }

@@ -8,18 +8,18 @@
 
 #include "platform/widgets/ChartFigures.h"
 #include "platform/widgets/ChartPlot.h"
+#include "platform/widgets/ChartShades.h"
+#include "platform/widgets/WindowShade.h"
 
 namespace {
 
-const QColor textColour(0x1f, 0x23, 0x28);
-const QColor axisColour(0x8a, 0x90, 0x99);
-const QColor gridColour(0xe6, 0xe8, 0xec);
 constexpr double roomForBars = 0.62;       // of the distance between two places on the axis
 constexpr double roomForDenseBars = 0.74;  // the same with more than 12 places
-constexpr int denseFrom = 13;
 constexpr int airBetweenLabels = 4;
 constexpr int mostLabelRows = 3;
-constexpr double smallFont = 0.85;
+constexpr int readableOnDark = 110;
+constexpr double airAbove = 0.06;  // of the height, more where figures stand above the bars
+constexpr double airForFigures = 0.13;
 
 QFont Bold(QFont font) {
     font.setBold(true);
@@ -41,24 +41,42 @@ ChartPlot::ChartPlot(const ChartFigures& figures, QWidget& chart)
 QWidget& ChartPlot::Widget() const { return *plot_; }
 
 void ChartPlot::SetUp() {
-    plot_->setBackground(QBrush(Qt::white));
     plot_->setFocusPolicy(Qt::NoFocus);
     plot_->setLocale(QLocale::c());
     for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
-        axis->setTickLabelColor(textColour);
         axis->setBasePen(Qt::NoPen);
         axis->setTickPen(Qt::NoPen);
         axis->setSubTickPen(Qt::NoPen);
         axis->setTickLabelPadding(6);
     }
     plot_->xAxis->grid()->setVisible(false);
-    plot_->yAxis->grid()->setPen(QPen(gridColour));
-    plot_->yAxis->grid()->setZeroLinePen(QPen(axisColour, 1.2));
+    plot_->axisRect()->setMinimumMargins(QMargins(8, 4, 12, 4));
     plot_->setAutoAddPlottableToLegend(false);
 }
 
+void ChartPlot::TakeColours(bool dark) {
+    drawnDark_ = dark;
+    const Shades shades = ShadesOf(dark);
+    plot_->setBackground(QBrush(shades.background));
+    for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) axis->setTickLabelColor(shades.text);
+    plot_->yAxis->grid()->setPen(QPen(shades.grid));
+    plot_->yAxis->grid()->setZeroLinePen(QPen(shades.axis, 1.2));
+}
+
+QColor ChartPlot::SeriesColour(int column) const {
+    const QColor told = figures_.colours[static_cast<std::size_t>(column - 1)];
+    return drawnDark_ && told.lightness() < readableOnDark ? OnDark(told) : told;
+}
+
 void ChartPlot::Draw() {
+    TakeColours(dark_);
+    DrawAll();
+    FitToWidget();
+}
+
+void ChartPlot::DrawAll() {
     plot_->clearPlottables();
+    plot_->clearItems();
     DrawHeading();
     DrawAxes();
     for (int column = 1; column <= figures_.Columns(); ++column) {
@@ -68,19 +86,20 @@ void ChartPlot::Draw() {
             DrawLine(column);
         }
     }
+    DrawAverage();
+    DrawRankedFigures();
     DrawLegend();
-    FitToWidget();
 }
 
 void ChartPlot::DrawHeading() {
     if (heading_ == nullptr && !figures_.title.isEmpty()) {
         heading_ = new QCPTextElement(plot_);
-        heading_->setTextColor(textColour);
         heading_->setMargins(QMargins(0, 4, 0, 4));
         plot_->plotLayout()->insertRow(0);
         plot_->plotLayout()->addElement(0, 0, heading_);
     }
     if (heading_ == nullptr) return;
+    heading_->setTextColor(ShadesOf(drawnDark_).text);
     heading_->setFont(Bold(plot_->font()));
     heading_->setText(figures_.title);
     heading_->setVisible(!figures_.title.isEmpty());
@@ -105,7 +124,7 @@ void ChartPlot::DrawLegend() {
     legend_->setBorderPen(Qt::NoPen);
     legend_->setBrush(Qt::NoBrush);
     legend_->setFont(plot_->font());
-    legend_->setTextColor(textColour);
+    legend_->setTextColor(ShadesOf(drawnDark_).text);
     legend_->setMaximumSize(QWIDGETSIZE_MAX, legend_->minimumOuterSizeHint().height());
     for (int i = 0; i < plot_->plottableCount(); ++i) {
         legend_->addItem(new QCPPlottableLegendItem(legend_, plot_->plottable(i)));
@@ -119,7 +138,8 @@ void ChartPlot::DrawAxes() {
         plot_->yAxis->setRange(figures_.range->first, figures_.range->second);
     } else {
         if (lowest == highest) highest = lowest + 1;
-        const double air = (highest - lowest) * 0.06;
+        const double air =
+            (highest - lowest) * (figures_.ranked.empty() ? airAbove : airForFigures);
         plot_->yAxis->setRange(lowest < 0 ? lowest - air : 0, highest > 0 ? highest + air : 0);
     }
     plot_->yAxis->setTickLabelFont(plot_->font());
@@ -149,7 +169,7 @@ void ChartPlot::DrawBars(int column) {
     bars->setName(figures_.ColumnLabel(column));
     bars->setWidth(besides == 1 ? width : width * 0.9);
     bars->setPen(Qt::NoPen);
-    bars->setBrush(figures_.colours[static_cast<std::size_t>(column - 1)]);
+    bars->setBrush(SeriesColour(column));
     bars->setAntialiasedFill(true);
     if (figures_.pattern) bars->SetPattern(*figures_.pattern);
     if (figures_.ColumnsAreApart()) {
@@ -168,7 +188,7 @@ void ChartPlot::DrawLine(int column) {
     QCPGraph* line = plot_->addGraph();
     const auto series = static_cast<std::size_t>(column - 1);
     line->setName(figures_.ColumnLabel(column));
-    line->setPen(QPen(figures_.colours[series], 2, strokes[series % strokes.size()]));
+    line->setPen(QPen(SeriesColour(column), 2, strokes[series % strokes.size()]));
     for (int row = 1; row <= figures_.Rows(); ++row) {
         line->addData(row, figures_.Value(row, column));
     }
@@ -178,7 +198,7 @@ void ChartPlot::DrawLine(int column) {
 // too narrow only some are shown.
 void ChartPlot::FitLabels(int width) {
     QFont font = plot_->font();
-    if (figures_.Places() >= denseFrom) font.setPointSizeF(font.pointSizeF() * smallFont);
+    if (figures_.Places() >= denseFrom) font = SmallFont(font);
     const QFontMetrics metrics(font);
     int widest = 0;
     for (int place = 1; place <= figures_.Places(); ++place) {
@@ -209,23 +229,35 @@ int ChartPlot::PlaceAt(const QPoint& point) const {
     return static_cast<int>(std::lround(plot_->xAxis->pixelToCoord(point.x())));
 }
 
+/// What `drawing` makes of the chart in light colours, whatever the window's.
+template <typename Drawing>
+auto ChartPlot::InLight(const Drawing& drawing) {
+    TakeColours(false);
+    DrawAll();
+    auto result = drawing();
+    Draw();
+    return result;
+}
+
 QPixmap ChartPlot::Picture(const QSize& size, double scale) {
-    FitLabels(size.width());
-    const QPixmap picture = plot_->toPixmap(size.width(), size.height(), scale);
-    FitToWidget();
-    return picture;
+    return InLight([&] {
+        FitLabels(size.width());
+        return plot_->toPixmap(size.width(), size.height(), scale);
+    });
 }
 
 void ChartPlot::Paint(QPainter& painter, const QRectF& rectangle) {
     constexpr int paintedWidth = 900;
     const double factor = rectangle.width() / paintedWidth;
     const int height = static_cast<int>(std::lround(rectangle.height() / factor));
-    FitLabels(paintedWidth);
-    QPicture picture;
-    QCPPainter recorder(&picture);
-    plot_->toPainter(&recorder, paintedWidth, height);
-    recorder.end();
-    FitToWidget();
+    const QPicture picture = InLight([&] {
+        FitLabels(paintedWidth);
+        QPicture recording;
+        QCPPainter recorder(&recording);
+        plot_->toPainter(&recorder, paintedWidth, height);
+        recorder.end();
+        return recording;
+    });
     // A recording grows with the resolution of the device that plays it.
     const double growth = 1.0 * painter.device()->logicalDpiX() / picture.logicalDpiX();
     painter.save();

@@ -20,6 +20,9 @@ class ChartPlot {
     /// The widget that shows the drawing; it belongs to the chart.
     QWidget& Widget() const;
 
+    /// Whether the widget is drawn for a dark window; pictures and paper are light all the same.
+    void SetDark(bool dark) { dark_ = dark; }
+
     /// Draws the figures as they are now.
     void Draw();
 
@@ -40,6 +43,13 @@ class ChartPlot {
 
   private:
     void SetUp();
+    void TakeColours(bool dark);
+    QColor SeriesColour(int column) const;
+    void DrawAll();
+    void DrawAverage();
+    void DrawRankedFigures();
+    template <typename Drawing>
+    auto InLight(const Drawing& drawing);
     void DrawHeading();
     void DrawLegend();
     void DrawAxes();
@@ -53,4 +63,6 @@ class ChartPlot {
     QCPTextElement* heading_ = nullptr;
     QCPLegend* legend_ = nullptr;
     QStringList shownLabels_;
+    bool dark_ = false;       // of the window
+    bool drawnDark_ = false;  // of the drawing at this moment
 };

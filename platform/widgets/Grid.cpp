@@ -14,6 +14,7 @@
 #include "platform/widgets/GridLooks.h"
 #include "platform/widgets/GridModel.h"
 #include "platform/widgets/Widgets.h"
+#include "platform/widgets/WindowShade.h"
 
 namespace {
 
@@ -22,7 +23,9 @@ constexpr int twips90 = 6;  // at 15 twips a pixel
 }  // namespace
 
 Grid::Grid(int rowCount, int columnCount, QWidget* parent)
-    : QTableView(parent), model_(new GridModel(rowCount, columnCount, this)) {
+    : QTableView(parent),
+      model_(new GridModel(rowCount, columnCount, this)),
+      shade_(new WindowShade(*this, [this] { setPalette(GridPalette(IsDark())); })) {
     setHorizontalHeader(new GridHeader(*this));
     setModel(model_);
     setItemDelegate(new GridDelegate(*this, this));
@@ -33,7 +36,7 @@ Grid::Grid(int rowCount, int columnCount, QWidget* parent)
 }
 
 void Grid::SetUpView() {
-    setPalette(GridPalette(dark_));
+    setPalette(GridPalette(false));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
     setTabKeyNavigation(false);
@@ -114,6 +117,8 @@ void Grid::ShowEditedCell() {
             [this] { horizontalHeader()->viewport()->update(); });
 }
 
+bool Grid::IsDark() const { return shade_->IsDark(); }
+
 QColor Grid::UnusedColour() const {
     const QWidget* behind = parentWidget();
     return behind == nullptr ? palette().color(QPalette::Button)
@@ -184,28 +189,6 @@ void Grid::ScrollToRow(int row) {
     const QModelIndex index = IndexOf(row, 0);
     executeDelayedItemsLayout();  // the rows may be new
     if (index.isValid()) scrollTo(index, EnsureVisible);
-}
-
-// The window is known once the grid is shown, and may change its colours with the skin.
-bool Grid::event(QEvent* event) {
-    if (event->type() == QEvent::Show) {
-        window()->installEventFilter(this);
-        TakeWindowColours();
-    }
-    return QTableView::event(event);
-}
-
-bool Grid::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == window() && event->type() == QEvent::PaletteChange) TakeWindowColours();
-    return QTableView::eventFilter(watched, event);
-}
-
-void Grid::TakeWindowColours() {
-    const QPalette around = window() == this ? QGuiApplication::palette() : window()->palette();
-    const bool dark = qGray(around.color(QPalette::Window).rgb()) < 128;
-    if (dark == dark_) return;
-    dark_ = dark;
-    setPalette(GridPalette(dark));
 }
 
 void Grid::TellOfCell(const QModelIndex& index) {

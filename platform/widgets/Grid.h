@@ -8,6 +8,7 @@
 #include <vector>
 
 class GridModel;
+class WindowShade;
 
 /// What a cell's number matched in a check.
 enum class Match { None, Main, Extra };
@@ -62,7 +63,7 @@ class Grid final : public QTableView {
     bool ShowsEditedCell() const { return showsEditedCell_; }
 
     /// Whether the grid stands in a dark window, and the colour of what is not in use there.
-    bool IsDark() const { return dark_; }
+    bool IsDark() const;
     QColor UnusedColour() const;
 
     /// Every column as wide as the text "00000000", the grid as wide as told above.
@@ -97,8 +98,6 @@ class Grid final : public QTableView {
     void cellClicked(int row, int column);
 
   protected:
-    bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -109,7 +108,6 @@ class Grid final : public QTableView {
     bool RowIsEmpty(int row) const;
     void SetUpView();
     void BuildMenu();
-    void TakeWindowColours();
     void TellOfMove();
     int LastShownColumn() const;
     void FitWidth();
@@ -117,11 +115,11 @@ class Grid final : public QTableView {
     void CopySelection() const;
 
     GridModel* model_;
+    WindowShade* shade_;
     int parkingRow_ = 0;
     int rowsInUse_ = std::numeric_limits<int>::max();
     std::vector<int> columnsOutOfUse_;
     bool showsEditedCell_ = false;
-    bool dark_ = false;
     QPersistentModelIndex currentBeforePress_;
     bool told_ = false;  // whether the press that is on its way was told as a click
 };

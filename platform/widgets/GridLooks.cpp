@@ -4,12 +4,12 @@
 #include <QPainter>
 
 #include "platform/widgets/Grid.h"
+#include "platform/widgets/WindowShade.h"
 
 namespace {
 
 constexpr int frameWidth = 2;
 constexpr int markedShade = 112;
-constexpr float readableLightness = 0.75F;
 
 bool IsLight(const QColor& colour) { return qGray(colour.rgb()) >= 128; }
 
@@ -34,14 +34,6 @@ QPalette GridPalette(bool dark) {
                      dark ? QColor(0x26, 0x4a, 0x70) : QColor(0xcf, 0xe3, 0xf7));
     palette.setColor(QPalette::HighlightedText, text);
     return palette;
-}
-
-QColor OnDark(const QColor& colour) {
-    float hue = 0;
-    float saturation = 0;
-    float lightness = 0;
-    colour.getHslF(&hue, &saturation, &lightness);
-    return QColor::fromHslF(hue, saturation, qMax(lightness, readableLightness));
 }
 
 GridDelegate::GridDelegate(const Grid& grid, QObject* parent)

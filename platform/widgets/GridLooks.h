@@ -10,10 +10,6 @@ class Grid;
 /// The colours of a grid's own texts, backgrounds and lines, light or dark as its window is.
 QPalette GridPalette(bool dark);
 
-/// The counterpart, on a dark background, of a text colour made for white: the same hue, light
-/// enough to be read.
-QColor OnDark(const QColor& colour);
-
 /// Paints the cells: own colours also while marked, what the form does not use in the window's
 /// colour, a frame around the marked rows and around the cell that is edited, matches in bold and
 /// those of the bonus or extra ball with a ring.

@@ -15,12 +15,7 @@ class RoundedBars final : public QCPBars {
   public:
     using QCPBars::QCPBars;
 
-    /// Lines of a pattern brush are one pixel thin; drawn twice, side by side, they can be seen.
-    void SetPattern(const QBrush& pattern) {
-        pattern_ = pattern;
-        beside_ = pattern;
-        beside_.setTransform(QTransform::fromTranslate(0, 1));
-    }
+    void SetPattern(const QBrush& pattern) { pattern_ = pattern; }
 
   protected:
     void draw(QCPPainter* painter) override {
@@ -29,7 +24,7 @@ class RoundedBars final : public QCPBars {
         for (const QCPBarsData& bar : *data()) {
             const QRectF rectangle = getBarRect(bar.key, bar.value).normalized();
             const double radius = std::min({2.5, rectangle.width() / 4, rectangle.height() / 2});
-            for (const QBrush& layer : {brush(), pattern_, beside_}) {
+            for (const QBrush& layer : {brush(), pattern_}) {
                 if (layer.style() == Qt::NoBrush) continue;
                 painter->setBrush(layer);
                 painter->drawRoundedRect(rectangle, radius, radius);
@@ -39,5 +34,4 @@ class RoundedBars final : public QCPBars {
 
   private:
     QBrush pattern_;
-    QBrush beside_;
 };

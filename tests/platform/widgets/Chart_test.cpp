@@ -7,10 +7,13 @@
 #include <QClipboard>
 #include <QHelpEvent>
 #include <QImage>
+#include <QMenu>
 #include <QPainter>
+#include <QTimer>
 #include <QToolTip>
 
 #include "core/failure.h"
+#include "platform/widgets/WindowShade.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -118,12 +121,140 @@ TEST_F(ABiochart, DrawsBarsUpAndDownFromZero) {
     EXPECT_EQ(Inked(second, 5, chart.height() / 2 - 30), 0);
 }
 
-TEST_F(ABiochart, IsLightOnADarkDesktop) {
-    QApplication::setPalette(QPalette(QColor(30, 30, 30)));
+/// Notes what a menu offers that opens, and closes it.
+class MenuWatch final : public QObject {
+  public:
+    MenuWatch() { QApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* menu = qobject_cast<QMenu*>(watched);
+        if (menu != nullptr && event->type() == QEvent::Show) {
+            actions = menu->actions();
+            QTimer::singleShot(0, menu, &QMenu::close);
+        }
+        return false;
+    }
+
+    QList<QAction*> actions;
+};
+
+struct AChartInAWindow : testing::Test {
+    void Show(const QColor& background) {
+        window.setPalette(QPalette(background));
+        window.resize(520, 320);
+        chart.resize(500, 300);
+        chart.SetRowCount(4);
+        for (int row = 1; row <= 4; ++row) chart.SetValue(row, 1, row * 10);
+        chart.SetSeriesColour(1, QColor(0, 0, 128));
+        chart.Refresh();
+        window.show();
+        QApplication::processEvents();
+    }
+
+    /// How many pixels of the chart have this colour, but for rounding.
+    int Count(const QColor& colour) {
+        const QImage image = chart.grab().toImage();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                const int apart = std::abs(pixel.red() - colour.red()) +
+                                  std::abs(pixel.green() - colour.green()) +
+                                  std::abs(pixel.blue() - colour.blue());
+                count += apart <= 3;
+            }
+        }
+        return count;
+    }
+
+    QColor Corner() { return chart.grab().toImage().pixelColor(490, 8); }
+
+    QWidget window;
+    Chart chart{0, 1, &window};
+};
+
+TEST_F(AChartInAWindow, IsLightInALightOne) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    EXPECT_EQ(Corner(), QColor(Qt::white));
+    EXPECT_GT(Count(QColor(0, 0, 128)), 1000);
+}
+
+TEST_F(AChartInAWindow, IsDarkInADarkOneWithBarsThatCanBeSeen) {
+    Show(QColor(0x20, 0x20, 0x20));
+    EXPECT_LT(Corner().lightness(), 60);
+    EXPECT_EQ(Count(QColor(0, 0, 128)), 0);
+    const QColor light = OnDark(QColor(0, 0, 128));
+    EXPECT_GT(light.lightness(), 180);
+    EXPECT_GT(Count(light), 1000);
+    EXPECT_EQ(chart.fillColour(), QColor(0, 0, 128)) << "the colour told stays";
+}
+
+TEST_F(AChartInAWindow, FollowsItsWindow) {
+    Show(QColor(0x20, 0x20, 0x20));
+    window.setPalette(QPalette(QColor(0xf0, 0xf0, 0xf0)));
+    QApplication::processEvents();
+    EXPECT_EQ(Corner(), QColor(Qt::white));
+}
+
+TEST_F(AChartInAWindow, CopiesALightPictureOfADarkChart) {
+    Show(QColor(0x20, 0x20, 0x20));
+    chart.findChild<QAction*>(QStringLiteral("CopyPicture"))->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->image().pixelColor(3, 3), QColor(Qt::white));
+    QApplication::processEvents();
+    EXPECT_LT(Corner().lightness(), 60) << "the chart itself stays dark";
+}
+
+TEST_F(AChartInAWindow, DrawsALineAtTheAverage) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    chart.SetSeriesColour(1, QColor(0xc0, 0xd0, 0xff));
     chart.Refresh();
-    const QImage image = chart.grab().toImage();
-    EXPECT_EQ(image.pixelColor(image.width() - 8, 8), QColor(Qt::white));
-    QApplication::setPalette(QPalette());
+    QApplication::processEvents();
+    const auto rowsWithInk = [&] {
+        const QImage image = chart.grab().toImage();
+        int longest = 0;
+        for (int y = 30; y < image.height() - 40; ++y) {
+            int dark = 0;
+            for (int x = 60; x < 440; ++x) dark += qGray(image.pixel(x, y)) < 120;
+            longest = std::max(longest, dark);
+        }
+        return longest;
+    };
+    const int without = rowsWithInk();
+    chart.SetAverage(25);
+    chart.Refresh();
+    QApplication::processEvents();
+    EXPECT_GT(rowsWithInk(), without + 50);
+    chart.SetAverage(std::nullopt);
+    chart.Refresh();
+    QApplication::processEvents();
+    EXPECT_EQ(rowsWithInk(), without);
+}
+
+TEST_F(AChartInAWindow, WritesTheFiguresOfRankedBarsAboveThem) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    const auto inkAbove = [this](int row) {
+        const QImage image = chart.grab().toImage();
+        const int middle = 40 + (chart.width() - 60) * (2 * row - 1) / 8;
+        int dark = 0;
+        for (int x = middle - 30; x < middle + 30; ++x) {
+            for (int y = 0; y < image.height() - 40; ++y) dark += qGray(image.pixel(x, y)) < 90;
+        }
+        return dark;
+    };
+    const int before = inkAbove(2);
+    chart.SetRankedRows({2});
+    chart.Refresh();
+    QApplication::processEvents();
+    const int figures = inkAbove(2);
+    EXPECT_NE(figures, before);
+    EXPECT_THROW(chart.SetRankedRows({5}), Failure);
+}
+
+TEST_F(AChartInAWindow, OpensItsMenuByARightClickOnTheDrawing) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    MenuWatch menus;
+    QTest::mouseClick(chart.findChild<QWidget*>(), Qt::RightButton);
+    EXPECT_EQ(menus.actions, chart.actions());
 }
 
 TEST(AChart, IsDrawnOnlyOnceItIsToBeSeen) {

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a chart says beyond its bars: the average and the figures of the ranked ones.
+#include "platform/widgets/RoundedBars.h"
+// The plotting library comes first, as its header is written with Qt's keywords.
+#include <QCoreApplication>
+#include <cmath>
+
+#include "platform/widgets/ChartFigures.h"
+#include "platform/widgets/ChartPlot.h"
+#include "platform/widgets/ChartShades.h"
+
+void ChartPlot::DrawAverage() {
+    if (!figures_.average) return;
+    const QColor colour = ShadesOf(drawnDark_).text;
+    auto* line = new QCPItemStraightLine(plot_);
+    line->point1->setCoords(0, *figures_.average);
+    line->point2->setCoords(1, *figures_.average);
+    line->setPen(QPen(colour, 1, Qt::DashLine));
+    auto* words = new QCPItemText(plot_);
+    words->setText(
+        QCoreApplication::translate("Chart", "average %1").arg(std::lround(*figures_.average)));
+    words->setFont(SmallFont(plot_->font()));
+    words->setColor(colour);
+    words->setBrush(ShadesOf(drawnDark_).background);
+    words->setPadding(QMargins(3, 0, 3, 0));
+    words->setPositionAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    words->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
+    words->position->setTypeY(QCPItemPosition::ptPlotCoords);
+    words->position->setCoords(1, *figures_.average);
+}
+
+// Where bars stand closer than figures are wide, the figures stand upright.
+void ChartPlot::DrawRankedFigures() {
+    const QFont font = SmallFont(plot_->font());
+    for (const int row : figures_.ranked) {
+        if (row > figures_.Rows()) continue;
+        const double value = figures_.Value(row, 1);
+        auto* figure = new QCPItemText(plot_);
+        figure->setText(QString::number(value));
+        figure->setFont(font);
+        figure->setColor(ShadesOf(drawnDark_).text);
+        const bool upright = figures_.Places() >= denseFrom;
+        figure->setRotation(upright ? -90 : 0);
+        figure->setPositionAlignment(upright ? Qt::AlignLeft | Qt::AlignVCenter
+                                             : Qt::AlignHCenter | Qt::AlignBottom);
+        figure->setPadding(upright ? QMargins(3, 0, 0, 0) : QMargins(0, 0, 0, 2));
+        figure->position->setCoords(row, value);
+    }
+}
