@@ -41,11 +41,15 @@ AnalysisFormText Words() {
 }
 
 void ShowCounts(Chart& chart, const Counts& counts, int rows) {
+    double sum = 0;
     chart.SetRowCount(rows);
     for (int number = 1; number <= rows; ++number) {
         chart.SetRowLabel(number, QString::number(number));
         chart.SetValue(number, 1, counts(number));
+        sum += counts(number);
     }
+    chart.SetRankedRows({});
+    chart.SetAverage(rows > 0 ? std::optional(sum / rows) : std::nullopt);
     chart.Refresh();
 }
 
@@ -86,6 +90,8 @@ void ACommonNumbers::LotteryChosen() {
     DrawChart(counts);
     const TenNumbers numbers = common_numbers::TakeTen(state(), counts.MainCount);
     band_->Numbers().setText(ToQString(TenNumbersText(numbers)));
+    mainChart_->SetRankedRows({numbers.begin(), numbers.end()});
+    mainChart_->Refresh();
 }
 
 void ACommonNumbers::DrawChart(const NumberCounts& counts) {

@@ -152,7 +152,6 @@ void Chart::SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor&
 void Chart::SetAverage(std::optional<double> average) { figures_.average = average; }
 
 void Chart::SetRankedRows(const std::vector<int>& rows) {
-    for (const int row : rows) CheckRow(row);
     figures_.ranked = rows;
 }
 

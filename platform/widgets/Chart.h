@@ -67,9 +67,11 @@ class Chart final : public QWidget {
 
     /// Draws a thin line with the words "average 367" across the chart, or none.
     void SetAverage(std::optional<double> average);
+    std::optional<double> Average() const { return figures_.average; }
 
-    /// The rows above whose bars their figures stand.
+    /// The rows above whose bars their figures stand; one that the chart does not have bears none.
     void SetRankedRows(const std::vector<int>& rows);
+    const std::vector<int>& RankedRows() const { return figures_.ranked; }
 
     /// Ends of the vertical axis; without them it reaches from 0 to the furthest values.
     void SetRange(double lowest, double highest);

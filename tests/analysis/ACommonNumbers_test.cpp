@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <algorithm>
+#include <numeric>
 
 #include "core/failure.h"
 #include "platform/widgets/Chart.h"
@@ -148,6 +149,18 @@ TEST_F(CommonNumbersForm, ShowsTheHotTextsAndColoursOnTheWayBack) {
                              "lottery draw result. Is there a reason why some numbers come up more "
                              "often than others? Are the balls bigger or heavier? Whatever the "
                              "reason, these numbers are HOT!"));
+}
+
+TEST_F(CommonNumbersForm, MarksTheTenRankedBarsAndTheAverage) {
+    Open();
+    const std::vector<int> figures = Figures(MainChart());
+    const double sum = std::accumulate(figures.begin(), figures.end(), 0.0);
+    ASSERT_TRUE(MainChart().Average().has_value());
+    EXPECT_DOUBLE_EQ(*MainChart().Average(), sum / static_cast<double>(figures.size()));
+    QStringList ranked;
+    for (const int row : MainChart().RankedRows()) ranked += QString::number(row);
+    EXPECT_EQ(ranked.join(QStringLiteral(", ")), Text(tenNumbers));
+    ASSERT_EQ(ranked.size(), 10);
 }
 
 TEST_F(CommonNumbersForm, GivesAHottestNumberABarOfHeightZeroInColdMode) {
