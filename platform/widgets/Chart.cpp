@@ -13,6 +13,7 @@
 #include <string>
 
 #include "core/failure.h"
+#include "platform/system/TextConversion.h"
 #include "platform/widgets/ChartPlot.h"
 #include "platform/widgets/Widgets.h"
 #include "platform/widgets/WindowShade.h"
@@ -25,7 +26,7 @@ constexpr double copiedScale = 2;
 
 void CheckIndex(const QObject& chart, const char* what, int index, int count) {
     if (index >= 1 && index <= count) return;
-    throw Failure("chart " + chart.objectName().toStdString() + ": " + what + " " +
+    throw Failure("chart " + FromQString(chart.objectName()) + ": " + what + " " +
                   std::to_string(index) + " was asked for, but they count from 1 to " +
                   std::to_string(count));
 }

@@ -6,12 +6,13 @@
 #include <utility>
 
 #include "core/failure.h"
+#include "platform/system/TextConversion.h"
 
 namespace {
 
 void CheckEntry(const QObject& list, int index, int count) {
     if (index >= -1 && index < count) return;
-    throw Failure("list " + list.objectName().toStdString() + ": entry " + std::to_string(index) +
+    throw Failure("list " + FromQString(list.objectName()) + ": entry " + std::to_string(index) +
                   " was asked for, but the list has " + std::to_string(count) +
                   " entries, counted from 0");
 }

@@ -12,8 +12,8 @@
 #include <QTimer>
 #include <QToolTip>
 
-#include "core/failure.h"
 #include "platform/widgets/WindowShade.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -76,13 +76,13 @@ TEST_F(ABiochart, CountsItsRowsAndColumnsFromOne) {
 }
 
 TEST_F(ABiochart, NamesTheColumnItDoesNotHave) {
-    try {
-        chart.columnLabel(5);
-        FAIL() << "there is no column 5";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(),
-                     "chart MSChart1: column 5 was asked for, but they count from 1 to 4");
-    }
+    EXPECT_EQ(FailureOf([&] { chart.columnLabel(5); }),
+              "chart MSChart1: column 5 was asked for, but they count from 1 to 4");
+}
+
+TEST_F(ABiochart, TellsItsNameInWindows1252) {
+    chart.setObjectName(QStringLiteral("Caf\u00E9"));
+    EXPECT_TRUE(FailureOf([&] { chart.columnLabel(5); }).starts_with("chart Caf\xE9: column 5 "));
 }
 
 TEST_F(ABiochart, DescribesItsFiguresToScreenReaders) {

@@ -6,7 +6,7 @@
 #include <QAbstractItemView>
 #include <QSignalSpy>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -159,15 +159,14 @@ TEST_F(AListBox, HasNothingChosenOnceTheChosenEntryIsRemoved) {
 TEST_F(AListBox, RefusesAnEntryItDoesNotHave) {
     list.setObjectName(QStringLiteral("List1"));
     list.clear();
-    try {
-        list.SetIndex(0);
-        FAIL() << "an empty list has no entry 0";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(
-            failure.what(),
-            "list List1: entry 0 was asked for, but the list has 0 entries, counted from 0");
-    }
+    EXPECT_EQ(FailureOf([&] { list.SetIndex(0); }),
+              "list List1: entry 0 was asked for, but the list has 0 entries, counted from 0");
     EXPECT_THROW(list.SetIndex(-2), Failure);
+}
+
+TEST_F(AListBox, TellsItsNameInWindows1252) {
+    list.setObjectName(QStringLiteral("Caf\u00E9"));
+    EXPECT_TRUE(FailureOf([&] { list.SetIndex(-2); }).starts_with("list Caf\xE9: entry -2 "));
 }
 
 TEST_F(AListBox, MayChooseAnotherEntryInItsClick) {
