@@ -9,7 +9,7 @@
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/HotColdBand.h"
-#include "platform/widgets/HotColdColours.h"
+#include "platform/widgets/NumberColours.h"
 #include "platform/widgets/OptionGroup.h"
 #include "platform/widgets/Widgets.h"
 

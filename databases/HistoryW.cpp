@@ -10,7 +10,6 @@
 #include "core/draw_database.h"
 #include "databases/draw_records.h"
 #include "platform/forms/Hourglass.h"
-#include "platform/forms/LinesGrid.h"
 #include "platform/forms/LotteryList.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
@@ -18,6 +17,7 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/NumberColours.h"
 
 void HistoryW::Load() {
     Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {QStringLiteral("Label2")},

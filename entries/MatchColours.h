@@ -4,7 +4,8 @@
 #include "platform/forms/Skin.h"
 
 /// The colours behind checked numbers: white, yellow for a main number of the draw, light red for
-/// the bonus or extra ball.
-inline QColor NoMatchColour() { return ToQColor(16777215); }
-inline QColor MainMatchColour() { return ToQColor(65535); }
-inline QColor ExtraMatchColour() { return ToQColor(12632319); }
+/// the bonus or extra ball. Values as in the settings, blue in
+/// front.
+inline QColor NoMatchColour() { return ToQColor(0xffffff); }
+inline QColor MainMatchColour() { return ToQColor(0x00ffff); }
+inline QColor ExtraMatchColour() { return ToQColor(0xc0c0ff); }

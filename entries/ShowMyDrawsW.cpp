@@ -9,11 +9,11 @@
 #include "core/text.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
-#include "platform/forms/LinesGrid.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
+#include "platform/widgets/NumberColours.h"
 
 namespace {
 

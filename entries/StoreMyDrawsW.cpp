@@ -10,7 +10,6 @@
 #include "core/failure.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
-#include "platform/forms/LinesGrid.h"
 #include "platform/forms/LotteryList.h"
 #include "platform/forms/ShowTip.h"
 #include "platform/system/MessageBoxes.h"
@@ -20,6 +19,7 @@
 #include "platform/widgets/GridRows.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/NumberColours.h"
 
 namespace {
 

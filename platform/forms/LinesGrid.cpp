@@ -3,8 +3,8 @@
 
 #include <QCoreApplication>
 
-#include "platform/forms/Skin.h"
 #include "platform/widgets/Grid.h"
+#include "platform/widgets/NumberColours.h"
 
 namespace {
 
@@ -13,8 +13,6 @@ constexpr int extraBallColumn = 8;
 QString NumberOrNothing(int number) { return number > 0 ? QString::number(number) : QString(); }
 
 }  // namespace
-
-QColor ExtraBallColour() { return ToQColor(160); }
 
 void SetLinesHeadings(Grid& grid) {
     grid.SetCell(0, 0, QCoreApplication::translate("LinesGrid", "Line"));

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QColor>
-
 #include "core/state.h"
 
 class Grid;
-
-/// Dark red, the colour of the extra ball's column: value 160.
-QColor ExtraBallColour();
 
 /// Headings of the grid of lines: "Line", "Num1" to "Num7", "Pball", the last in dark red.
 void SetLinesHeadings(Grid& grid);

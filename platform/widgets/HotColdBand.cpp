@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-#include "platform/widgets/HotColdColours.h"
+#include "platform/widgets/NumberColours.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {

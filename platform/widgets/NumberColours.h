@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// The colours that tell one kind of number from another, in grids, charts and texts.
 #pragma once
 
 #include <QColor>
@@ -14,3 +15,6 @@ inline HotColdColours ColoursOfMode(bool cold) {
     if (cold) return {.words = 0x0000c0, .pattern = 0x0000ff, .bars = 0x000080};
     return {.words = 0xc00000, .pattern = 0xff0000, .bars = 0x800000};
 }
+
+/// Dark red, the colour of the extra or bonus ball in a grid.
+inline QColor ExtraBallColour() { return QColor(0xa00000); }
