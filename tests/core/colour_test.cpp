@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 
 TEST(ColourFromText, ReadsHexadecimalDigitsBehindTheSign) {
     EXPECT_EQ(ColourFromText("&H800000", "here"), 0x800000U);
@@ -26,14 +26,9 @@ TEST(ColourFromText, FailsForATextThatIsNoNumber) {
 }
 
 TEST(ColourFromText, SaysWhereAndWhatStandsThere) {
-    try {
-        ColourFromText("red", "quillon.ini, line 5");
-        FAIL() << "no failure";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(),
-                     "quillon.ini, line 5: expected a colour such as \"&H800000\", but \"red\" "
-                     "stands there.");
-    }
+    EXPECT_EQ(FailureOf([&] { ColourFromText("red", "quillon.ini, line 5"); }),
+              "quillon.ini, line 5: expected a colour such as \"&H800000\", but \"red\" "
+              "stands there.");
 }
 
 TEST(ColourText, GivesUpperCaseDigitsWithoutLeadingZeros) {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 #include "tests/core/regions.h"
 
 namespace {
@@ -156,14 +156,10 @@ TEST(DateFromText, GivesTheDate) {
 }
 
 TEST(DateFromText, SaysWhereAndWhatStandsThere) {
-    try {
-        DateFromText("someday", EnglishRegion(), today, "quillon.ini, line 15");
-        FAIL() << "no failure";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(),
-                     "quillon.ini, line 15: expected a date such as \"19-Nov-1994\", but "
-                     "\"someday\" stands there.");
-    }
+    EXPECT_EQ(
+        FailureOf([&] { DateFromText("someday", EnglishRegion(), today, "quillon.ini, line 15"); }),
+        "quillon.ini, line 15: expected a date such as \"19-Nov-1994\", but "
+        "\"someday\" stands there.");
 }
 
 TEST(DateFromText, FailsForAnEmptyBirthDate) {

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <random>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 #include "tests/core/lines_support.h"
 
 namespace {
@@ -86,14 +86,9 @@ TEST(SortLines, MoreColumnsThanTheTableHasIsAFailure) {
 TEST(SortLines, FullTableFailsAtTheRowBehindItsLast) {
     const auto state = Lottery(6, 49);
     state->Lines.Fill(1);
-    try {
-        SortLines(*state, 6);
-        FAIL() << "sorted a full table";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(),
-                     "The table of lines was asked for row 181, column 1; its last row is 180, its "
-                     "last column 14.");
-    }
+    EXPECT_EQ(FailureOf([&] { SortLines(*state, 6); }),
+              "The table of lines was asked for row 181, column 1; its last row is 180, its "
+              "last column 14.");
 }
 
 TEST(View, ReadsATableWithoutCountingAsAChange) {

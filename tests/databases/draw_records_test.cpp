@@ -6,8 +6,8 @@
 #include <functional>
 #include <map>
 
-#include "core/failure.h"
 #include "core/memory_folder.h"
+#include "tests/core/failures.h"
 #include "tests/support/real_histories.h"
 
 namespace {
@@ -36,15 +36,6 @@ class DrawRecords : public testing::Test {
 
     std::string Database() const { return folder.Read("dbase1.txt"); }
     std::string Work() const { return folder.Read("temp.txt"); }
-
-    std::string FailureOf(const std::function<void()>& edit) {
-        try {
-            edit();
-        } catch (const Failure& failure) {
-            return failure.what();
-        }
-        return "no failure";
-    }
 
     /// Runs the edit with a disk that fails at each operation and at each byte: the database is
     /// always the old or the new one, and the other files are what they were.

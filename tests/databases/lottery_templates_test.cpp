@@ -9,10 +9,10 @@
 #include <map>
 #include <set>
 
-#include "core/failure.h"
 #include "core/memory_folder.h"
 #include "core/text.h"
 #include "test_folders.h"
+#include "tests/core/failures.h"
 
 namespace {
 
@@ -25,13 +25,8 @@ class LotteryTemplates : public testing::Test {
         LoadLotteryTemplates(state, folder);
     }
 
-    std::string FailureOf(const std::string& bytes) {
-        try {
-            Load(bytes);
-        } catch (const Failure& failure) {
-            return failure.what();
-        }
-        return "no failure";
+    std::string FailureOfLoading(const std::string& bytes) {
+        return FailureOf([&] { Load(bytes); });
     }
 
     static std::string Definitions(int count) {
@@ -95,18 +90,18 @@ TEST_F(LotteryTemplates, AMissingFileEndsTheRun) {
 }
 
 TEST_F(LotteryTemplates, ALineCutShortEndsTheRunAndTheReportNamesTheLine) {
-    EXPECT_EQ(FailureOf("One,6,49,0,0,\r\nTwo,6,49\r\n"),
+    EXPECT_EQ(FailureOfLoading("One,6,49,0,0,\r\nTwo,6,49\r\n"),
               "LotteryTemplates.txt, line 3: expected whether there is an extra ball, but the "
               "file ends there.");
 }
 
 TEST_F(LotteryTemplates, ALineWithoutItsLastCommaAtTheEndOfTheFileEndsTheRun) {
-    EXPECT_NE(FailureOf("One,6,49,0,0\r\n").find("the web address of a lottery"),
+    EXPECT_NE(FailureOfLoading("One,6,49,0,0\r\n").find("the web address of a lottery"),
               std::string::npos);
 }
 
 TEST_F(LotteryTemplates, AnEmptyLineAtTheEndEndsTheRun) {
-    EXPECT_NE(FailureOf("One,6,49,0,0,\r\n\r\n").find("how many numbers to pick"),
+    EXPECT_NE(FailureOfLoading("One,6,49,0,0,\r\n\r\n").find("how many numbers to pick"),
               std::string::npos);
 }
 
@@ -122,7 +117,7 @@ TEST_F(LotteryTemplates, TwoHundredAndOneAreReadButCannotBeListed) {
 }
 
 TEST_F(LotteryTemplates, TwoHundredAndTwoEndTheRunAtTheRead) {
-    EXPECT_EQ(FailureOf(Definitions(202)),
+    EXPECT_EQ(FailureOfLoading(Definitions(202)),
               "LotteryTemplates.txt, line 202: expected no more than 201 lotteries, but "
               "\"Lottery 202\" stands there.");
 }

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 #include "tests/wheels/wheel_support.h"
 
 namespace {
@@ -160,12 +160,8 @@ TEST(Reading, OfANumberBeyondThePoolFails) {
     wheels::ReadAll(*state, BoxesOf(2, {"32767", "-32768"}));
     EXPECT_EQ(state->Pool(0), 32767);
     EXPECT_EQ(state->Pool(1), -32768);
-    try {
-        wheels::ReadAll(*state, BoxesOf(1, {"32768"}));
-        FAIL() << "the pool holds no number above 32767";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(), "A number box holds \"32768\", which is too large");
-    }
+    EXPECT_EQ(FailureOf([&] { wheels::ReadAll(*state, BoxesOf(1, {"32768"})); }),
+              "A number box holds \"32768\", which is too large");
 }
 
 using Selection = void (*)(State&, Random&, Boxes&);

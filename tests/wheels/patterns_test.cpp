@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "core/failure.h"
 #include "test_folders.h"
+#include "tests/core/failures.h"
 
 namespace {
 
@@ -161,12 +161,8 @@ TEST(WheelPatterns, OfThreePairsHoldTheLastPairInEveryLine) {
 }
 
 TEST(WheelPatterns, AskedForAnItemBeyondTheListFail) {
-    try {
-        WheelAt(WheelList::Budget, 4);
-        FAIL() << "the budget wheels end at item 3";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(), "PBudgetWheel, Option1: there is no wheel 4, only 0 to 3");
-    }
+    EXPECT_EQ(FailureOf([&] { WheelAt(WheelList::Budget, 4); }),
+              "PBudgetWheel, Option1: there is no wheel 4, only 0 to 3");
     EXPECT_THROW(WheelAt(WheelList::Pairs, -1), Failure);
 }
 

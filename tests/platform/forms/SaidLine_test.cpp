@@ -8,11 +8,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/failure.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -115,13 +115,8 @@ TEST_F(ASayingForm, TellsAScreenReaderWhatItSaid) {
 TEST(AFormWithoutButtons, HasNowhereToSayAnything) {
     TestProgram test;
     Form form(test.program, QStringLiteral("Bare"), QString(), nullptr);
-    try {
-        form.Say(saved);
-        FAIL() << "nothing failed";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(std::string(failure.what()), "The form Bare has no row of buttons to say \"" +
-                                                   saved.toStdString() + "\" beside");
-    }
+    EXPECT_EQ(FailureOf([&] { form.Say(saved); }),
+              "The form Bare has no row of buttons to say \"" + saved.toStdString() + "\" beside");
 }
 
 }  // namespace

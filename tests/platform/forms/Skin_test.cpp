@@ -7,20 +7,11 @@
 #include <QLabel>
 #include <QPainter>
 
-#include "core/failure.h"
 #include "platform/widgets/Widgets.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
 namespace {
-
-std::string TextOf(const std::function<void()>& failing) {
-    try {
-        failing();
-    } catch (const Failure& failure) {
-        return failure.what();
-    }
-    return "nothing failed";
-}
 
 TEST(AColourValue, HasRedInItsLowByte) {
     EXPECT_EQ(ToQColor(160).name(), QStringLiteral("#a00000"));
@@ -36,7 +27,7 @@ TEST(AColourValue, IsASystemColourOfALightDesktopWithItsHighestBitSet) {
 }
 
 TEST(AColourValue, IsAFailureBeyondTheSystemColours) {
-    EXPECT_EQ(TextOf([] { ToQColor(0x80000019); }),
+    EXPECT_EQ(FailureOf([] { ToQColor(0x80000019); }),
               "expected a colour of 24 bits, or a system colour from &H80000000 to &H80000018, but "
               "&H80000019 was asked for");
 }
@@ -124,16 +115,16 @@ TEST_F(TheSkin, TakesItsColoursBackWhereTheyAreSwitchedOff) {
 
 TEST_F(TheSkin, ReportsTheLineOfAColourThatIsNoNumber) {
     test.state.Settings(3) = "blue";
-    EXPECT_EQ(TextOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 3:");
+    EXPECT_EQ(FailureOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 3:");
     test.state.Settings(3) = "&H0";
     test.state.Settings(5) = "";
-    EXPECT_EQ(TextOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 5:");
+    EXPECT_EQ(FailureOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 5:");
 }
 
 TEST_F(TheSkin, ReportsTheLineOfAColourThatThereIsNot) {
     test.state.Settings(4) = "&H80000020";
     EXPECT_EQ(
-        TextOf([this] { Apply(); }),
+        FailureOf([this] { Apply(); }),
         "quillon.ini, line 4: expected a colour of 24 bits, or a system colour from &H80000000 "
         "to &H80000018, but \"&H80000020\" stands there");
 }
@@ -153,7 +144,7 @@ TEST_F(TheSkin, AsksNothingOfColoursForLabelsThatAFormDoesNotHave) {
 TEST_F(TheSkin, IsAFailureForALabelThatTheFormDoesNotHave) {
     form.setObjectName(QStringLiteral("PLuckyDip"));
     labels.status = {QStringLiteral("Label55")};
-    EXPECT_EQ(TextOf([this] { Apply(); }), "The form PLuckyDip has no label Label55");
+    EXPECT_EQ(FailureOf([this] { Apply(); }), "The form PLuckyDip has no label Label55");
 }
 
 std::string Picture(int width, int height, const char* format) {
@@ -185,7 +176,7 @@ TEST_F(TheSkin, ReportsAFileThatIsNoPicture) {
     const std::string half = Picture(30, 20, "JPG").substr(0, 20);
     for (const std::string& bytes : {std::string("this is no picture"), std::string(), half}) {
         test.folder.Write("SkinPlay.jpg", bytes);
-        EXPECT_EQ(TextOf([this] {
+        EXPECT_EQ(FailureOf([this] {
                       SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg"));
                   }),
                   "SkinPlay.jpg: expected a picture, but the file holds none that can be read.");

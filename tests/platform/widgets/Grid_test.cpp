@@ -10,7 +10,7 @@
 #include <QStyle>
 #include <cmath>
 
-#include "core/failure.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -73,14 +73,9 @@ TEST_F(AGrid, RefusesCellsOutsideItself) {
 }
 
 TEST_F(AGrid, NamesTheCellItDoesNotHave) {
-    try {
-        grid.SetCell(6, 1, QString());
-        FAIL() << "there is no row 6";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(),
-                     "grid: row 6, column 1 was asked for, but the grid has 6 rows and 3 columns, "
-                     "counted from 0");
-    }
+    EXPECT_EQ(FailureOf([&] { grid.SetCell(6, 1, QString()); }),
+              "grid: row 6, column 1 was asked for, but the grid has 6 rows and 3 columns, "
+              "counted from 0");
 }
 
 TEST_F(AGrid, ClearsAllButItsHeadings) {
