@@ -8,6 +8,7 @@
 
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/PastedNumbers.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -27,6 +28,7 @@ DrawBoxes MakeDrawBoxes(int firstIndex) {
         box->setFixedWidth(boxWidth);
         boxes[static_cast<std::size_t>(i)] = box;
     }
+    DealPastedNumbers({boxes.begin(), boxes.end()});
     return boxes;
 }
 

@@ -12,7 +12,8 @@ class QLayout;
 /// The boxes of one draw: seven main numbers, then the bonus or extra ball. Indices from 0.
 using DrawBoxes = std::array<NumberBox*, 8>;
 
-/// Makes the boxes `Text1(firstIndex)` and on, each with a name for screen readers.
+/// Makes the boxes `Text1(firstIndex)` and on, each with a name for screen readers. Several numbers
+/// pasted into one are dealt to those behind it.
 DrawBoxes MakeDrawBoxes(int firstIndex);
 
 /// Two titles with the main numbers below the one and the last number below the other.

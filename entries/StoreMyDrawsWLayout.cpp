@@ -13,6 +13,7 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
+#include "platform/widgets/PastedNumbers.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -58,6 +59,7 @@ void StoreMyDrawsW::MakeControls() {
         box->setAlignment(Qt::AlignCenter);
         text1_[static_cast<std::size_t>(index - 1)] = box;
     }
+    DealPastedNumbers({text1_.begin(), text1_.end()});
 }
 
 void StoreMyDrawsW::MakeGrid() {

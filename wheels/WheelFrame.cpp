@@ -13,6 +13,7 @@
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/NumberBox.h"
 #include "platform/widgets/OptionGroup.h"
+#include "platform/widgets/PastedNumbers.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -96,6 +97,7 @@ WheelFrame::WheelFrame(Program& program, const PlayFormText& text, const PlayCon
 QLayout* WheelFrame::BuildBoxes(const BoxGrouping& grouping) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(16);
+    std::vector<QLineEdit*> boxes;
     for (int first = 0; first < rules_.boxes.count; first += grouping.boxesInGroup) {
         const int group = first / grouping.boxesInGroup;
         auto* row = new QHBoxLayout;
@@ -105,9 +107,11 @@ QLayout* WheelFrame::BuildBoxes(const BoxGrouping& grouping) {
             QLineEdit* box = BuildBox(index);
             box->setAccessibleName(SpokenName(grouping, index));
             row->addWidget(box, 1);
+            boxes.push_back(box);
         }
         grid->addLayout(row, group / grouping.groupsInRow, group % grouping.groupsInRow);
     }
+    DealPastedNumbers(boxes);
     return grid;
 }
 

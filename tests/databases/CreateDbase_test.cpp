@@ -266,6 +266,15 @@ TEST_F(CreatingADatabase, BoxesDropEveryKeyButDigitsAndBackspace) {
     EXPECT_EQ(Box(0).text(), QStringLiteral("1"));
 }
 
+TEST_F(CreatingADatabase, DealsAPastedDrawToTheBoxesOfTheLottery) {
+    Open();
+    Bar(picksBar).setValue(5);
+    Paste(Box(0), QStringLiteral("7 14 21 28 35 3"));
+    EXPECT_EQ(Box(4).text(), QStringLiteral("35"));
+    EXPECT_EQ(Box(5).text(), QString());
+    EXPECT_EQ(Box(7).text(), QStringLiteral("3"));
+}
+
 TEST_F(CreatingADatabase, SavesAStandardLotteryWithoutBonusAndCloses) {
     Open();
     Line(nameBox).setText(QStringLiteral(" My lotto "));

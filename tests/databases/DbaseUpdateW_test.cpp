@@ -144,6 +144,14 @@ TEST_F(UpdatingADatabase, BoxesDropEveryKeyButDigitsAndBackspace) {
     EXPECT_EQ(Box(7).text(), QStringLiteral("1"));
 }
 
+TEST_F(UpdatingADatabase, DealsAPastedDrawToTheBoxesOfTheLottery) {
+    Open();
+    Paste(Box(0), QStringLiteral("7, 14, 21, 28, 35, 42, 3"));
+    EXPECT_EQ(Box(5).text(), QStringLiteral("42"));
+    EXPECT_EQ(Box(6).text(), QString());
+    EXPECT_EQ(Box(7).text(), QStringLiteral("3"));
+}
+
 TEST_F(UpdatingADatabase, SavesTheNewestDrawInFrontOfTheOthers) {
     Open();
     const std::string before = test_.folder.Read("dbase100.txt");

@@ -69,6 +69,13 @@ TEST_F(DrawsHistoryEdit, AnUpdateOfNumbersKeepsThePlaceAndReturnsToTheFirstRow) 
     ExpectMarked(1);
 }
 
+TEST_F(DrawsHistoryEdit, APastedDrawReplacesTheNumbersFromItsBoxOn) {
+    Open();
+    Paste(Box(5), QStringLiteral("11\t12\t13"));
+    Click(*form_, updateButton);
+    EXPECT_EQ(Row(1), "28 May 05,34,17,22,3,11,12,,13");
+}
+
 TEST_F(DrawsHistoryEdit, AnUpdateOfTheDateMovesTheDraw) {
     Open();
     ClickRow(3);

@@ -247,6 +247,14 @@ TEST_F(StoringEntries, ANumberOutsideTheFieldIsRefusedAndNothingIsLost) {
     }
 }
 
+TEST_F(StoringEntries, DealsPastedNumbersToTheBoxesOfTheLottery) {
+    Open();
+    ChooseLottery(1);
+    Paste(Box(1), QStringLiteral("7 14 21 28 30 3"));
+    Click(*form_, "Command2");
+    EXPECT_NE(Row(1).find(",7,14,21,28,30,,,3,"), std::string::npos) << Row(1);
+}
+
 TEST_F(StoringEntries, EnterInANumberBoxAddsAndGoesBackToTheFirstBox) {
     Open();
     for (int index = 1; index <= 6; ++index) Box(index).setText(QString::number(index));

@@ -2,6 +2,7 @@
 #include "tests/support/form_test.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QTimer>
 #include <iostream>
 
@@ -126,6 +127,12 @@ void Click(const QObject& parent, const char* name) {
                              ? QPoint(10, widget->height() / 2)
                              : widget->rect().center();
     QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, place);
+}
+
+void Paste(QWidget& widget, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    widget.setFocus();
+    QTest::keySequence(&widget, QKeySequence::Paste);
 }
 
 void Type(const QObject& parent, const char* name, const QString& text) {

@@ -69,6 +69,9 @@ Control* Find(const QObject& parent, const char* name) {
 /// A real click with the left button.
 void Click(const QObject& parent, const char* name);
 
+/// Pastes the text into a control.
+void Paste(QWidget& widget, const QString& text);
+
 /// Replaces the text of a box by typing.
 void Type(const QObject& parent, const char* name, const QString& text);
 

@@ -49,6 +49,14 @@ TEST_P(EachWheelForm, TakesThreeDigitsInTheMiddleOfABoxAndNothingElse) {
     }
 }
 
+TEST_P(EachWheelForm, DealsPastedNumbersToTheBoxes) {
+    Open();
+    Paste(Box(0), QStringLiteral("7 14 21"));
+    for (const int index : {0, 1, 2}) {
+        EXPECT_EQ(Box(index).text(), QString::number(7 * (index + 1))) << index;
+    }
+}
+
 TEST_P(EachWheelForm, AsksForNoWiderWindowThanItsControlsNeed) {
     Open();
     EXPECT_LE(form_->sizeHint().width(), form_->minimumSizeHint().width() + 40);
