@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <benchmark/benchmark.h>
 
-#include <chrono>
-#include <ctime>
-#include <string>
-
 #include "bench/history.h"
+#include "bench/retry.h"
 #include "core/draw_database.h"
 #include "core/filters.h"
-#include "core/generator.h"
 #include "core/lines.h"
 #include "core/memory_folder.h"
 #include "play/lucky_dip.h"
@@ -61,37 +57,10 @@ void LoadHistory(State& run) {
     for (auto _ : run) LoadDatabase(*state, folder, 0);
 }
 
-double Seconds() {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
-    return std::chrono::duration<double>(now).count();
-}
-
-double ProcessorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
-
-// Strength 2 in every condition is so strict that hardly any of a million sets of lines passes. The
-// second rate is what a machine with nothing else to do would reach by the clock on the wall.
 void RetryLuckyDip(State& run) {
-    const auto state = StateWithHistory(2);
-    Random random([seed = std::uint64_t{0}]() mutable { return ++seed; });
-    double tries = 0;
-    std::string status;
-    GeneratorSteps steps;
-    steps.playLotto = [&] {
-        lucky_dip::PlayLotto(*state, random, 30);
-        ++tries;
-    };
-    steps.paintStatus = [&](const std::string& text) { status = text; };
-    steps.showLines = [] {};
-    steps.seconds = Seconds;
-    const double start = Seconds();
-    const double processorStart = ProcessorSeconds();
-    for (auto _ : run) {
-        GenerateLines(*state, random, {true, true, true},
-                      {.timeDecimals = 3, .pruneDuplicates = true}, steps);
-    }
-    run.counters["tries_in_10_s"] = tries / (Seconds() - start) * 10;
-    run.counters["tries_in_10_s_of_processor"] = tries / (ProcessorSeconds() - processorStart) * 10;
-    run.SetLabel(status);
+    RetryAtStrengthTwo(
+        run, {.timeDecimals = 3, .pruneDuplicates = true},
+        [](::State& state, Random& random) { lucky_dip::PlayLotto(state, random, 30); });
 }
 
 void FillLines(State& run) {
