@@ -45,7 +45,7 @@ enum Slot : int {
     /// Empty; the name last entered when entries were saved. Written and read by `SaveEntries`.
     PlayerName = 17,
     /// Empty; the date last chosen when entries were saved, medium form. Written by `SaveEntries`,
-    /// read by `NextDrawDate`, `SaveLines` and `PStarSign`.
+    /// read by `SaveLines`, and by `NextDrawDate` for `SaveEntries` and `PStarSign`.
     DrawDate = 18,
     /// "0": hidden, "1" shown. Written and read by the main window.
     InfoPanels = 19,

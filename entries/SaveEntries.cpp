@@ -7,9 +7,9 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "core/draw_days.h"
 #include "core/settings.h"
 #include "core/text.h"
-#include "entries/draw_days.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"

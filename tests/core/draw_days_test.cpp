@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "entries/draw_days.h"
+#include "core/draw_days.h"
 
 #include <gtest/gtest.h>
 
