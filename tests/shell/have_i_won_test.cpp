@@ -14,6 +14,38 @@
 
 namespace {
 
+constexpr const char* datePicker = "DTPicker1";
+constexpr const char* bonusBox = "Text1(7)";
+
+namespace main_window {
+constexpr const char* databases = "List1";
+}
+
+namespace create_form {
+constexpr const char* templates = "List1";
+constexpr const char* create = "Command1";
+}  // namespace create_form
+
+namespace update_form {
+constexpr const char* save = "Command1";
+}
+
+namespace history_form {
+constexpr const char* draws = "MSFlexGrid1";
+constexpr const char* deleteDraw = "Command2";
+}  // namespace history_form
+
+namespace store_form {
+constexpr const char* add = "Command2";
+constexpr const char* save = "Command3";
+}  // namespace store_form
+
+namespace check_form {
+constexpr const char* check = "Command2";
+constexpr const char* entries = "MSFlexGrid1";
+constexpr const char* report = "Text2";
+}  // namespace check_form
+
 class HaveIWon : public testing::Test {
   protected:
     void SetUp() override {
@@ -37,28 +69,28 @@ class HaveIWon : public testing::Test {
     }
 
     static void SetDate(QDialog& form, const QDate& date) {
-        Find<QDateEdit>(form, "DTPicker1")->setDate(date);
+        Find<QDateEdit>(form, datePicker)->setDate(date);
     }
 
     void CreateUkLotto() {
         InForm("DatabasesCreate", [](QDialog& form) {
-            auto* templates = Find<ListBox>(form, "List1");
+            auto* templates = Find<ListBox>(form, create_form::templates);
             const auto found = templates->findItems(QStringLiteral("UK Lotto"), Qt::MatchExactly);
             ASSERT_EQ(found.size(), 1);
             templates->SetIndex(templates->row(found.first()));
             Fill(form, 0, {3, 17, 22, 34, 41, 48});
-            Type(form, "Text1(7)", QStringLiteral("9"));
+            Type(form, bonusBox, QStringLiteral("9"));
             SetDate(form, QDate(2005, 5, 28));
-            Click(form, "Command1");
+            Click(form, create_form::create);
         });
     }
 
     void AddDraw(const QDate& date, const std::vector<int>& numbers, int bonus) {
         InForm("wUpdateDbase", [&](QDialog& form) {
             Fill(form, 0, numbers);
-            Type(form, "Text1(7)", QString::number(bonus));
+            Type(form, bonusBox, QString::number(bonus));
             SetDate(form, date);
-            Click(form, "Command1");
+            Click(form, update_form::save);
         });
     }
 
@@ -68,7 +100,8 @@ class HaveIWon : public testing::Test {
 
 TEST_F(HaveIWon, IsAnsweredFromAnEmptyFolderOn) {
     CreateUkLotto();
-    EXPECT_EQ(Find<ListBox>(*window_, "List1")->count(), 1) << "the panel shows the new lottery";
+    EXPECT_EQ(Find<ListBox>(*window_, main_window::databases)->count(), 1)
+        << "the panel shows the new lottery";
     AddDraw(QDate(2005, 6, 1), {5, 6, 7, 8, 9, 10}, 11);
     AddDraw(QDate(2005, 5, 25), {1, 2, 13, 24, 35, 46}, 7);
     EXPECT_NE(test_.folder.Read("dbase1.txt").find("01 Jun 05,5,6,7,8,9,10,,11\r\n28 May 05,"),
@@ -76,11 +109,11 @@ TEST_F(HaveIWon, IsAnsweredFromAnEmptyFolderOn) {
         << test_.folder.Read("dbase1.txt");
 
     InForm("wDatabaseView", [](QDialog& form) {
-        auto& draws = *Find<Grid>(form, "MSFlexGrid1");
+        auto& draws = *Find<Grid>(form, history_form::draws);
         const QModelIndex oldest = draws.model()->index(2, 3);
         QTest::mouseClick(draws.viewport(), Qt::LeftButton, Qt::NoModifier,
                           draws.visualRect(oldest).center());
-        Click(form, "Command2");
+        Click(form, history_form::deleteDraw);
         EXPECT_EQ(draws.Cell(3, 0), QString());
     });
     EXPECT_EQ(test_.folder.Read("dbase1.txt").find("25 May 05"), std::string::npos);
@@ -88,20 +121,20 @@ TEST_F(HaveIWon, IsAnsweredFromAnEmptyFolderOn) {
     InForm("DatabaseStoreDrawsW", [this](QDialog& form) {
         SetDate(form, QDate(2005, 6, 1));
         Fill(form, 1, {5, 6, 7, 8, 11, 40});
-        Click(form, "Command2");
+        Click(form, store_form::add);
         test_.messages.Expect({.title = QStringLiteral("Lottery Quillon World"),
                                .text = QStringLiteral("Your entries have been saved.  "),
                                .sign = Sign::Information});
-        Click(form, "Command3");
+        Click(form, store_form::save);
     });
 
     InForm("DatabaseCheck", [](QDialog& form) {
-        Click(form, "Command2");
-        const auto& entries = *Find<Grid>(form, "MSFlexGrid1");
+        Click(form, check_form::check);
+        const auto& entries = *Find<Grid>(form, check_form::entries);
         EXPECT_EQ(entries.CellBackground(1, 1), QColor(255, 255, 0)) << "5 was drawn";
         EXPECT_EQ(entries.CellBackground(1, 5), QColor(255, 192, 192)) << "11 was the bonus ball";
         EXPECT_EQ(entries.CellBackground(1, 6), QColor(255, 255, 255));
-        const QString report = Find<QPlainTextEdit>(form, "Text2")->toPlainText();
+        const QString report = Find<QPlainTextEdit>(form, check_form::report)->toPlainText();
         EXPECT_TRUE(report.contains(QStringLiteral(" 4-match+bonus/pball = 1 times")))
             << report.toStdString();
         EXPECT_TRUE(report.contains(QStringLiteral(" 4-match = 0 times")));

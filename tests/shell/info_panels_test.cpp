@@ -17,14 +17,21 @@
 
 namespace {
 
-constexpr std::array<const char*, 37> panelControls = {
-    "Label7",      "Label4",      "DTPicker1",   "Command1(8)", "Command1(17)", "Option1(0)",
-    "Option1(1)",  "MSChart1",    "Label8",      "Check1(0)",   "Check1(1)",    "Check1(2)",
-    "Check1(3)",   "Check1(4)",   "Check1(5)",   "Check1(6)",   "Check1(7)",    "Command4(0)",
-    "Command4(1)", "Command4(2)", "Command4(3)", "Command4(4)", "Command4(5)",  "Command4(6)",
-    "Command4(7)", "Text2",       "Command3",    "Label9",      "List1",        "Label2",
-    "Label3",      "Label5",      "Label6",      "Label13",     "Label11",      "Text1",
-    "Label1"};
+constexpr int itemCount = 8;
+
+/// Every control of the panels.
+std::vector<std::string> PanelControls() {
+    std::vector<std::string> controls = {
+        biochartHeading, birthDateLabel,   birthDatePicker, updateButton,     moreButton,
+        todayOption,     tomorrowOption,   biochart,        checklistHeading, newItemBox,
+        addItemButton,   databasesHeading, databasesList,   syndicateHeading, syndicateName,
+        managerHeading,  managerName,      notesHeading,    notesKeys,        notePad};
+    for (int i = 0; i < itemCount; ++i) {
+        controls.push_back(ItemBox(i));
+        controls.push_back(ClearButton(i));
+    }
+    return controls;
+}
 
 class InfoPanelsOfWindow : public MainWindow {
   protected:
@@ -41,11 +48,9 @@ class InfoPanelsOfWindow : public MainWindow {
         return Find<QWidget>(*window, name)->property("text").toString();
     }
 
-    QCheckBox* Item(int index) {
-        return Find<QCheckBox>(*window, ("Check1(" + std::to_string(index) + ")").c_str());
-    }
+    QCheckBox* Item(int index) { return Find<QCheckBox>(*window, ItemBox(index).c_str()); }
 
-    double Value(int column) { return Find<Chart>(*window, "MSChart1")->value(1, column); }
+    double Value(int column) { return Find<Chart>(*window, biochart)->value(1, column); }
 
     std::string NotesFile() { return program.folder.Read("Notes.txt"); }
 };
@@ -57,48 +62,48 @@ const std::string sevenUntouchedItems =
 TEST_F(InfoPanelsOfWindow, HaveTheCaptionsOfTheirControls) {
     StartShown();
     const std::vector<std::pair<const char*, const char*>> captions = {
-        {"Label7", "   Biochart:"},
-        {"Label4", "Birth date:"},
-        {"Command1(8)", "Update"},
-        {"Command1(17)", "More"},
-        {"Option1(0)", "Today"},
-        {"Option1(1)", "Tomorrow"},
-        {"Label8", "  Checklist:"},
-        {"Check1(0)", "Analyse lottery draws"},
-        {"Check1(1)", "Generate lottery entries"},
-        {"Check1(2)", "Fill in payslips"},
-        {"Check1(3)", "Buy lottery tickets"},
-        {"Check1(4)", "Check results"},
-        {"Check1(5)", "Collect winnings!"},
-        {"Check1(6)", ""},
-        {"Check1(7)", ""},
-        {"Command3", "Add"},
-        {"Label9", "  Databases:"},
-        {"Label2", "Syndicate:"},
-        {"Label5", "Manager:"},
-        {"Label13", "  Notes:"},
-        {"Label11", "(Ctr+C=Copy / Ctrl+X=Cut / Ctrl+V=Paste)"}};
+        {biochartHeading, "   Biochart:"},
+        {birthDateLabel, "Birth date:"},
+        {updateButton, "Update"},
+        {moreButton, "More"},
+        {todayOption, "Today"},
+        {tomorrowOption, "Tomorrow"},
+        {checklistHeading, "  Checklist:"},
+        {addItemButton, "Add"},
+        {databasesHeading, "  Databases:"},
+        {syndicateHeading, "Syndicate:"},
+        {managerHeading, "Manager:"},
+        {notesHeading, "  Notes:"},
+        {notesKeys, "(Ctr+C=Copy / Ctrl+X=Cut / Ctrl+V=Paste)"}};
     for (const auto& [name, caption] : captions) {
         EXPECT_EQ(TextOf(name).toStdString(), caption) << name;
     }
-    for (int i = 0; i < 8; ++i) {
-        const std::string name = "Command4(" + std::to_string(i) + ")";
+    const std::array<const char*, itemCount> items = {"Analyse lottery draws",
+                                                      "Generate lottery entries",
+                                                      "Fill in payslips",
+                                                      "Buy lottery tickets",
+                                                      "Check results",
+                                                      "Collect winnings!",
+                                                      "",
+                                                      ""};
+    for (int i = 0; i < itemCount; ++i) {
+        EXPECT_EQ(Item(i)->text().toStdString(), items.at(static_cast<std::size_t>(i)));
+        const std::string name = ClearButton(i);
         EXPECT_EQ(TextOf(name.c_str()), QStringLiteral("Clear"));
         EXPECT_EQ(Find<QWidget>(*window, name.c_str())->toolTip(),
                   QStringLiteral("Clear this item"));
     }
-    EXPECT_EQ(Find<QWidget>(*window, "Text2")->toolTip(),
+    EXPECT_EQ(Find<QWidget>(*window, newItemBox)->toolTip(),
               QStringLiteral("Type in an item and click Add"));
-    EXPECT_EQ(Find<QWidget>(*window, "Command3")->toolTip(),
+    EXPECT_EQ(Find<QWidget>(*window, addItemButton)->toolTip(),
               QStringLiteral("Type in a checkist item and click Add"));
 }
 
 TEST_F(InfoPanelsOfWindow, StartHidden) {
     Start();
-    for (const char* name : panelControls) {
-        if (std::string(name) == "Label1") continue;
-        EXPECT_FALSE(Find<QWidget>(*window, name)->isVisible()) << name;
-        EXPECT_TRUE(Find<QWidget>(*window, name)->isHidden()) << name;
+    for (const std::string& name : PanelControls()) {
+        EXPECT_FALSE(Find<QWidget>(*window, name.c_str())->isVisible()) << name;
+        EXPECT_TRUE(Find<QWidget>(*window, name.c_str())->isHidden()) << name;
     }
     EXPECT_EQ(Setting(19), "0");
 }
@@ -106,21 +111,22 @@ TEST_F(InfoPanelsOfWindow, StartHidden) {
 TEST_F(InfoPanelsOfWindow, AreShownAndHiddenAllTogetherAndTheSettingFollows) {
     Start();
     Choose("FileNotes");
-    for (const char* name : panelControls) {
-        EXPECT_TRUE(Find<QWidget>(*window, name)->isVisible()) << name;
+    for (const std::string& name : PanelControls()) {
+        EXPECT_TRUE(Find<QWidget>(*window, name.c_str())->isVisible()) << name;
     }
+    EXPECT_TRUE(Find<QWidget>(*window, toolbarBackground)->isVisible());
     EXPECT_EQ(Setting(19), "1");
     Choose("FileNotes");
-    EXPECT_FALSE(Find<QWidget>(*window, "Label7")->isVisible());
-    EXPECT_FALSE(Find<QWidget>(*window, "Text1")->isVisible());
-    EXPECT_TRUE(Find<QWidget>(*window, "Label1")->isVisible()) << "the toolbar stays";
+    EXPECT_FALSE(Find<QWidget>(*window, biochartHeading)->isVisible());
+    EXPECT_FALSE(Find<QWidget>(*window, notePad)->isVisible());
+    EXPECT_TRUE(Find<QWidget>(*window, toolbarBackground)->isVisible()) << "the toolbar stays";
     EXPECT_EQ(Setting(19), "0");
 }
 
 TEST_F(InfoPanelsOfWindow, GiveTheFocusToTheNotePad) {
     Start();
     Choose("FileNotes");
-    EXPECT_EQ(window->focusWidget(), Find<QWidget>(*window, "Text1"));
+    EXPECT_EQ(window->focusWidget(), Find<QWidget>(*window, notePad));
 }
 
 TEST_F(InfoPanelsOfWindow, AreShownAfterARestartWhereTheyWereShown) {
@@ -128,7 +134,7 @@ TEST_F(InfoPanelsOfWindow, AreShownAfterARestartWhereTheyWereShown) {
     Choose("FileNotes");
     Quit();
     Start();
-    EXPECT_TRUE(Find<QWidget>(*window, "Label7")->isVisible());
+    EXPECT_TRUE(Find<QWidget>(*window, biochartHeading)->isVisible());
     EXPECT_EQ(Setting(19), "1");
 }
 
@@ -142,7 +148,7 @@ TEST_F(InfoPanelsOfWindow, HideTheWelcomeWhileTheyAreShown) {
 TEST_F(InfoPanelsOfWindow, TheChecklistIsWrittenWithBlanksRoundTheNumberAndNoLineEndAfterTheNote) {
     StartShown();
     Item(1)->setChecked(true);
-    Type(*window, "Text1", QStringLiteral("Buy a ticket"));
+    Type(*window, notePad, QStringLiteral("Buy a ticket"));
     Quit();
     EXPECT_EQ(
         NotesFile(),
@@ -153,8 +159,8 @@ TEST_F(InfoPanelsOfWindow, TheChecklistIsWrittenWithBlanksRoundTheNumberAndNoLin
 
 TEST_F(InfoPanelsOfWindow, ATickAndACaptionSurviveARestart) {
     StartShown();
-    Type(*window, "Text2", QStringLiteral("Phone the others"));
-    Click(*window, "Command3");
+    Type(*window, newItemBox, QStringLiteral("Phone the others"));
+    Click(*window, addItemButton);
     Item(6)->setChecked(true);
     Quit();
     Start();
@@ -165,7 +171,7 @@ TEST_F(InfoPanelsOfWindow, ATickAndACaptionSurviveARestart) {
 
 TEST_F(InfoPanelsOfWindow, AnItemWithAnEmptyCaptionSurvivesARestart) {
     StartShown();
-    Click(*window, "Command4(2)");
+    Click(*window, ClearButton(2).c_str());
     Quit();
     Start();
     EXPECT_EQ(Item(2)->text(), QString());
@@ -183,7 +189,7 @@ TEST_F(InfoPanelsOfWindow, ACommaCutsACaptionAndTheRestTakesTheNextPlace) {
 TEST_F(InfoPanelsOfWindow, NotesWithTheChecklistAloneYieldAnEmptyNote) {
     program.folder.Write("Notes.txt", sevenUntouchedItems + " 1 ,Rest\r\n");
     StartShown();
-    EXPECT_EQ(Find<QPlainTextEdit>(*window, "Text1")->toPlainText(), QString());
+    EXPECT_EQ(Find<QPlainTextEdit>(*window, notePad)->toPlainText(), QString());
     EXPECT_TRUE(Item(7)->isChecked());
     EXPECT_EQ(Item(7)->text(), QStringLiteral("Rest"));
 }
@@ -200,34 +206,34 @@ TEST_F(InfoPanelsOfWindow, ANoteOfSeveralLinesComesBackByteForByte) {
 
 TEST_F(InfoPanelsOfWindow, WhatWindows1252DoesNotKnowBecomesAQuestionMark) {
     StartShown();
-    Find<QPlainTextEdit>(*window, "Text1")->setPlainText(QString(QChar(0x4e2d)) + QChar(0x20ac));
+    Find<QPlainTextEdit>(*window, notePad)->setPlainText(QString(QChar(0x4e2d)) + QChar(0x20ac));
     Quit();
     EXPECT_TRUE(NotesFile().ends_with("\r\n?\x80"));
 }
 
 TEST_F(InfoPanelsOfWindow, AddTakesTheFirstFreeItemAndKeepsTheBox) {
     StartShown();
-    Click(*window, "Command4(3)");
-    Type(*window, "Text2", QStringLiteral("Meet at six"));
-    Click(*window, "Command3");
+    Click(*window, ClearButton(3).c_str());
+    Type(*window, newItemBox, QStringLiteral("Meet at six"));
+    Click(*window, addItemButton);
     EXPECT_EQ(Item(3)->text(), QStringLiteral("Meet at six"));
     EXPECT_EQ(Item(6)->text(), QString());
-    EXPECT_EQ(TextOf("Text2"), QStringLiteral("Meet at six"));
+    EXPECT_EQ(TextOf(newItemBox), QStringLiteral("Meet at six"));
 }
 
 TEST_F(InfoPanelsOfWindow, AnItemOfTwoPastedLinesStaysOneLineOfTheFile) {
     StartShown();
     QApplication::clipboard()->setText(QStringLiteral("Phone Ann\r\nand Tom\r\n"));
-    Find<QLineEdit>(*window, "Text2")->paste();
-    Click(*window, "Command3");
+    Find<QLineEdit>(*window, newItemBox)->paste();
+    Click(*window, addItemButton);
     Quit();
     EXPECT_NE(NotesFile().find("\r\n 0 ,Phone Ann and Tom\r\n 0 ,\r\n"), std::string::npos);
 }
 
 TEST_F(InfoPanelsOfWindow, AddDoesNothingWhereEveryItemIsTaken) {
     StartShown();
-    Type(*window, "Text2", QStringLiteral("Extra"));
-    for (int i = 0; i < 3; ++i) Click(*window, "Command3");
+    Type(*window, newItemBox, QStringLiteral("Extra"));
+    for (int i = 0; i < 3; ++i) Click(*window, addItemButton);
     EXPECT_EQ(Item(0)->text(), QStringLiteral("Analyse lottery draws"));
     EXPECT_EQ(Item(6)->text(), QStringLiteral("Extra"));
     EXPECT_EQ(Item(7)->text(), QStringLiteral("Extra"));
@@ -235,8 +241,8 @@ TEST_F(InfoPanelsOfWindow, AddDoesNothingWhereEveryItemIsTaken) {
 
 TEST_F(InfoPanelsOfWindow, AnItemShowsItsAmpersandAndKeepsItOnce) {
     StartShown();
-    Type(*window, "Text2", QStringLiteral("Pay & collect"));
-    Click(*window, "Command3");
+    Type(*window, newItemBox, QStringLiteral("Pay & collect"));
+    Click(*window, addItemButton);
     EXPECT_EQ(Item(6)->text(), QStringLiteral("Pay && collect"));
     Quit();
     EXPECT_NE(NotesFile().find(" 0 ,Pay & collect\r\n"), std::string::npos);
@@ -245,7 +251,7 @@ TEST_F(InfoPanelsOfWindow, AnItemShowsItsAmpersandAndKeepsItOnce) {
 TEST_F(InfoPanelsOfWindow, ClearTakesCaptionAndTick) {
     StartShown();
     Item(4)->setChecked(true);
-    Click(*window, "Command4(4)");
+    Click(*window, ClearButton(4).c_str());
     EXPECT_EQ(Item(4)->text(), QString());
     EXPECT_FALSE(Item(4)->isChecked());
 }
@@ -259,7 +265,7 @@ TEST_F(InfoPanelsOfWindow, ChecklistAndNotesAreWrittenAtQuitOnly) {
 
 TEST_F(InfoPanelsOfWindow, TheBirthDateOfTheSettingsIsShownInItsForm) {
     StartShown();
-    auto* picker = Find<DatePicker>(*window, "DTPicker1");
+    auto* picker = Find<DatePicker>(*window, birthDatePicker);
     EXPECT_EQ(picker->displayFormat(), QStringLiteral("ddd d MMM yyyy"));
     EXPECT_EQ(MediumDate(picker->Value()), "01-Jan-1970");
     EXPECT_EQ(Setting(15), "01-Jan-1970") << "drawing the chart writes the date back";
@@ -267,7 +273,7 @@ TEST_F(InfoPanelsOfWindow, TheBirthDateOfTheSettingsIsShownInItsForm) {
 
 TEST_F(InfoPanelsOfWindow, TheChartIsOneRowOfFourSeries) {
     StartShown();
-    auto* chart = Find<Chart>(*window, "MSChart1");
+    auto* chart = Find<Chart>(*window, biochart);
     EXPECT_EQ(chart->rowCount(), 1);
     ASSERT_EQ(chart->columnCount(), 4);
     EXPECT_EQ(chart->columnLabel(1), QStringLiteral("Intellectual"));
@@ -291,39 +297,39 @@ TEST_F(InfoPanelsOfWindow, TheChartShowsTheThreeWavesAndTheirAverage) {
 
 TEST_F(InfoPanelsOfWindow, TomorrowAddsADayAtOnce) {
     StartShown();
-    EXPECT_TRUE(Find<QRadioButton>(*window, "Option1(0)")->isChecked());
-    Click(*window, "Option1(1)");
+    EXPECT_TRUE(Find<QRadioButton>(*window, todayOption)->isChecked());
+    Click(*window, tomorrowOption);
     EXPECT_NEAR(Value(1), Wave(12936, 33), 1e-9);
-    Click(*window, "Option1(0)");
+    Click(*window, todayOption);
     EXPECT_NEAR(Value(1), Wave(12935, 33), 1e-9);
 }
 
 TEST_F(InfoPanelsOfWindow, OnTheDayOfBirthAllFourValuesAreZero) {
     StartShown();
-    Find<DatePicker>(*window, "DTPicker1")->SetValue(program.today);
-    Click(*window, "Command1(8)");
+    Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
+    Click(*window, updateButton);
     for (int column = 1; column <= 4; ++column) EXPECT_EQ(Value(column), 0);
     EXPECT_EQ(Setting(15), "01-Jun-2005");
 }
 
 TEST_F(InfoPanelsOfWindow, ADateAfterTodayDrawsANegativeWave) {
     StartShown();
-    Find<DatePicker>(*window, "DTPicker1")->SetValue(DaysAfter(program.today, 5));
-    Click(*window, "Command1(8)");
+    Find<DatePicker>(*window, birthDatePicker)->SetValue(DaysAfter(program.today, 5));
+    Click(*window, updateButton);
     EXPECT_NEAR(Value(1), Wave(-5, 33), 1e-9);
     EXPECT_LT(Value(1), 0);
 }
 
 TEST_F(InfoPanelsOfWindow, QuittingKeepsTheBirthDateOfTheLastDrawing) {
     StartShown();
-    Find<DatePicker>(*window, "DTPicker1")->SetValue(program.today);
+    Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
     Quit();
     EXPECT_EQ(Setting(15), "01-Jan-1970");
 }
 
 TEST_F(InfoPanelsOfWindow, MoreWaitsForTheBiorhythmForm) {
     StartShown();
-    EXPECT_EQ(Find<QPushButton>(*window, "Command1(17)")->isEnabled(),
+    EXPECT_EQ(Find<QPushButton>(*window, moreButton)->isEnabled(),
               Entry("AnalyseBiorhythms")->isEnabled());
 }
 
@@ -331,7 +337,7 @@ TEST_F(InfoPanelsOfWindow, ListTheDatabasesWithNoneChosen) {
     program.folder.Write("dbase2.txt", "Second\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
     program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
     StartShown();
-    auto* list = Find<ListBox>(*window, "List1");
+    auto* list = Find<ListBox>(*window, databasesList);
     ASSERT_EQ(list->count(), 2);
     EXPECT_EQ(list->item(0)->text(), QStringLiteral("First"));
     EXPECT_EQ(list->item(1)->text(), QStringLiteral("Second"));
@@ -341,7 +347,7 @@ TEST_F(InfoPanelsOfWindow, ListTheDatabasesWithNoneChosen) {
 TEST_F(InfoPanelsOfWindow, AClickOnADatabaseLoadsNothing) {
     program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
     StartShown();
-    Find<ListBox>(*window, "List1")->SetIndex(0);
+    Find<ListBox>(*window, databasesList)->SetIndex(0);
     EXPECT_EQ(program.state.LotteryName, "");
     EXPECT_EQ(program.state.Picks, 0);
 }
@@ -367,15 +373,15 @@ TEST_F(InfoPanelsOfWindow, ShowTheSyndicateOfTheSettings) {
     SaveSettings(program.state, program.folder);
     program.folder.Write("SMembers.000", SyndicateFile("The <b>Wednesday</b> Club", "Ann"));
     Start();
-    EXPECT_EQ(TextOf("Label3"), QStringLiteral("The <b>Wednesday</b> Club"));
-    EXPECT_EQ(TextOf("Label6"), QStringLiteral("Ann"));
-    EXPECT_EQ(Find<QLabel>(*window, "Label3")->textFormat(), Qt::PlainText);
+    EXPECT_EQ(TextOf(syndicateName), QStringLiteral("The <b>Wednesday</b> Club"));
+    EXPECT_EQ(TextOf(managerName), QStringLiteral("Ann"));
+    EXPECT_EQ(Find<QLabel>(*window, syndicateName)->textFormat(), Qt::PlainText);
 }
 
 TEST_F(InfoPanelsOfWindow, WithoutASyndicateTheDesignTextGivesWayToEmptyTexts) {
     Start();
-    EXPECT_EQ(TextOf("Label3"), QString());
-    EXPECT_EQ(TextOf("Label6"), QString());
+    EXPECT_EQ(TextOf(syndicateName), QString());
+    EXPECT_EQ(TextOf(managerName), QString());
     EXPECT_FALSE(Entry("SyndicateManager")->isEnabled());
 }
 
@@ -397,12 +403,12 @@ TEST_F(InfoPanelsOfWindow, ShowAnotherSyndicateOnceTheFormThatOpenedItHasClosed)
     TellingForm::whileOpen = [](Program& opened) { opened.state.Settings(16) = "SMembers.003"; };
     CatalogueEntry entry{.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm};
     window->Open(entry);
-    EXPECT_EQ(TextOf("Label3"), QString()) << "no form that changes the syndicate";
+    EXPECT_EQ(TextOf(syndicateName), QString()) << "no form that changes the syndicate";
     entry.changesSyndicate = true;
     window->Open(entry);
     TellingForm::whileOpen = {};
-    EXPECT_EQ(TextOf("Label3"), QStringLiteral("Club"));
-    EXPECT_EQ(TextOf("Label6"), QStringLiteral("Ann"));
+    EXPECT_EQ(TextOf(syndicateName), QStringLiteral("Club"));
+    EXPECT_EQ(TextOf(managerName), QStringLiteral("Ann"));
 }
 
 TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {
@@ -411,7 +417,7 @@ TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_EQ(Setting(16), "");
-    EXPECT_EQ(TextOf("Label3"), QString());
+    EXPECT_EQ(TextOf(syndicateName), QString());
 }
 
 TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
@@ -426,26 +432,26 @@ TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
 TEST_F(InfoPanelsOfWindow, ALongItemOrNameDoesNotWidenTheWindow) {
     StartShown();
     const int width = window->minimumSizeHint().width();
-    Type(*window, "Text2", QString(200, QLatin1Char('w')));
-    Click(*window, "Command3");
+    Type(*window, newItemBox, QString(200, QLatin1Char('w')));
+    Click(*window, addItemButton);
     EXPECT_EQ(window->minimumSizeHint().width(), width);
 }
 
 TEST_F(InfoPanelsOfWindow, TheKeyboardGoesThroughThemInReadingOrder) {
     StartShown();
-    const std::vector<const char*> order = {
-        "DTPicker1", "Command1(8)", "Command1(17)", "Option1(0)",  "Option1(1)",
-        "Check1(0)", "Command4(0)", "Check1(1)",    "Command4(7)", "Text2",
-        "Command3",  "List1",       "Text1"};
+    const std::vector<std::string> order = {
+        birthDatePicker, updateButton,   moreButton, todayOption,    tomorrowOption,
+        ItemBox(0),      ClearButton(0), ItemBox(1), ClearButton(7), newItemBox,
+        addItemButton,   databasesList,  notePad};
     std::vector<QString> walked;
-    QWidget* start = Find<QWidget>(*window, "Image1(0)");
+    QWidget* start = Find<QWidget>(*window, ToolbarButton(0).c_str());
     for (QWidget* next = start->nextInFocusChain(); next != start;
          next = next->nextInFocusChain()) {
         walked.push_back(next->objectName());
     }
     qsizetype last = -1;
-    for (const char* name : order) {
-        const auto found = std::ranges::find(walked, QString::fromLatin1(name));
+    for (const std::string& name : order) {
+        const auto found = std::ranges::find(walked, QString::fromStdString(name));
         ASSERT_NE(found, walked.end()) << name;
         EXPECT_GT(found - walked.begin(), last) << name;
         last = found - walked.begin();

@@ -17,9 +17,16 @@
 #include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"
 #include "test_folders.h"
-#include "tests/support/form_test.h"
+#include "tests/support/lines_form.h"
 
 namespace {
+
+constexpr const char* lineCountBar = "HScroll1";
+
+/// The dialog that saves lines.
+constexpr const char* drawDate = "DTPicker1";
+constexpr const char* playerName = "Text2";
+constexpr const char* saveEntriesButton = "Command7";
 
 /// A run of the program on a folder of real files; the clock, the day and the seed stand still.
 struct ProgramRun {
@@ -92,24 +99,26 @@ TEST_F(MainJob, LinesOfUkLottoAreMadeFilteredSavedAndFoundAgain) {
         ProgramRun run(folder_.path());
         const auto playLuckyDip = [&] { Find<QAction>(run.window, "PlayLuckyDip")->trigger(); };
         InDialog(playLuckyDip, [&](QDialog& form) {
-            ChooseLottery(*Find<ListBox>(form, "List1"), QStringLiteral("UK Lotto"));
-            for (const char* box : {"Check1", "Check2", "Check3"}) Click(form, box);
-            Find<QScrollBar>(form, "HScroll1")->setValue(30);
-            Click(form, "Command2");
-            auto& grid = *Find<Grid>(form, "MSFlexGrid1");
+            ChooseLottery(*Find<ListBox>(form, lotteryList), QStringLiteral("UK Lotto"));
+            for (const char* box : {oddEvenBox, highLowBox, previousDrawsBox}) Click(form, box);
+            Find<QScrollBar>(form, lineCountBar)->setValue(30);
+            Click(form, generateButton);
+            auto& grid = *Find<Grid>(form, linesGrid);
             EXPECT_FALSE(grid.Cell(30, 1).isEmpty());
-            for (const char* button : {"Command13", "Command14", "Command9"}) Click(form, button);
+            const auto filters = {usualFilters.oddEven, usualFilters.highLow,
+                                  usualFilters.previousDraws};
+            for (const char* filter : filters) Click(form, filter);
             EXPECT_FALSE(grid.Cell(30, 1).isEmpty()) << "the conditions have seen to that already";
-            Click(form, "Command15");
-            const auto save = [&] { Click(form, "Command7"); };
+            Click(form, usualFilters.longRuns);
+            const auto save = [&] { Click(form, saveButton); };
             InDialog(save, [](QDialog& dialog) {
                 // 1 June 2005 is a Wednesday, a draw day.
-                EXPECT_EQ(Find<QDateEdit>(dialog, "DTPicker1")->date(), QDate(2005, 6, 1));
-                Type(dialog, "Text2", QStringLiteral("Ann"));
-                Click(dialog, "Command7");
+                EXPECT_EQ(Find<QDateEdit>(dialog, drawDate)->date(), QDate(2005, 6, 1));
+                Type(dialog, playerName, QStringLiteral("Ann"));
+                Click(dialog, saveEntriesButton);
             });
             shown = ShownRecords(grid, "01-Jun-2005");
-            Click(form, "Command1");
+            Click(form, closeButton);
         });
         run.window.close();
     }

@@ -11,6 +11,9 @@
 
 namespace {
 
+/// The list of every form that works on a lottery.
+constexpr const char* lotteryList = "List1";
+
 class QuillonForm : public MainWindow {
   protected:
     /// The failure that start-up ends with; empty where it does not fail.
@@ -29,7 +32,7 @@ std::string Database(const std::string& name) {
 }
 
 void SelectOption(Form& form) {
-    form.findChild<QAbstractButton*>(QStringLiteral("Option1(1)"))->click();
+    form.findChild<QAbstractButton*>(QString::fromLatin1(tellingOption))->click();
 }
 
 TEST_F(QuillonForm, HasItsNameAndTitle) {
@@ -50,8 +53,8 @@ TEST_F(QuillonForm, TheFirstRunInAnEmptyFolderMakesBackupAndSettingsWithoutAMess
     EXPECT_TRUE(program.folder.FolderExists("Backup"));
     EXPECT_TRUE(program.folder.Exists("quillon.ini"));
     EXPECT_FALSE(program.folder.Exists("Notes.txt"));
-    EXPECT_EQ(Find<ListBox>(*window, "List1")->count(), 0);
-    EXPECT_FALSE(Find<QLabel>(*window, "Label7")->isVisible());
+    EXPECT_EQ(Find<ListBox>(*window, databasesList)->count(), 0);
+    EXPECT_FALSE(Find<QLabel>(*window, biochartHeading)->isVisible());
     EXPECT_EQ(program.messages.Shown(), 0);
 }
 
@@ -122,7 +125,8 @@ TEST_F(QuillonForm, EachStepOfTheStartComesInItsTurn) {
     WriteSettings(10, "0");
     WriteSettings(19, "1");
     EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos);
-    EXPECT_FALSE(Find<QLabel>(*window, "Label7")->isHidden()) << "panels come before the notes";
+    EXPECT_FALSE(Find<QLabel>(*window, biochartHeading)->isHidden())
+        << "panels come before the notes";
     program.folder.Delete("Notes.txt");
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
     WriteSettings(15, "01/01/1970");
@@ -229,7 +233,7 @@ TEST_F(QuillonForm, TheDatabasesPanelIsFilledAfreshAfterAFormThatChangesThem) {
                   .make = MakeTellingForm,
                   .changesDatabases = true});
     TellingForm::whileOpen = {};
-    auto* list = Find<ListBox>(*window, "List1");
+    auto* list = Find<ListBox>(*window, databasesList);
     ASSERT_EQ(list->count(), 2);
     EXPECT_EQ(list->item(1)->text(), QStringLiteral("Second"));
     EXPECT_EQ(list->Index(), -1);
@@ -344,12 +348,12 @@ TEST_F(QuillonForm, ReopenedFormsStartOnTheFirstLotteryAgain) {
     Start();
     InDialog([this] { Choose("PlayLuckyDip"); },
              [this](QDialog& form) {
-                 Find<ListBox>(form, "List1")->SetIndex(2);
+                 Find<ListBox>(form, lotteryList)->SetIndex(2);
                  EXPECT_EQ(program.state.DbaseFile, "dbase3.txt");
              });
     InDialog([this] { Choose("DatabaseStoreDrawsW"); },
              [this](QDialog& form) {
-                 EXPECT_EQ(Find<ListBox>(form, "List1")->Index(), 0);
+                 EXPECT_EQ(Find<ListBox>(form, lotteryList)->Index(), 0);
                  EXPECT_EQ(program.state.DbaseFile, "dbase1.txt");
              });
 }
@@ -383,7 +387,7 @@ TEST_F(QuillonForm, TheWelcomeLeadsToTheFirstSteps) {
     InDialog([this] { Click(*window, "WelcomeDatabaseStoreDrawsW"); },
              [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("StoreMyDrawsW")); });
     Click(*window, "WelcomeFileNotes");
-    EXPECT_TRUE(Find<QLabel>(*window, "Label7")->isVisible());
+    EXPECT_TRUE(Find<QLabel>(*window, biochartHeading)->isVisible());
 }
 
 }  // namespace

@@ -12,12 +12,14 @@
 #include "platform/widgets/Widgets.h"
 #include "shell/form_catalogue.h"
 
+inline constexpr const char* tellingOption = "Option1(1)";
+
 /// A form for the main window to open; tells what happens to it.
 class TellingForm final : public Form {
   public:
     TellingForm(Program& openedFor, QWidget* parent)
         : Form(openedFor, QStringLiteral("TellingForm"), QStringLiteral("Telling"), parent) {
-        auto* option = Named(new QRadioButton(this), QStringLiteral("Option1(1)"));
+        auto* option = Named(new QRadioButton(this), QString::fromLatin1(tellingOption));
         connect(option, &QRadioButton::clicked, this, [] { steps.push_back("option"); });
         QTimer::singleShot(0, this, [] { steps.push_back("messages"); });
     }

@@ -35,13 +35,11 @@ constexpr std::array<const char*, 16> pictureEntries = {
 
 class ToolbarOfWindow : public MainWindow {
   protected:
-    static std::string Name(int index) { return "Image1(" + std::to_string(index) + ")"; }
-
     ToolbarPicture* Picture(int index) {
-        return Find<ToolbarPicture>(*window, Name(index).c_str());
+        return Find<ToolbarPicture>(*window, ToolbarButton(index).c_str());
     }
 
-    QString DownloadEntry() { return Find<Toolbar>(*window, "Label1")->EntryOf(1); }
+    QString DownloadEntry() { return Find<Toolbar>(*window, toolbarBackground)->EntryOf(1); }
 
     std::vector<int> Bordered() {
         std::vector<int> bordered;
@@ -70,7 +68,7 @@ TEST_F(ToolbarOfWindow, HasSixteenPicturesWithTheirToolTips) {
 
 TEST_F(ToolbarOfWindow, PicturesAre390TwipsLargeAndStandOnLabel1) {
     Start();
-    auto* background = Find<QLabel>(*window, "Label1");
+    auto* background = Find<QLabel>(*window, toolbarBackground);
     for (int i = 0; i < 16; ++i) {
         EXPECT_EQ(Picture(i)->size(), QSize(26, 26));
         EXPECT_EQ(Picture(i)->parentWidget(), background);
@@ -89,7 +87,7 @@ TEST_F(ToolbarOfWindow, TheBorderFollowsTheMouse) {
 TEST_F(ToolbarOfWindow, MovingOverTheBackgroundTakesTheBorderAway) {
     Start();
     MoveOver(Picture(4), {5, 5});
-    auto* background = Find<QLabel>(*window, "Label1");
+    auto* background = Find<QLabel>(*window, toolbarBackground);
     MoveOver(background, {background->width() - 3, 3});
     EXPECT_TRUE(Bordered().empty());
 }
@@ -106,7 +104,7 @@ TEST_F(ToolbarOfWindow, MovingOverThePanelsTakesTheBorderAway) {
     Start();
     Choose("FileNotes");
     MoveOver(Picture(4), {5, 5});
-    MoveOver(Find<QLabel>(*window, "Label8")->parentWidget(), {3, 3});
+    MoveOver(Find<QLabel>(*window, checklistHeading)->parentWidget(), {3, 3});
     EXPECT_TRUE(Bordered().empty());
 }
 
@@ -115,7 +113,7 @@ TEST_F(ToolbarOfWindow, LeavingForAPanelInOneJumpTakesTheBorderAway) {
     Choose("FileNotes");
     QTest::mouseMove(Picture(4));
     EXPECT_EQ(Bordered(), std::vector{4});
-    QTest::mouseMove(Find<QWidget>(*window, "Text1"));
+    QTest::mouseMove(Find<QWidget>(*window, notePad));
     EXPECT_TRUE(Bordered().empty());
 }
 
@@ -136,8 +134,8 @@ TEST_F(ToolbarOfWindow, ABorderedPictureLooksDifferent) {
 
 TEST_F(ToolbarOfWindow, PictureZeroShowsThePanels) {
     Start();
-    Click(*window, "Image1(0)");
-    EXPECT_TRUE(Find<QLabel>(*window, "Label7")->isVisible());
+    Click(*window, ToolbarButton(0).c_str());
+    EXPECT_TRUE(Find<QLabel>(*window, biochartHeading)->isVisible());
 }
 
 TEST_F(ToolbarOfWindow, PictureTwelveOpensLinkZeroEvenWhileItsEntryIsHidden) {
@@ -146,27 +144,27 @@ TEST_F(ToolbarOfWindow, PictureTwelveOpensLinkZeroEvenWhileItsEntryIsHidden) {
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_FALSE(Entry("LinksLink(0)")->isVisible());
-    Click(*window, "Image1(12)");
+    Click(*window, ToolbarButton(12).c_str());
     EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(30))});
     EXPECT_FALSE(Picture(12)->Dimmed());
 }
 
 TEST_F(ToolbarOfWindow, PictureFourteenOpensTheHelpPage) {
     Start();
-    Click(*window, "Image1(14)");
+    Click(*window, ToolbarButton(14).c_str());
     EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("help.html")});
 }
 
 TEST_F(ToolbarOfWindow, PictureFifteenQuits) {
     Start();
-    Click(*window, "Image1(15)");
+    Click(*window, ToolbarButton(15).c_str());
     EXPECT_EQ(timesEnded, 1);
 }
 
 TEST_F(ToolbarOfWindow, PictureFourOpensTheFormToStoreEntries) {
     program.folder.Write("dbase1.txt", "First\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
     Start();
-    InDialog([this] { Click(*window, "Image1(4)"); },
+    InDialog([this] { Click(*window, ToolbarButton(4).c_str()); },
              [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("StoreMyDrawsW")); });
 }
 
@@ -179,7 +177,7 @@ TEST_F(ToolbarOfWindow, PicturesOfFormsThatDoNotExistYetDoNothingButTakeTheBorde
     Start();
     for (int index = 0; index < 16; ++index) {
         if (!Picture(index)->Dimmed()) continue;
-        Click(*window, Name(index).c_str());
+        Click(*window, ToolbarButton(index).c_str());
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << index;
         MoveOver(Picture(index), {5, 5});
         EXPECT_EQ(Bordered(), std::vector{index});
@@ -209,7 +207,7 @@ TEST_F(ToolbarOfWindow, APictureTriggersItsEntryAndNoOther) {
     for (int index = 0; index < 16; ++index) {
         if (index == 12) continue;  // the internet has no entry that can be counted on
         triggered.clear();
-        Click(*window, Name(index).c_str());
+        Click(*window, ToolbarButton(index).c_str());
         const char* entry = pictureEntries.at(static_cast<std::size_t>(index));
         EXPECT_EQ(triggered, std::vector<QString>{QString::fromLatin1(entry)}) << index;
     }

@@ -7,10 +7,14 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "shell/Quillon.h"
-#include "tests/support/form_test.h"
+#include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
+
+/// The dialog that saves lines.
+constexpr const char* playerName = "Text2";
+constexpr const char* saveEntriesButton = "Command7";
 
 class WheelJourney : public testing::Test {
   protected:
@@ -37,10 +41,10 @@ class WheelJourney : public testing::Test {
     }
 
     static void SaveAs(QDialog& form, const QString& name) {
-        InDialog([&] { Click(form, "Command7"); },
+        InDialog([&] { Click(form, saveButton); },
                  [&](QDialog& dialog) {
-                     Type(dialog, "Text2", name);
-                     Click(dialog, "Command7");
+                     Type(dialog, playerName, name);
+                     Click(dialog, saveEntriesButton);
                  });
     }
 
@@ -52,11 +56,11 @@ TEST_F(WheelJourney, SavesTheLinesThatTheFiltersHaveLeft) {
     test_.state.Settings(14) = "4";
     InForm("PlayWheel2", [this](QDialog& form) {
         TypeNumbers(form, 8);
-        Click(form, "Command2");
+        Click(form, generateButton);
         // 3 4 5 6 7 8 is one long run.
-        Click(form, "Command15");
+        Click(form, usualFilters.longRuns);
         SaveAs(form, QStringLiteral("Ann"));
-        Click(form, "Command1");
+        Click(form, closeButton);
     });
     EXPECT_EQ(test_.folder.Read("MyLottery.txt"),
               "01-Jun-2005,1,2,3,4,7,8,,,UK Lotto,Ann,dbase100.txt\r\n"
@@ -66,10 +70,10 @@ TEST_F(WheelJourney, SavesTheLinesThatTheFiltersHaveLeft) {
 TEST_F(WheelJourney, SavesTheExtraBalls) {
     std::string expected;
     InForm("PlayWheel3", [&](QDialog& form) {
-        Find<ListBox>(form, "List1")->SetIndex(1);
+        Find<ListBox>(form, lotteryList)->SetIndex(1);
         TypeNumbers(form, 9);
-        Click(form, "Command2");
-        const auto& grid = *Find<Grid>(form, "MSFlexGrid1");
+        Click(form, generateButton);
+        const auto& grid = *Find<Grid>(form, linesGrid);
         const char* const lines[] = {"1,2,3,4,5", "1,2,3,7,8", "4,5,6,7,8"};
         for (int row = 1; row <= 3; ++row) {
             const int extra = grid.Cell(row, 8).toInt();
@@ -78,7 +82,7 @@ TEST_F(WheelJourney, SavesTheExtraBalls) {
                         std::to_string(extra) + ",UK Thunderball,Ann,dbase101.txt\r\n";
         }
         SaveAs(form, QStringLiteral("Ann"));
-        Click(form, "Command1");
+        Click(form, closeButton);
     });
     EXPECT_EQ(test_.folder.Read("MyLottery.txt"), expected);
 }
@@ -89,9 +93,9 @@ TEST_F(WheelJourney, HasNothingToSaveAfterARefusalAtFirst) {
                                .text = QStringLiteral(" There was a problem with the input.  \r\n "
                                                       "Please check it and try again.  \r\n"),
                                .sign = Sign::Information});
-        Click(form, "Command2");
-        Click(form, "Command7");
-        Click(form, "Command1");
+        Click(form, generateButton);
+        Click(form, saveButton);
+        Click(form, closeButton);
     });
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
 }
