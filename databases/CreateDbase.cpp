@@ -117,6 +117,7 @@ void CreateDbase::AskAndClose() {
     const Answer answer = services().messages.Show(this, {.title = tr("Are you sure?"),
                                                           .text = tr("Close and discard data?    "),
                                                           .sign = Sign::Question,
-                                                          .buttons = Buttons::YesNo});
+                                                          .buttons = Buttons::YesNo,
+                                                          .discards = true});
     if (answer == Answer::Yes) Unload();
 }

@@ -20,7 +20,8 @@ void DeleteDbaseW::Act() {
         services().messages.Show(this, {.title = tr("Delete database"),
                                         .text = tr("  Are you sure?    ") % ToQString(state().Crlf),
                                         .sign = Sign::Question,
-                                        .buttons = Buttons::YesNo});
+                                        .buttons = Buttons::YesNo,
+                                        .discards = true});
     if (answer == Answer::No) return;
     state().DbaseFile = state().DbaseFiles(Lotteries().Index());
     folder().Delete(state().DbaseFile);

@@ -74,7 +74,8 @@ bool ShowMyDrawsW::Confirmed(const QString& text) {
     const Answer answer = services().messages.Show(this, {.title = tr("Please confirm..."),
                                                           .text = text,
                                                           .sign = Sign::Exclamation,
-                                                          .buttons = Buttons::OkCancel});
+                                                          .buttons = Buttons::OkCancel,
+                                                          .discards = true});
     return answer != Answer::Cancel;
 }
 
@@ -189,7 +190,8 @@ void ShowMyDrawsW::Command1_Click() {
             services().messages.Show(this, {.title = tr("Close window"),
                                             .text = tr("Close without saving changes?    "),
                                             .sign = Sign::Question,
-                                            .buttons = Buttons::YesNo});
+                                            .buttons = Buttons::YesNo,
+                                            .discards = true});
         if (answer == Answer::No) return;
     }
     Unload();

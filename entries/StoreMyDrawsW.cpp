@@ -158,7 +158,8 @@ void StoreMyDrawsW::Command1_Click() {
                            tr("click Save to save them. If you        ") % crlf %
                            tr("continue, any changes will be lost.    "),
                    .sign = Sign::Exclamation,
-                   .buttons = Buttons::OkCancel});
+                   .buttons = Buttons::OkCancel,
+                   .discards = true});
         if (answer == Answer::Cancel) return;
     }
     Unload();

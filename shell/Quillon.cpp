@@ -175,7 +175,8 @@ void Quillon::DeleteSavedEntries() {
     const Answer answer = messages.Show(this, {.title = tr("Warning!"),
                                                .text = question,
                                                .sign = Sign::Question,
-                                               .buttons = Buttons::YesNo});
+                                               .buttons = Buttons::YesNo,
+                                               .discards = true});
     if (answer == Answer::Yes) program_.folder.Delete(savedEntriesFile);
 }
 

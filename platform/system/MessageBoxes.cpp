@@ -29,22 +29,24 @@ QMessageBox::Icon IconOf(Sign sign) {
     return QMessageBox::Information;
 }
 
-/// The buttons, and what closing the box stands for.
-void SetButtons(QMessageBox& box, Buttons buttons) {
-    switch (buttons) {
+/// The two buttons, what closing the box stands for, and what Enter presses.
+void SetButtons(QMessageBox& box, QMessageBox::StandardButton agree,
+                QMessageBox::StandardButton refuse, bool discards) {
+    box.setStandardButtons(agree | refuse);
+    box.setDefaultButton(discards ? refuse : agree);
+    box.setEscapeButton(refuse);
+}
+
+void SetButtons(QMessageBox& box, const Message& message) {
+    switch (message.buttons) {
         case Buttons::Ok:
-            box.setStandardButtons(QMessageBox::Ok);
-            box.setEscapeButton(QMessageBox::Ok);
+            SetButtons(box, QMessageBox::Ok, QMessageBox::Ok, false);
             break;
         case Buttons::OkCancel:
-            box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
-            box.setDefaultButton(QMessageBox::Ok);
-            box.setEscapeButton(QMessageBox::Cancel);
+            SetButtons(box, QMessageBox::Ok, QMessageBox::Cancel, message.discards);
             break;
         case Buttons::YesNo:
-            box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-            box.setDefaultButton(QMessageBox::Yes);
-            box.setEscapeButton(QMessageBox::No);
+            SetButtons(box, QMessageBox::Yes, QMessageBox::No, message.discards);
             break;
     }
 }
@@ -71,6 +73,6 @@ Answer DesktopMessageBoxes::Show(QWidget* parent, const Message& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(message.text);
     box.setIcon(IconOf(message.sign));
-    SetButtons(box, message.buttons);
+    SetButtons(box, message);
     return AnswerOf(box.exec());
 }

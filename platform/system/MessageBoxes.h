@@ -16,6 +16,7 @@ struct Message {
     QString text;
     Sign sign = Sign::Information;
     Buttons buttons = Buttons::Ok;
+    bool discards = false;  ///< Yes or OK deletes something or throws it away.
     bool operator==(const Message&) const = default;
 };
 
@@ -25,7 +26,8 @@ class MessageBoxes {
     virtual ~MessageBoxes() = default;
 
     /// Shows the message over `parent` and waits for the answer; closing the box is Cancel or No
-    /// where there is such a button, else Ok.
+    /// where there is such a button, else Ok. Enter is Yes or Ok, but Cancel or No where the
+    /// message discards something.
     virtual Answer Show(QWidget* parent, const Message& message) = 0;
 };
 

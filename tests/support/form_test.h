@@ -19,7 +19,9 @@
 #include "platform/system/Services.h"
 
 /// Answers to the messages that a test expects, in their order. A message that nobody prepared and
-/// an answer left over both fail the test.
+/// an answer left over both fail the test, and so does a question of deleting or losing something
+/// that is not marked as one. An expectation that does not say whether the message discards
+/// something takes both.
 class FakeMessages final : public MessageBoxes {
   public:
     ~FakeMessages() override;

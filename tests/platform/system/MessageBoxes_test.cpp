@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/MessageBoxes.h"
 
+#include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
 #include <QLabel>
@@ -105,10 +106,55 @@ TEST(AMessageBox, TakesEnterAsItsFirstButton) {
     EXPECT_EQ(entered(Buttons::YesNo), Answer::Yes);
 }
 
+TEST(AMessageBox, TakesEnterAsNoOrCancelWhereItDiscardsSomething) {
+    const auto entered = [](Buttons buttons) {
+        Message message = Asked(buttons);
+        message.discards = true;
+        return AnswerTo(message, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    };
+    EXPECT_EQ(entered(Buttons::Ok), Answer::Ok);
+    EXPECT_EQ(entered(Buttons::OkCancel), Answer::Cancel);
+    EXPECT_EQ(entered(Buttons::YesNo), Answer::No);
+}
+
 TEST(AMessageBox, LeavesTheHourglassBehindItself) {
     const Hourglass hourglass;
     AnswerTo(Asked(Buttons::Ok),
              [](QMessageBox& box) { EXPECT_EQ(box.cursor().shape(), Qt::ArrowCursor); });
+}
+
+Message Deletion() {
+    return {.title = QStringLiteral("Delete database"),
+            .text = QStringLiteral("  Are you sure?    "),
+            .sign = Sign::Question,
+            .buttons = Buttons::YesNo};
+}
+
+TEST(TheMessagesOfATest, InsistThatAQuestionOfDeletingIsMarkedAsOne) {
+    FakeMessages messages;
+    Message asked = Deletion();
+    messages.Expect(asked, Answer::No);
+    EXPECT_NONFATAL_FAILURE(messages.Show(nullptr, asked), "is to be marked so");
+    asked.discards = true;
+    messages.Expect(asked, Answer::No);
+    EXPECT_EQ(messages.Show(nullptr, asked), Answer::No);
+}
+
+TEST(TheMessagesOfATest, TakeAMarkThatTheyDoNotExpectButMissOneThatTheyDo) {
+    FakeMessages messages;
+    Message asked = Deletion();
+    messages.Expect(asked, Answer::No);
+    asked.discards = true;
+    messages.Show(nullptr, asked);
+    asked.title.clear();
+    messages.Expect(asked, Answer::No);
+    asked.discards = false;
+    testing::TestPartResultArray failures;
+    {
+        const testing::ScopedFakeTestPartResultReporter reporter(&failures);
+        messages.Show(nullptr, asked);
+    }
+    EXPECT_EQ(failures.size(), 2) << "what was expected, and what came";
 }
 
 }  // namespace
