@@ -2,7 +2,6 @@
 #include "entries/ShowMyDrawsW.h"
 
 #include <QItemSelectionModel>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -34,16 +33,15 @@ void ShowMyDrawsW::Load() {
                    QStringLiteral("Label5"), QStringLiteral("Label6"), QStringLiteral("Label14"),
                    QStringLiteral("DeleteLabel"), QStringLiteral("SortLabel")},
          .status = {}});
-    dtPicker1_->SetValue(services().today());
+    date_->SetValue(services().today());
     LoadMyDraws(entryTable_, folder());
     DisplayMyDraws();
 }
 
 void ShowMyDrawsW::DisplayMyDraws() {
-    const EntryTable& table = entryTable_;
     for (int row = 1; row <= lastRow; ++row) {
         for (int column = 0; column <= entry_column::last; ++column) {
-            grid_->SetCell(row, column, ToQString(table(row, column)));
+            grid_->SetCell(row, column, ToQString(entryTable_(row, column)));
         }
         grid_->SetCellColour(row, entry_column::extraBall, ExtraBallColour());
     }
@@ -53,21 +51,21 @@ void ShowMyDrawsW::DisplayMyDraws() {
 void ShowMyDrawsW::GoToFirstCell() {
     grid_->SetCurrentCell(1, 1);
     grid_->ScrollToTop();
-    MSFlexGrid1_Click();
+    EditCurrentCell();
 }
 
 void ShowMyDrawsW::ShowCurrentCell() {
-    text1_->setText(grid_->currentIndex().data().toString());
-    text1_->selectAll();
+    item_->setText(grid_->currentIndex().data().toString());
+    item_->selectAll();
 }
 
-void ShowMyDrawsW::MSFlexGrid1_Click() {
+void ShowMyDrawsW::EditCurrentCell() {
     ShowCurrentCell();
-    text1_->setFocus();
+    item_->setFocus();
 }
 
 void ShowMyDrawsW::ToggleButtons() {
-    for (QPushButton* command : Commands()) command->setEnabled(!command->isEnabled());
+    for (QPushButton* command : commands_) command->setEnabled(!command->isEnabled());
 }
 
 bool ShowMyDrawsW::Confirmed(const QString& text) {
@@ -79,7 +77,7 @@ bool ShowMyDrawsW::Confirmed(const QString& text) {
     return answer != Answer::Cancel;
 }
 
-void ShowMyDrawsW::Command10_Click() {
+void ShowMyDrawsW::ChangeItem() {
     const int row = grid_->CurrentRow();
     const int column = grid_->currentIndex().column();
     const auto refuse = [this](const QString& text) {
@@ -88,7 +86,7 @@ void ShowMyDrawsW::Command10_Click() {
     };
     if (column == entry_column::lottery) return refuse(tr("Can't change lotteries!  "));
     if (grid_->Cell(row, column).isEmpty()) return;
-    const std::string text = FromQString(text1_->text());
+    const std::string text = FromQString(item_->text());
     const double number = LeadingNumber(text);
     const bool isNumber = column >= 1 && column <= entry_column::extraBall;
     if (isNumber && (number < 1 || number > highestNumber)) {
@@ -99,16 +97,16 @@ void ShowMyDrawsW::Command10_Click() {
     entriesChanged_ = -1;
 }
 
-void ShowMyDrawsW::Command8_Click() {
+void ShowMyDrawsW::ChangeDateOfRow() {
     const int row = grid_->CurrentRow();
-    ChangeDate(entryTable_, row, dtPicker1_->Value(), services().region, services().today());
+    ChangeDate(entryTable_, row, date_->Value(), services().region, services().today());
     grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
     entriesChanged_ = -1;
 }
 
-void ShowMyDrawsW::Command12_Click() {
+void ShowMyDrawsW::ChangeAllDates() {
     for (int row = 1;
-         ChangeDate(entryTable_, row, dtPicker1_->Value(), services().region, services().today());
+         ChangeDate(entryTable_, row, date_->Value(), services().region, services().today());
          ++row) {
         grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
     }
@@ -125,19 +123,19 @@ void ShowMyDrawsW::SortEntries(Sort sort) {
     entriesChanged_ = -1;
 }
 
-void ShowMyDrawsW::Command11_Click() {
+void ShowMyDrawsW::SortRowsByDate() {
     SortEntries([this] { SortByDate(entryTable_, services().region, services().today()); });
 }
 
-void ShowMyDrawsW::Command3_Click() {
+void ShowMyDrawsW::SortRowsByName() {
     SortEntries([this] { SortByName(entryTable_); });
 }
 
-void ShowMyDrawsW::Command6_Click() {
+void ShowMyDrawsW::SortRowsByLottery() {
     SortEntries([this] { SortByLottery(entryTable_); });
 }
 
-void ShowMyDrawsW::Command7_Click() {
+void ShowMyDrawsW::DeleteThisRow() {
     const int row = grid_->CurrentRow();
     // The current cell stays where it is, as the edit box shows it.
     grid_->selectionModel()->select(
@@ -148,7 +146,7 @@ void ShowMyDrawsW::Command7_Click() {
     entriesChanged_ = -1;
 }
 
-void ShowMyDrawsW::Command4_Click() {
+void ShowMyDrawsW::DeleteOldRows() {
     const QString text = tr("Delete all lottery entries    ") % ToQString(state().Crlf) %
                          tr("that are older than today?    ");
     if (!Confirmed(text)) return;
@@ -159,7 +157,7 @@ void ShowMyDrawsW::Command4_Click() {
     entriesChanged_ = -1;
 }
 
-void ShowMyDrawsW::Command9_Click() {
+void ShowMyDrawsW::DeleteAllRows() {
     const QString text = tr("Are you sure you want to delete    ") % ToQString(state().Crlf) %
                          tr("all of the lottery entries?    ");
     if (!Confirmed(text)) return;
@@ -171,7 +169,7 @@ void ShowMyDrawsW::Command9_Click() {
     Unload();
 }
 
-void ShowMyDrawsW::Command13_Click() {
+void ShowMyDrawsW::Save() {
     const std::vector<SavedEntry> entries = EntriesInGrid(*grid_);
     if (!entries.empty()) {
         WriteEntries(folder(), entries);
@@ -179,12 +177,12 @@ void ShowMyDrawsW::Command13_Click() {
         folder().Delete(savedEntriesFile);
     }
     grid_->SetCurrentCell(1, 1);
-    MSFlexGrid1_Click();
+    EditCurrentCell();
     // Kept on purpose: an empty table is not counted as saved.
     if (!entries.empty()) entriesChanged_ = 0;
 }
 
-void ShowMyDrawsW::Command1_Click() {
+void ShowMyDrawsW::Close() {
     if (entriesChanged_ != 0) {
         const Answer answer =
             services().messages.Show(this, {.title = tr("Close window"),

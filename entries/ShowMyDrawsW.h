@@ -9,7 +9,6 @@
 
 class DatePicker;
 class Grid;
-class QGridLayout;
 class QLabel;
 class QLayout;
 class QLineEdit;
@@ -18,6 +17,10 @@ class QPushButton;
 
 /// Shows the saved entries, lets them be edited, sorted and deleted, and checks them against the
 /// draws of their dates.
+///
+/// Edits, sorts and deletions wait in the form until they are saved; deleting all entries does not.
+/// The check looks at what the grid shows, saved or not. While a sort or the check runs, the
+/// commands rest.
 class ShowMyDrawsW final : public Form {
     Q_OBJECT
   public:
@@ -26,80 +29,61 @@ class ShowMyDrawsW final : public Form {
     void Load() override;
 
   private:
-    void MakeGrid();
-    void MakeLabels();
-    void MakeInputs();
-    void MakeCommands();
-    QLayout* BuildCommands();
-    QLayout* BuildCheck();
-    QLayout* BuildReport();
-    QLayout* BuildColourKey();
-    QLayout* BuildActions();
-    void Connect();
+    using Action = void (ShowMyDrawsW::*)();
 
-    /// The commands that are available while nothing runs, in the order of the form.
-    std::vector<QPushButton*> Commands() const;
+    QWidget* MakeGrid(const QLabel& title);
+    QPushButton* MakeCommand(const QString& name, const QString& caption, const QString& toolTip,
+                             Action action);
+    QPushButton* MakeIconCommand(const QString& name, const QString& icon, const QString& toolTip,
+                                 Action action);
+    QPushButton* AddCommand(QPushButton* button, Action action);
+    QLayout* MakeCommands();
+    std::vector<QWidget*> MakeItemRow();
+    std::vector<QWidget*> MakeDateRow();
+    std::vector<QWidget*> MakeDeleteRow();
+    std::vector<QWidget*> MakeSortRow();
+    QLayout* MakeCheck();
+    QWidget* MakeColourKey();
+    QLayout* MakeReport();
+    QLayout* MakeActions();
+
     void ToggleButtons();
-
     void DisplayMyDraws();
     void GoToFirstCell();
     void ShowCurrentCell();
-    bool Confirmed(const QString& text);
+    void EditCurrentCell();
+
+    void ChangeItem();
+    void ChangeDateOfRow();
+    void ChangeAllDates();
 
     template <typename Sort>
     void SortEntries(Sort sort);
+    void SortRowsByDate();
+    void SortRowsByName();
+    void SortRowsByLottery();
 
-    void ShowColourKey();
+    bool Confirmed(const QString& text);
+    void DeleteThisRow();
+    void DeleteOldRows();
+    void DeleteAllRows();
+
+    void Check();
     void CheckEntries(EntryCheck& check);
     void Paint(int row, const EntryMatch& match);
     void LetMessagesRun(int row);
 
-    void MSFlexGrid1_Click();
-    void Command1_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Command4_Click();
-    void Command6_Click();
-    void Command7_Click();
-    void Command8_Click();
-    void Command9_Click();
-    void Command10_Click();
-    void Command11_Click();
-    void Command12_Click();
-    void Command13_Click();
+    void Save();
+    void Close();
 
     EntryTable entryTable_{"saved entries"};
     int entriesChanged_ = 0;  // 0 or -1
     double nextMessages_ = 0;
 
     Grid* grid_;
-    QLineEdit* text1_;
-    QPlainTextEdit* text2_;
-    DatePicker* dtPicker1_;
-    QLabel* label1_;
-    QLabel* label2_;
-    QLabel* label3_;
-    QLabel* label4_;
-    QLabel* label5_;
-    QLabel* label6_;
-    QLabel* label7_;
-    QLabel* label8_;
-    QLabel* label9_;
-    QLabel* label10_;
-    QLabel* label14_;
-    QLabel* deleteLabel_;
-    QLabel* sortLabel_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* command3_;
-    QPushButton* command4_;
-    QPushButton* command5_;
-    QPushButton* command6_;
-    QPushButton* command7_;
-    QPushButton* command8_;
-    QPushButton* command9_;
-    QPushButton* command10_;
-    QPushButton* command11_;
-    QPushButton* command12_;
-    QPushButton* command13_;
+    QLineEdit* item_;
+    DatePicker* date_;
+    QPlainTextEdit* report_;
+    QWidget* colourKey_;
+    std::vector<QPushButton*> commands_;
 };

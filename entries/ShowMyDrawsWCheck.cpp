@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The check of ShowMyDrawsW: colours, colour key and report.
 #include <QCoreApplication>
-#include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -30,17 +29,13 @@ QColor ColourOf(Mark mark) {
 
 }  // namespace
 
-void ShowMyDrawsW::ShowColourKey() {
-    for (QLabel* label : {label4_, label3_, label6_, label7_}) label->show();
-}
-
-void ShowMyDrawsW::Command2_Click() {
+void ShowMyDrawsW::Check() {
     const Hourglass hourglass;
     ToggleButtons();
-    ShowColourKey();
+    colourKey_->show();
     EntryCheck check(state(), folder(), services().region, services().today());
     CheckEntries(check);
-    text2_->setPlainText(ToQString(CheckReport(check.Counts(), state().Picks)));
+    report_->setPlainText(ToQString(CheckReport(check.Counts(), state().Picks)));
     GoToFirstCell();
     ToggleButtons();
 }

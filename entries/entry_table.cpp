@@ -52,8 +52,7 @@ void SortEntries(EntryTable& table, KeyOf keyOf, Order order) {
 }
 
 void SortByText(EntryTable& table, int column) {
-    const EntryTable& view = table;
-    const auto name = [&view, column](int row) { return UpperCase(view(row, column)); };
+    const auto name = [&table, column](int row) { return UpperCase(table(row, column)); };
     SortEntries(table, name, std::less<>());
 }
 
@@ -73,9 +72,8 @@ void LoadMyDraws(EntryTable& table, const ProgramFolder& folder) {
 }
 
 void SortByDate(EntryTable& table, const Region& region, Date today) {
-    const EntryTable& view = table;
     const auto date = [&](int row) {
-        return DateFromText(view(row, 0), region, today, EntryPlace(row));
+        return DateFromText(table(row, 0), region, today, EntryPlace(row));
     };
     SortEntries(table, date, std::greater<>());
 }
@@ -85,29 +83,26 @@ void SortByName(EntryTable& table) { SortByText(table, entry_column::player); }
 void SortByLottery(EntryTable& table) { SortByText(table, entry_column::lottery); }
 
 void DeleteRow(EntryTable& table, std::int16_t row) {
-    const EntryTable& view = table;
     int reached = row;
     do {
         CopyRow(table, reached + 1, reached);
         ++reached;
-    } while (!view(reached, 0).empty());
+    } while (!table(reached, 0).empty());
 }
 
 void DeleteOutOfDate(EntryTable& table, const Region& region, Date today) {
-    const EntryTable& view = table;
-    const int count = EntryCount(view);
+    const int count = EntryCount(table);
     const Date oldest = DaysAfter(today, -1);
     int kept = 0;
     for (int row = 1; row <= count; ++row) {
-        if (DateFromText(view(row, 0), region, today, EntryPlace(row)) < oldest) continue;
+        if (DateFromText(table(row, 0), region, today, EntryPlace(row)) < oldest) continue;
         if (++kept < row) CopyRow(table, row, kept);
     }
     for (int row = kept + 1; row <= count; ++row) CopyRow(table, count + 1, row);
 }
 
 bool ChangeDate(EntryTable& table, int row, Date date, const Region& region, Date today) {
-    const EntryTable& view = table;
-    if (!ReadDate(view(row, 0), region, today)) return false;
+    if (!ReadDate(table(row, 0), region, today)) return false;
     table(row, 0) = MediumDate(date);
     return true;
 }

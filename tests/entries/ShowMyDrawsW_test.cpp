@@ -19,6 +19,28 @@
 
 namespace {
 
+constexpr auto grid = "MSFlexGrid1";
+constexpr auto itemBox = "Text1";
+constexpr auto reportBox = "Text2";
+constexpr auto datePicker = "DTPicker1";
+constexpr auto enterButton = "Command10";
+constexpr auto dateThisRow = "Command8";
+constexpr auto dateAllRows = "Command12";
+constexpr auto deleteThisRow = "Command7";
+constexpr auto deleteOldRows = "Command4";
+constexpr auto deleteAllRows = "Command9";
+constexpr auto sortByDate = "Command11";
+constexpr auto sortByName = "Command3";
+constexpr auto sortByLottery = "Command6";
+constexpr auto checkButton = "Command2";
+constexpr auto saveButton = "Command13";
+constexpr auto printButton = "Command5";
+constexpr auto closeButton = "Command1";
+constexpr auto mainKeyTitle = "Label4";
+constexpr auto mainKey = "Label3";
+constexpr auto extraKeyTitle = "Label6";
+constexpr auto extraKey = "Label7";
+
 const QColor white(255, 255, 255);
 const QColor yellow(255, 255, 0);
 const QColor lightRed(255, 192, 192);
@@ -74,12 +96,12 @@ class ShowingEntries : public testing::Test {
         QApplication::processEvents();
     }
 
-    Grid& Entries() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
-    QLineEdit& Item() { return *Find<QLineEdit>(*form_, "Text1"); }
+    Grid& Entries() { return *Find<Grid>(*form_, grid); }
+    QLineEdit& Item() { return *Find<QLineEdit>(*form_, itemBox); }
     std::string File() { return test_.folder.Read("MyLottery.txt"); }
     void Run(const char* command) { Click(*form_, command); }
 
-    QString Report() { return Find<QPlainTextEdit>(*form_, "Text2")->toPlainText(); }
+    QString Report() { return Find<QPlainTextEdit>(*form_, reportBox)->toPlainText(); }
 
     std::string Row(int row) {
         QStringList fields;
@@ -106,19 +128,19 @@ class ShowingEntries : public testing::Test {
     void Enter(int row, int column, const char* text) {
         ClickCell(row, column);
         Item().setText(QString::fromLatin1(text));
-        Run("Command10");
+        Run(enterButton);
     }
 
     /// A closing that asks nothing: there are no changes.
     void ExpectNoChanges() {
-        Run("Command1");
+        Run(closeButton);
         EXPECT_FALSE(form_->isVisible());
     }
 
     /// A closing that asks whether changes are to be lost.
     void ExpectChanges() {
         test_.messages.Expect(closing, Answer::Yes);
-        Run("Command1");
+        Run(closeButton);
         EXPECT_FALSE(form_->isVisible());
     }
 
@@ -144,8 +166,8 @@ TEST_F(ShowingEntries, BearsItsWords) {
         {"Label2", "Item:"},
         {"Label1", "Date:"},
         {"Label14", "Check report:"},
-        {"Label4", "Match main draw number:"},
-        {"Label6", "Match Bonus/Powerball:"},
+        {mainKeyTitle, "Match main draw number:"},
+        {extraKeyTitle, "Match Bonus/Powerball:"},
         {"Label10",
          "To play the same lottery entry in future draw, select the row and update the draw date "
          "below. Numbers and names can be changed too. Click any item and use the edit box below."},
@@ -168,19 +190,19 @@ TEST_F(ShowingEntries, BearsItsWords) {
 TEST_F(ShowingEntries, BearsTheCaptionsAndToolTipsOfItsCommands) {
     Open();
     const std::vector<std::array<const char*, 3>> commands = {
-        {"Command10", "Enter", " Change cell value "},
-        {"Command8", "This row", " Change date of current row "},
-        {"Command12", "All rows", " Change date of all rows "},
-        {"Command7", "This row", " Delete the current lottery entry "},
-        {"Command9", "All rows", " Delete all lottery entries "},
-        {"Command4", "Out of date", " Delete lottery entries older than today "},
-        {"Command11", "By date", " Sort lottery entries by date "},
-        {"Command3", "By name", " Sort lottery entries by player name "},
-        {"Command6", "By lottery", " Sort lottery entries by lottery name "},
-        {"Command2", "Check", " See if you have won! "},
-        {"Command13", "", " Save the lottery entries "},
-        {"Command5", "", " Print out lottery entries "},
-        {"Command1", "", " Close "}};
+        {enterButton, "Enter", " Change cell value "},
+        {dateThisRow, "This row", " Change date of current row "},
+        {dateAllRows, "All rows", " Change date of all rows "},
+        {deleteThisRow, "This row", " Delete the current lottery entry "},
+        {deleteAllRows, "All rows", " Delete all lottery entries "},
+        {deleteOldRows, "Out of date", " Delete lottery entries older than today "},
+        {sortByDate, "By date", " Sort lottery entries by date "},
+        {sortByName, "By name", " Sort lottery entries by player name "},
+        {sortByLottery, "By lottery", " Sort lottery entries by lottery name "},
+        {checkButton, "Check", " See if you have won! "},
+        {saveButton, "", " Save the lottery entries "},
+        {printButton, "", " Print out lottery entries "},
+        {closeButton, "", " Close "}};
     for (const auto& [name, caption, toolTip] : commands) {
         const auto* button = Find<QPushButton>(*form_, name);
         EXPECT_EQ(button->text(), QString::fromLatin1(caption)) << name;
@@ -199,7 +221,7 @@ TEST_F(ShowingEntries, ShowsTheFileAndStandsInItsFirstNumber) {
     EXPECT_EQ(Item().text(), QStringLiteral("3"));
     EXPECT_EQ(Item().selectedText(), QStringLiteral("3"));
     EXPECT_EQ(form_->focusWidget(), &Item());
-    const auto* date = Find<QDateEdit>(*form_, "DTPicker1");
+    const auto* date = Find<QDateEdit>(*form_, datePicker);
     EXPECT_EQ(date->displayFormat(), QStringLiteral("dd MMM yy"));
     EXPECT_EQ(date->date(), QDate(2005, 6, 1));
 }
@@ -236,7 +258,7 @@ TEST_F(ShowingEntries, OfSixHundredTheFirst499AreShownAndSaved) {
     Open(ManyEntries(600));
     EXPECT_FALSE(Entries().Cell(499, 0).isEmpty());
     EXPECT_TRUE(Entries().Cell(500, 0).isEmpty());
-    Run("Command13");
+    Run(saveButton);
     EXPECT_EQ(File(), ManyEntries(499));
 }
 
@@ -277,7 +299,7 @@ TEST_F(ShowingEntries, EnterInTheBoxEditsTheCell) {
 TEST_F(ShowingEntries, EditsOutliveASort) {
     Open();
     Enter(1, 10, "Zoe");
-    Run("Command3");
+    Run(sortByName);
     EXPECT_EQ(Players(), "Ann Bea Zoe ");
 }
 
@@ -337,8 +359,8 @@ TEST_F(ShowingEntries, TakesAnyTextForADateANameAndAFile) {
 TEST_F(ShowingEntries, ChangesTheDateOfTheCurrentRow) {
     Open();
     ClickCell(2, 4);
-    Find<DatePicker>(*form_, "DTPicker1")->setDate(QDate(2005, 6, 11));
-    Run("Command8");
+    Find<DatePicker>(*form_, datePicker)->setDate(QDate(2005, 6, 11));
+    Run(dateThisRow);
     EXPECT_EQ(Entries().Cell(1, 0), QStringLiteral("28-May-2005"));
     EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("11-Jun-2005"));
     ExpectChanges();
@@ -347,34 +369,34 @@ TEST_F(ShowingEntries, ChangesTheDateOfTheCurrentRow) {
 TEST_F(ShowingEntries, ChangesNoTextThatIsNoDate) {
     Open();
     Enter(2, 0, "someday");
-    Run("Command8");
+    Run(dateThisRow);
     EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("someday"));
     ClickCell(5, 0);
-    Run("Command8");
+    Run(dateThisRow);
     EXPECT_EQ(Row(5), ",,,,,,,,,,,");
 }
 
 TEST_F(ShowingEntries, ChangesTheDatesOfAllRowsAsFarAsDatesStandThere) {
     Open();
     Enter(3, 0, "someday");
-    Run("Command12");
+    Run(dateAllRows);
     EXPECT_EQ(Entries().Cell(1, 0), QStringLiteral("01-Jun-2005"));
     EXPECT_EQ(Entries().Cell(2, 0), QStringLiteral("01-Jun-2005"));
     EXPECT_EQ(Entries().Cell(3, 0), QStringLiteral("someday"));
-    Run("Command13");
+    Run(saveButton);
     EXPECT_EQ(File().substr(0, 12), "01-Jun-2005,");
 }
 
 TEST_F(ShowingEntries, NewDatesForAllRowsAreAChange) {
     Open();
-    Run("Command12");
+    Run(dateAllRows);
     ExpectChanges();
 }
 
 TEST_F(ShowingEntries, TheCommandsRestUnderTheHourglassWhileASortRuns) {
     Open();
-    for (const char* command : {"Command11", "Command3", "Command6"}) {
-        const HourglassWatch watch(*Find<QPushButton>(*form_, "Command2"), QEvent::EnabledChange);
+    for (const char* command : {sortByDate, sortByName, sortByLottery}) {
+        const HourglassWatch watch(*Find<QPushButton>(*form_, checkButton), QEvent::EnabledChange);
         Run(command);
         EXPECT_EQ(watch.Events(), 2) << command;
         EXPECT_EQ(watch.UnderHourglass(), 2) << command;
@@ -384,20 +406,20 @@ TEST_F(ShowingEntries, TheCommandsRestUnderTheHourglassWhileASortRuns) {
 
 TEST_F(ShowingEntries, SortsByDateNameAndLottery) {
     Open();
-    Run("Command11");
+    Run(sortByDate);
     EXPECT_EQ(Players(), "Ann Tom Bea ");
-    Run("Command3");
+    Run(sortByName);
     EXPECT_EQ(Players(), "Ann Bea Tom ");
-    Run("Command6");
+    Run(sortByLottery);
     EXPECT_EQ(Players(), "Tom Ann Bea ");
-    EXPECT_TRUE(Find<QPushButton>(*form_, "Command2")->isEnabled());
+    EXPECT_TRUE(Find<QPushButton>(*form_, checkButton)->isEnabled());
     ExpectChanges();
 }
 
 TEST_F(ShowingEntries, AnUnreadableDateEndsTheRunInTheSortByDate) {
     Open();
     Enter(3, 0, "someday");
-    Run("Command11");
+    Run(sortByDate);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("MyLottery.txt, row 3 as shown"), std::string::npos) << *failure;
@@ -408,11 +430,11 @@ TEST_F(ShowingEntries, DeletesTheCurrentRowAfterMarkingIt) {
     Open();
     ClickCell(2, 4);
     test_.messages.Expect(deleteThis, Answer::Cancel);
-    Run("Command7");
+    Run(deleteThisRow);
     EXPECT_EQ(Players(), "Tom Ann Bea ");
     EXPECT_TRUE(Entries().selectionModel()->isRowSelected(1));
     test_.messages.Expect(deleteThis);
-    Run("Command7");
+    Run(deleteThisRow);
     EXPECT_EQ(Players(), "Tom Bea ");
     EXPECT_EQ(Row(3), ",,,,,,,,,,,");
     EXPECT_EQ(Entries().CurrentRow(), 1);
@@ -424,7 +446,7 @@ TEST_F(ShowingEntries, DeletesTheCurrentRowAfterMarkingIt) {
 TEST_F(ShowingEntries, ACancelledDeletionIsNoChange) {
     Open();
     test_.messages.Expect(deleteThis, Answer::Cancel);
-    Run("Command7");
+    Run(deleteThisRow);
     ExpectNoChanges();
 }
 
@@ -432,11 +454,11 @@ TEST_F(ShowingEntries, ACancelledDeletionLeavesTheCurrentCellInTheEditBox) {
     Open();
     ClickCell(2, 4);
     test_.messages.Expect(deleteThis, Answer::Cancel);
-    Run("Command7");
+    Run(deleteThisRow);
     EXPECT_EQ(Entries().CurrentRow(), 2);
     EXPECT_EQ(Entries().currentIndex().data().toString(), Item().text());
     Item().setText(QStringLiteral("33"));
-    Run("Command10");
+    Run(enterButton);
     EXPECT_EQ(Row(2), "01-Jun-2005,4,9,15,33,30,,,6,UK Thunderball,Ann,dbase101.txt");
 }
 
@@ -447,10 +469,10 @@ TEST_F(ShowingEntries, DeletesEntriesOfBeforeYesterday) {
         "28-May-2005,1,2,3,4,5,6,,,UK Lotto,Older,dbase100.txt\r\n"
         "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,Today,dbase100.txt\r\n");
     test_.messages.Expect(deleteOld, Answer::Cancel);
-    Run("Command4");
+    Run(deleteOldRows);
     EXPECT_EQ(Players(), "Old Yesterday Older Today ");
     test_.messages.Expect(deleteOld);
-    Run("Command4");
+    Run(deleteOldRows);
     EXPECT_EQ(Players(), "Yesterday Today ");
     ExpectChanges();
 }
@@ -459,11 +481,11 @@ TEST_F(ShowingEntries, DeletesAllAtOnceAndClosesWithoutAQuestion) {
     Open();
     Enter(1, 1, "33");
     test_.messages.Expect(deleteAll, Answer::Cancel);
-    Run("Command9");
+    Run(deleteAllRows);
     EXPECT_EQ(File(), threeEntries);
     test_.messages.Expect(deleteAll);
     test_.messages.Expect(allDeleted);
-    Run("Command9");
+    Run(deleteAllRows);
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
     EXPECT_EQ(Entries().Cell(1, 0), QString());
     EXPECT_FALSE(form_->isVisible());
@@ -474,14 +496,14 @@ TEST_F(ShowingEntries, DeletingAllIsContentWithAFileThatIsGone) {
     test_.folder.Delete("MyLottery.txt");
     test_.messages.Expect(deleteAll);
     test_.messages.Expect(allDeleted);
-    Run("Command9");
+    Run(deleteAllRows);
     EXPECT_FALSE(form_->isVisible());
 }
 
 TEST_F(ShowingEntries, SavesCellsAsTheyStand) {
     Open();
     Enter(3, 1, "33");
-    Run("Command13");
+    Run(saveButton);
     EXPECT_EQ(File(),
               "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt\r\n"
               "01-Jun-2005,4,9,15,27,30,,,6,UK Thunderball,Ann,dbase101.txt\r\n"
@@ -494,33 +516,33 @@ TEST_F(ShowingEntries, SavesCellsAsTheyStand) {
 TEST_F(ShowingEntries, WhatIsSavedIsShownAgain) {
     Open();
     Enter(1, 10, "J\xF6rg");
-    Run("Command3");
-    Run("Command13");
+    Run(sortByName);
+    Run(saveButton);
     const std::string saved = File();
     Open(saved);
     EXPECT_EQ(Entries().Cell(3, 10), QStringLiteral(u"J\u00F6rg"));
-    Run("Command13");
+    Run(saveButton);
     EXPECT_EQ(File(), saved);
 }
 
 TEST_F(ShowingEntries, SavingAnEmptyTableDeletesTheFileAndStillAsks) {
     Open("28 May 05,1,2,3,4,5,6,,,UK Lotto,Ann,dbase100.txt\r\n");
     test_.messages.Expect(deleteThis);
-    Run("Command7");
-    Run("Command13");
+    Run(deleteThisRow);
+    Run(saveButton);
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
-    Run("Command13");
+    Run(saveButton);
     ExpectChanges();
 }
 
 TEST_F(ShowingEntries, AnEmptiedDateEndsTheTable) {
     Open();
     Enter(2, 0, " ");
-    Run("Command13");
+    Run(saveButton);
     EXPECT_EQ(File(), "28-May-2005,3,17,22,9,41,40,,,UK Lotto,Tom,dbase100.txt\r\n");
     EXPECT_EQ(Entries().Cell(3, 10), QStringLiteral("Bea"));
     Enter(1, 0, "");
-    Run("Command13");
+    Run(saveButton);
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
     ExpectChanges();
 }
@@ -529,7 +551,7 @@ TEST_F(ShowingEntries, ClosingAsksWhileChangesAreNotSaved) {
     Open();
     Enter(1, 1, "33");
     test_.messages.Expect(closing, Answer::No);
-    Run("Command1");
+    Run(closeButton);
     EXPECT_TRUE(form_->isVisible());
     test_.messages.Expect(closing, Answer::No);
     QTest::keyClick(form_.get(), Qt::Key_Escape);
@@ -545,20 +567,20 @@ TEST_F(ShowingEntries, ClosingAsksNothingWithoutChanges) {
 
 TEST_F(ShowingEntries, TheColourKeyIsHiddenUntilACheck) {
     Open();
-    for (const char* label : {"Label4", "Label3", "Label6", "Label7"}) {
+    for (const char* label : {mainKeyTitle, mainKey, extraKeyTitle, extraKey}) {
         EXPECT_FALSE(Find<QLabel>(*form_, label)->isVisible()) << label;
     }
-    Run("Command2");
-    for (const char* label : {"Label4", "Label3", "Label6", "Label7"}) {
+    Run(checkButton);
+    for (const char* label : {mainKeyTitle, mainKey, extraKeyTitle, extraKey}) {
         EXPECT_TRUE(Find<QLabel>(*form_, label)->isVisible()) << label;
     }
-    EXPECT_EQ(Find<QLabel>(*form_, "Label3")->palette().color(QPalette::Window), yellow);
-    EXPECT_EQ(Find<QLabel>(*form_, "Label7")->palette().color(QPalette::Window), lightRed);
+    EXPECT_EQ(Find<QLabel>(*form_, mainKey)->palette().color(QPalette::Window), yellow);
+    EXPECT_EQ(Find<QLabel>(*form_, extraKey)->palette().color(QPalette::Window), lightRed);
 }
 
 TEST_F(ShowingEntries, TheCheckPaintsWhatMatches) {
     Open();
-    Run("Command2");
+    Run(checkButton);
     const std::vector<QColor> lotto = {yellow, yellow, yellow, lightRed, yellow, white};
     for (int column = 1; column <= 6; ++column) {
         EXPECT_EQ(Entries().CellBackground(1, column), lotto[static_cast<std::size_t>(column - 1)])
@@ -576,7 +598,7 @@ TEST_F(ShowingEntries, TheCheckPaintsWhatMatches) {
 
 TEST_F(ShowingEntries, TheReportCountsByMatchClass) {
     Open();
-    Run("Command2");
+    Run(checkButton);
     EXPECT_EQ(Report(), QStringLiteral(" 7-match = 0 times\n 6-match = 0 times\n"
                                        " 5-match = 0 times\n 4-match = 0 times\n"
                                        " 3-match = 0 times\n 2-match = 0 times\n"
@@ -594,7 +616,7 @@ TEST_F(ShowingEntries, TheReportCountsByMatchClass) {
 
 TEST_F(ShowingEntries, WithoutAnyResultTheReportIsAllZeros) {
     Open("02 Jun 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
-    Run("Command2");
+    Run(checkButton);
     EXPECT_TRUE(Report().startsWith(QStringLiteral(" 7-match = 0 times\n")));
     EXPECT_FALSE(Report().contains(QStringLiteral("= 1 times")));
 }
@@ -602,11 +624,11 @@ TEST_F(ShowingEntries, WithoutAnyResultTheReportIsAllZeros) {
 TEST_F(ShowingEntries, TheCheckSeesWhatIsNotSavedAndChangesNothing) {
     Open("28 May 05,1,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
     Enter(1, 1, "3");
-    Run("Command13");
-    Run("Command2");
+    Run(saveButton);
+    Run(checkButton);
     EXPECT_TRUE(Report().contains(QStringLiteral(" 6-match = 1 times\n")));
     Enter(1, 1, "2");
-    Run("Command2");
+    Run(checkButton);
     EXPECT_TRUE(Report().contains(QStringLiteral(" 5-match = 1 times\n")));
     EXPECT_EQ(Entries().CellBackground(1, 1), white);
     EXPECT_EQ(File(), "28 May 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
@@ -615,14 +637,14 @@ TEST_F(ShowingEntries, TheCheckSeesWhatIsNotSavedAndChangesNothing) {
 
 TEST_F(ShowingEntries, ACheckIsNoChange) {
     Open();
-    Run("Command2");
+    Run(checkButton);
     ExpectNoChanges();
 }
 
 TEST_F(ShowingEntries, ColoursStayAtTheirCellsThroughASort) {
     Open();
-    Run("Command2");
-    Run("Command3");
+    Run(checkButton);
+    Run(sortByName);
     EXPECT_EQ(Players(), "Ann Bea Tom ");
     EXPECT_EQ(Entries().CellBackground(1, 1), yellow);
     EXPECT_FALSE(Entries().CellBackground(2, 1).isValid());
@@ -630,25 +652,25 @@ TEST_F(ShowingEntries, ColoursStayAtTheirCellsThroughASort) {
 
 TEST_F(ShowingEntries, CheckingTwiceCountsAfresh) {
     Open();
-    Run("Command2");
+    Run(checkButton);
     const QString report = Report();
-    Run("Command2");
+    Run(checkButton);
     EXPECT_EQ(Report(), report);
 }
 
 TEST_F(ShowingEntries, TheCheckReadsTheDatabaseAgain) {
     Open();
-    Run("Command2");
+    Run(checkButton);
     AddLottery(test_.folder, "dbase101.txt", "UK Thunderball", "5,34,1,14,0",
                {"01 Jun 05,4,9,15,27,30,0,0,6"});
-    Run("Command2");
+    Run(checkButton);
     EXPECT_EQ(Entries().CellBackground(2, 1), yellow);
 }
 
 TEST_F(ShowingEntries, TheCheckOfAnEmptyTableReportsForTheLastLottery) {
     Open("");
     test_.state.Picks = 2;
-    Run("Command2");
+    Run(checkButton);
     EXPECT_TRUE(
         Report().endsWith(QStringLiteral("\n\n 2-match+bonus/pball = 0 times\n"
                                          " 1-match+bonus/pball = 0 times\n"
@@ -661,17 +683,17 @@ TEST_F(ShowingEntries, TheCommandsRestWhileTheCheckRuns) {
     QTimer::singleShot(0, form_.get(), [&] {
         looked = true;
         for (const char* command :
-             {"Command1", "Command2", "Command3", "Command4", "Command6", "Command7", "Command8",
-              "Command9", "Command10", "Command11", "Command12", "Command13"}) {
+             {closeButton, checkButton, sortByName, deleteOldRows, sortByLottery, deleteThisRow,
+              dateThisRow, deleteAllRows, enterButton, sortByDate, dateAllRows, saveButton}) {
             EXPECT_FALSE(Find<QPushButton>(*form_, command)->isEnabled()) << command;
         }
         QTest::keyClick(form_.get(), Qt::Key_Escape);
         EXPECT_TRUE(form_->isVisible());
         EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
     });
-    Find<QPushButton>(*form_, "Command2")->click();
+    Find<QPushButton>(*form_, checkButton)->click();
     EXPECT_TRUE(looked);
-    EXPECT_TRUE(Find<QPushButton>(*form_, "Command2")->isEnabled());
+    EXPECT_TRUE(Find<QPushButton>(*form_, checkButton)->isEnabled());
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
@@ -683,7 +705,7 @@ TEST_F(ShowingEntries, ALongCheckScrollsAlong) {
     QObject::connect(&watch, &QTimer::timeout, form_.get(),
                      [&] { furthest = std::max(furthest, Entries().rowAt(0) + 1); });
     watch.start(0);
-    Find<QPushButton>(*form_, "Command2")->click();
+    Find<QPushButton>(*form_, checkButton)->click();
     EXPECT_EQ(furthest, 300 - 6);
     EXPECT_EQ(Entries().rowAt(0), 0);
 }
@@ -691,7 +713,7 @@ TEST_F(ShowingEntries, ALongCheckScrollsAlong) {
 TEST_F(ShowingEntries, AMissingDatabaseEndsTheRun) {
     Open();
     test_.folder.Delete("dbase101.txt");
-    Run("Command2");
+    Run(checkButton);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_NE(failure->find("dbase101.txt"), std::string::npos) << *failure;
@@ -701,7 +723,7 @@ TEST_F(ShowingEntries, AMissingDatabaseEndsTheRun) {
 TEST_F(ShowingEntries, AnUnreadableDateEndsTheRunInTheCheck) {
     Open();
     Enter(2, 0, "someday");
-    Run("Command2");
+    Run(checkButton);
     const auto failure = TakeFailure();
     ASSERT_TRUE(failure);
     EXPECT_EQ(*failure,
@@ -717,19 +739,19 @@ TEST_F(ShowingEntries, AFullDiskEndsTheRunAtEveryByteAndTheFileStays) {
     for (std::size_t bytes = 0; bytes <= size; bytes += 7) {
         test_.folder.FailAfterBytes(bytes);
         form_->show();
-        Run("Command13");
+        Run(saveButton);
         EXPECT_TRUE(TakeFailure()) << bytes;
         ASSERT_EQ(test_.folder.Snapshot(), before) << bytes;
     }
 }
 
 TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereverItWrites) {
-    for (const char* command : {"Command13", "Command9"}) {
+    for (const char* command : {saveButton, deleteAllRows}) {
         test_.folder.FailAtOperation({});
         Open();
         const auto before = test_.folder.Snapshot();
         test_.folder.FailAtOperation(0);
-        if (std::string(command) == "Command9") test_.messages.Expect(deleteAll);
+        if (std::string(command) == deleteAllRows) test_.messages.Expect(deleteAll);
         Run(command);
         EXPECT_TRUE(TakeFailure()) << command;
         EXPECT_EQ(test_.folder.Snapshot(), before) << command;
@@ -739,10 +761,10 @@ TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereverItWrites) {
 TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereAnEmptyTableIsSaved) {
     Open("28 May 05,1,2,3,4,5,6,,,UK Lotto,Ann,dbase100.txt\r\n");
     test_.messages.Expect(deleteThis);
-    Run("Command7");
+    Run(deleteThisRow);
     const auto before = test_.folder.Snapshot();
     test_.folder.FailAtOperation(0);
-    Run("Command13");
+    Run(saveButton);
     EXPECT_TRUE(TakeFailure());
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
@@ -750,7 +772,7 @@ TEST_F(ShowingEntries, AReadOnlyFolderEndsTheRunWhereAnEmptyTableIsSaved) {
 TEST_F(ShowingEntries, CopiesMarkedRowsWithTheirHeadings) {
     Open();
     test_.messages.Expect(deleteThis, Answer::Cancel);
-    Run("Command7");
+    Run(deleteThisRow);
     QTest::keyClick(&Entries(), Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QGuiApplication::clipboard()->text().section(QLatin1Char('\n'), 1, 1),
               QStringLiteral("28-May-2005\t3\t17\t22\t9\t41\t40\t\t\tUK Lotto\tTom\tdbase100.txt"));
@@ -760,7 +782,7 @@ TEST_F(ShowingEntries, DeletingTheRowBelowAllOthersEndsTheRun) {
     Open();
     Entries().SetCurrentCell(500, 1);
     test_.messages.Expect(deleteThis);
-    Run("Command7");
+    Run(deleteThisRow);
     EXPECT_TRUE(TakeFailure());
 }
 
@@ -768,7 +790,7 @@ TEST_F(ShowingEntries, DeletingAnEmptyRowChangesNoEntry) {
     Open();
     Entries().SetCurrentCell(40, 1);
     test_.messages.Expect(deleteThis);
-    Run("Command7");
+    Run(deleteThisRow);
     EXPECT_EQ(Players(), "Tom Ann Bea ");
 }
 
