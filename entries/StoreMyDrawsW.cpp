@@ -41,20 +41,20 @@ void StoreMyDrawsW::Load() {
               .small = {QStringLiteral("Label7"), QStringLiteral("Label8"),
                         QStringLiteral("LabelPName")},
               .status = {}});
-    dtPicker1_->SetValue(services().today());
-    ListDatabases(program(), *list1_);
-    if (list1_->count() == 0) {
+    date_->SetValue(services().today());
+    ListDatabases(program(), *lotteries_);
+    if (lotteries_->count() == 0) {
         services().messages.Show(this, {.title = tr("Error!"),
                                         .text = tr("No lotteries to display!    "),
                                         .sign = Sign::Exclamation});
         return;
     }
-    ChooseFirstLottery(*list1_);
+    ChooseFirstLottery(*lotteries_);
 }
 
-void StoreMyDrawsW::List1_Click() {
+void StoreMyDrawsW::ChooseLottery() {
     const Hourglass hourglass;
-    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(list1_->Index()));
+    LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
     ShowBoxes();
     grid_->SetCurrentCell(parkingRow, 0);
 }
@@ -68,20 +68,20 @@ void StoreMyDrawsW::ShowBoxes() {
     const bool hasExtraBall = state().MaxPball > 0;
     for (int index = 1; index <= boxCount; ++index) {
         const bool isExtraBall = hasExtraBall && index == extraBallBox;
-        Text1(index)->setVisible(index <= state().Picks || isExtraBall);
+        Box(index)->setVisible(index <= state().Picks || isExtraBall);
     }
-    label2_->setVisible(hasExtraBall);
+    extraBallTitle_->setVisible(hasExtraBall);
 }
 
 bool StoreMyDrawsW::NumbersAreValid() const {
     const auto valid = [this](int index) {
-        const int value = Text1(index)->Value();
+        const int value = Box(index)->Value();
         return value >= 1 && value <= state().MaxNum;
     };
     for (int index = 1; index <= state().Picks; ++index) {
         if (!valid(index)) return false;
     }
-    // The extra ball is held against the highest main number too.
+    // Kept on purpose: the extra ball is held against the highest main number too.
     return state().MaxPball <= 0 || valid(extraBallBox);
 }
 
@@ -91,7 +91,7 @@ int StoreMyDrawsW::FirstEmptyRow() const {
     return row;
 }
 
-void StoreMyDrawsW::Command2_Click() {
+void StoreMyDrawsW::Add() {
     if (!NumbersAreValid()) {
         ShowTip(services(), this, 6);
         return;
@@ -100,25 +100,25 @@ void StoreMyDrawsW::Command2_Click() {
     grid_->ScrollToRow(row);
     WriteEntry(row);
     grid_->MarkRow(row);
-    for (NumberBox* box : text1_) box->clear();
-    Text1(1)->setFocus();
+    for (NumberBox* box : boxes_) box->clear();
+    Box(1)->setFocus();
 }
 
 void StoreMyDrawsW::WriteEntry(int row) {
-    grid_->SetCell(row, entry_column::date, ToQString(DrawDate(dtPicker1_->Value())));
+    grid_->SetCell(row, entry_column::date, ToQString(DrawDate(date_->Value())));
     for (int column = 1; column <= state().Picks; ++column) {
-        grid_->SetCell(row, column, Text1(column)->text());
+        grid_->SetCell(row, column, Box(column)->text());
     }
     if (state().MaxPball > 0) {
-        grid_->SetCell(row, entry_column::extraBall, Text1(extraBallBox)->text());
+        grid_->SetCell(row, entry_column::extraBall, Box(extraBallBox)->text());
         grid_->SetCellColour(row, entry_column::extraBall, ExtraBallColour());
     }
     grid_->SetCell(row, entry_column::lottery, ToQString(state().LotteryName));
-    grid_->SetCell(row, entry_column::player, textPName_->text());
+    grid_->SetCell(row, entry_column::player, player_->text());
     grid_->SetCell(row, entry_column::database, ToQString(state().DbaseFile));
 }
 
-void StoreMyDrawsW::Command3_Click() {
+void StoreMyDrawsW::Save() {
     AppendEntries(folder(), EntriesInGrid(*grid_));
     services().messages.Show(this, {.title = tr("Lottery Quillon World"),
                                     .text = tr("Your entries have been saved.  "),
@@ -126,30 +126,28 @@ void StoreMyDrawsW::Command3_Click() {
     Unload();
 }
 
-void StoreMyDrawsW::Command4_Click() {
+void StoreMyDrawsW::DeleteRow() {
     const int row = grid_->CurrentRow();
     if (row == parkingRow) return;
     DeleteGridRow(*grid_, row, lastMovedColumn);
     grid_->MarkRow(row);
 }
 
-void StoreMyDrawsW::Command5_Click() {
+void StoreMyDrawsW::MoveRowUp() {
     const int row = grid_->CurrentRow();
     if (row == 1 || grid_->Cell(row, 0).isEmpty()) return;
     SwapGridRows(*grid_, row, row - 1, lastMovedColumn);
     grid_->MarkRow(row - 1);
 }
 
-void StoreMyDrawsW::Command6_Click() {
+void StoreMyDrawsW::MoveRowDown() {
     const int row = grid_->CurrentRow();
     if (row >= parkingRow - 1 || grid_->Cell(row + 1, 1).isEmpty()) return;
     SwapGridRows(*grid_, row, row + 1, lastMovedColumn);
     grid_->MarkRow(row + 1);
 }
 
-void StoreMyDrawsW::MSFlexGrid1_Click() { grid_->MarkRow(grid_->CurrentRow()); }
-
-void StoreMyDrawsW::Command1_Click() {
+void StoreMyDrawsW::Close() {
     if (!grid_->Cell(1, 0).isEmpty()) {
         const QString crlf = ToQString(state().Crlf);
         const Answer answer = services().messages.Show(

@@ -15,6 +15,8 @@ class QLineEdit;
 class QPushButton;
 
 /// Stores entries that the user types in: they gather in the grid until they are saved.
+///
+/// The grid may hold entries of several lotteries. Its rows can be deleted and moved.
 class StoreMyDrawsW final : public Form {
     Q_OBJECT
   public:
@@ -23,45 +25,40 @@ class StoreMyDrawsW final : public Form {
     void Load() override;
 
   private:
+    using Action = void (StoreMyDrawsW::*)();
+
     void MakeGrid();
-    void MakeControls();
-    QLayout* BuildTop();
-    QLayout* BuildNumbers();
-    QLayout* BuildRowCommands();
-    QLayout* BuildActions();
-    void Connect();
+    QLayout* MakeTop();
+    QLayout* MakeNumbers();
+    QLayout* MakeBoxes();
+    QLayout* MakeHeadings();
+    QPushButton* MakeCommand(const QString& name, const QString& icon, const QString& toolTip,
+                             Action action);
+    QLayout* MakeRowCommands();
+    QLayout* MakeActions();
 
-    void List1_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Command4_Click();
-    void Command5_Click();
-    void Command6_Click();
-    void Command1_Click();
-    void MSFlexGrid1_Click();
-
+    void ChooseLottery();
     void ShowBoxes();
+
+    void Add();
     bool NumbersAreValid() const;
     int FirstEmptyRow() const;
     void WriteEntry(int row);
 
-    NumberBox* Text1(int index) const { return text1_[static_cast<std::size_t>(index - 1)]; }
+    void DeleteRow();
+    void MoveRowUp();
+    void MoveRowDown();
 
-    ListBox* list1_;
-    std::array<NumberBox*, 8> text1_;
-    QLabel* label1_;
-    QLabel* label2_;
-    QLabel* label5_;
-    QLabel* label7_;
-    QLabel* label8_;
-    QLabel* labelPName_;
-    QLineEdit* textPName_;
-    DatePicker* dtPicker1_;
+    void Save();
+    void Close();
+
+    NumberBox* Box(int index) const { return boxes_[static_cast<std::size_t>(index - 1)]; }
+
+    ListBox* lotteries_;
+    DatePicker* date_;
+    QLineEdit* player_;
+    std::array<NumberBox*, 8> boxes_;
+    QLabel* extraBallTitle_;
+    QPushButton* add_;
     Grid* grid_;
-    QPushButton* command1_;
-    QPushButton* command2_;
-    QPushButton* command3_;
-    QPushButton* command4_;
-    QPushButton* command5_;
-    QPushButton* command6_;
 };

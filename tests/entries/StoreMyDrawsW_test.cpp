@@ -15,6 +15,18 @@
 
 namespace {
 
+constexpr auto grid = "MSFlexGrid1";
+constexpr auto lotteryList = "List1";
+constexpr auto nameBox = "TextPName";
+constexpr auto datePicker = "DTPicker1";
+constexpr auto extraBallTitle = "Label2";
+constexpr auto addButton = "Command2";
+constexpr auto deleteRowButton = "Command4";
+constexpr auto upButton = "Command5";
+constexpr auto downButton = "Command6";
+constexpr auto saveButton = "Command3";
+constexpr auto closeButton = "Command1";
+
 const Message problemWithTheInput{
     .title = QStringLiteral("Error"),
     .text = QStringLiteral(
@@ -46,9 +58,9 @@ class StoringEntries : public testing::Test {
         form_->show();
     }
 
-    Grid& Entries() { return *Find<Grid>(*form_, "MSFlexGrid1"); }
+    Grid& Entries() { return *Find<Grid>(*form_, grid); }
 
-    void ChooseLottery(int index) { Find<ListBox>(*form_, "List1")->SetIndex(index); }
+    void ChooseLottery(int index) { Find<ListBox>(*form_, lotteryList)->SetIndex(index); }
 
     QLineEdit& Box(int index) {
         return *Find<QLineEdit>(*form_, ("Text1(" + std::to_string(index) + ")").c_str());
@@ -58,7 +70,7 @@ class StoringEntries : public testing::Test {
         int index = 1;
         for (const int number : numbers) Box(index++).setText(QString::number(number));
         if (extraBall > 0) Box(8).setText(QString::number(extraBall));
-        Click(*form_, "Command2");
+        Click(*form_, addButton);
     }
 
     /// Row of the grid as one text, fields joined by a comma.
@@ -84,25 +96,25 @@ TEST_F(StoringEntries, BearsItsWords) {
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Store Draws Entries"));
     const std::vector<std::pair<const char*, const char*>> labels = {
         {"Label5", "Store lottery draw entries"}, {"Label8", "Select the lottery:"},
-        {"Label1", "Enter your numbers:"},        {"Label2", " Pball"},
+        {"Label1", "Enter your numbers:"},        {extraBallTitle, " Pball"},
         {"LabelPName", "Player/syndicate:"},      {"Label7", "Draw date:"}};
     for (const auto& [name, text] : labels) {
         EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
     }
     const std::vector<std::pair<const char*, const char*>> toolTips = {
-        {"TextPName", " Enter the player's name or syndicate name "},
-        {"Command2", " Add this entry to the grid "},
-        {"Command4", " Delete current row "},
-        {"Command5", " Move current row up "},
-        {"Command6", " Move current row down "},
-        {"Command3", " Save all lottery entries in the grid "},
-        {"Command1", " Close the window "}};
+        {nameBox, " Enter the player's name or syndicate name "},
+        {addButton, " Add this entry to the grid "},
+        {deleteRowButton, " Delete current row "},
+        {upButton, " Move current row up "},
+        {downButton, " Move current row down "},
+        {saveButton, " Save all lottery entries in the grid "},
+        {closeButton, " Close the window "}};
     for (const auto& [name, text] : toolTips) {
         EXPECT_EQ(Find<QWidget>(*form_, name)->toolTip(), QString::fromLatin1(text)) << name;
     }
-    EXPECT_EQ(Find<QPushButton>(*form_, "Command2")->text(), QStringLiteral("Add"));
-    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->displayFormat(), QStringLiteral("dd MMM yy"));
-    EXPECT_EQ(Find<QDateEdit>(*form_, "DTPicker1")->date(), QDate(2005, 6, 1));
+    EXPECT_EQ(Find<QPushButton>(*form_, addButton)->text(), QStringLiteral("Add"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->displayFormat(), QStringLiteral("dd MMM yy"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->date(), QDate(2005, 6, 1));
     const QStringList headings = {
         QStringLiteral("Date"),    QStringLiteral("Num1"), QStringLiteral("Num2"),
         QStringLiteral("Num3"),    QStringLiteral("Num4"), QStringLiteral("Num5"),
@@ -120,7 +132,7 @@ TEST_F(StoringEntries, WithoutALotterySaysSoAndStaysOpen) {
                            .sign = Sign::Exclamation});
     Open();
     EXPECT_TRUE(form_->isVisible());
-    EXPECT_EQ(Find<ListBox>(*form_, "List1")->count(), 0);
+    EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->count(), 0);
 }
 
 TEST_F(StoringEntries, ShowsTheBoxesThatTheLotteryFills) {
@@ -133,10 +145,10 @@ TEST_F(StoringEntries, ShowsTheBoxesThatTheLotteryFills) {
         return boxes;
     };
     EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 6}));
-    EXPECT_TRUE(Find<QLabel>(*form_, "Label2")->isHidden());
+    EXPECT_TRUE(Find<QLabel>(*form_, extraBallTitle)->isHidden());
     ChooseLottery(1);
     EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 8}));
-    EXPECT_FALSE(Find<QLabel>(*form_, "Label2")->isHidden());
+    EXPECT_FALSE(Find<QLabel>(*form_, extraBallTitle)->isHidden());
     ChooseLottery(2);
     EXPECT_EQ(visible(), (std::vector<int>{1, 2, 3, 4, 5, 6, 7}));
 }
@@ -146,7 +158,7 @@ TEST_F(StoringEntries, TheEighthBoxTakesTheEighthNumberOfALotteryOfEight) {
     Open();
     ChooseLottery(3);
     EXPECT_FALSE(Box(8).isHidden());
-    EXPECT_TRUE(Find<QLabel>(*form_, "Label2")->isHidden());
+    EXPECT_TRUE(Find<QLabel>(*form_, extraBallTitle)->isHidden());
     Add({1, 2, 3, 4, 5, 6, 7, 8});
     EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,7,8,Eight,,dbase103.txt");
     ChooseLottery(0);
@@ -191,7 +203,7 @@ TEST_F(StoringEntries, ChoosingALotteryReadsItsHeaderOnly) {
 
 TEST_F(StoringEntries, ChoosingALotteryShowsTheHourglass) {
     Open();
-    const HourglassWatch watch(*Find<QLabel>(*form_, "Label2"), QEvent::ShowToParent);
+    const HourglassWatch watch(*Find<QLabel>(*form_, extraBallTitle), QEvent::ShowToParent);
     ChooseLottery(1);
     EXPECT_EQ(watch.UnderHourglass(), 1);
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -207,13 +219,13 @@ TEST_F(StoringEntries, BoxesDropEveryKeyButDigitsAndBackspace) {
 
 TEST_F(StoringEntries, AddWritesTheEntryMarksItAndEmptiesTheBoxes) {
     Open();
-    Type(*form_, "TextPName", QStringLiteral("Ann"));
+    Type(*form_, nameBox, QStringLiteral("Ann"));
     Add({3, 17, 22, 34, 41, 48});
     EXPECT_EQ(Row(1), "01 Jun 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt");
     EXPECT_EQ(Entries().CurrentRow(), 1);
     EXPECT_TRUE(Entries().selectionModel()->isRowSelected(0));
     for (int index = 1; index <= 8; ++index) EXPECT_EQ(Box(index).text(), QString());
-    EXPECT_EQ(Find<QLineEdit>(*form_, "TextPName")->text(), QStringLiteral("Ann"));
+    EXPECT_EQ(Find<QLineEdit>(*form_, nameBox)->text(), QStringLiteral("Ann"));
 }
 
 TEST_F(StoringEntries, EntriesOfDifferentLotteriesStandInOneGrid) {
@@ -241,7 +253,7 @@ TEST_F(StoringEntries, ANumberOutsideTheFieldIsRefusedAndNothingIsLost) {
         for (int index = 1; index <= 6; ++index) Box(index).setText(QString::number(index));
         Box(6).setText(QString::fromLatin1(bad));
         test_.messages.Expect(problemWithTheInput);
-        Click(*form_, "Command2");
+        Click(*form_, addButton);
         EXPECT_EQ(Entries().Cell(1, 0), QString()) << bad;
         EXPECT_EQ(Box(1).text(), QStringLiteral("1"));
     }
@@ -251,7 +263,7 @@ TEST_F(StoringEntries, DealsPastedNumbersToTheBoxesOfTheLottery) {
     Open();
     ChooseLottery(1);
     Paste(Box(1), QStringLiteral("7 14 21 28 30 3"));
-    Click(*form_, "Command2");
+    Click(*form_, addButton);
     EXPECT_NE(Row(1).find(",7,14,21,28,30,,,3,"), std::string::npos) << Row(1);
 }
 
@@ -276,7 +288,7 @@ TEST_F(StoringEntries, SaveAppendsTheGridAndClosesWithoutAQuestion) {
     ChooseLottery(1);
     Add({1, 2, 3, 4, 5}, 14);
     test_.messages.Expect(entriesSaved);
-    Click(*form_, "Command3");
+    Click(*form_, saveButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_EQ(test_.folder.Read("MyLottery.txt"),
               "old\r\n"
@@ -287,7 +299,7 @@ TEST_F(StoringEntries, SaveAppendsTheGridAndClosesWithoutAQuestion) {
 TEST_F(StoringEntries, SavingAnEmptyGridMakesAnEmptyFile) {
     Open();
     test_.messages.Expect(entriesSaved);
-    Click(*form_, "Command3");
+    Click(*form_, saveButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_EQ(test_.folder.Read("MyLottery.txt"), "");
 }
@@ -302,7 +314,7 @@ TEST_F(StoringEntries, ClosingAsksWhileTheGridHasRows) {
     Open();
     Add({3, 17, 22, 34, 41, 48});
     test_.messages.Expect(unsavedChanges, Answer::Cancel);
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_TRUE(form_->isVisible());
     test_.messages.Expect(unsavedChanges, Answer::Cancel);
     QTest::keyClick(form_.get(), Qt::Key_Escape);
@@ -312,14 +324,14 @@ TEST_F(StoringEntries, ClosingAsksWhileTheGridHasRows) {
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("3"));
     test_.messages.Expect(unsavedChanges, Answer::Ok);
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
 }
 
 TEST_F(StoringEntries, ClosingAnEmptyGridAsksNothing) {
     Open();
-    Click(*form_, "Command1");
+    Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
 }
 
@@ -339,7 +351,7 @@ TEST_F(StoringEntries, DeletingMovesTheRowsUpWithoutTheirDatabaseFile) {
     ChooseLottery(1);
     Add({7, 8, 9, 10, 11}, 3);
     ClickRow(1);
-    Click(*form_, "Command4");
+    Click(*form_, deleteRowButton);
     EXPECT_EQ(Row(1), "01 Jun 05,7,8,9,10,11,,,3,UK Thunderball,,dbase100.txt");
     EXPECT_EQ(Row(2), ",,,,,,,,,,,dbase101.txt");
     EXPECT_EQ(Entries().CurrentRow(), 1);
@@ -348,7 +360,7 @@ TEST_F(StoringEntries, DeletingMovesTheRowsUpWithoutTheirDatabaseFile) {
 TEST_F(StoringEntries, DeletingTheLastRowEmptiesItAndItRemainsCurrent) {
     Open();
     Add({1, 2, 3, 4, 5, 6});
-    Click(*form_, "Command4");
+    Click(*form_, deleteRowButton);
     EXPECT_EQ(Row(1), ",,,,,,,,,,,dbase100.txt");
     EXPECT_EQ(Entries().CurrentRow(), 1);
 }
@@ -358,11 +370,11 @@ TEST_F(StoringEntries, MovingSwapsRowsWithoutTheirDatabaseFile) {
     Add({1, 2, 3, 4, 5, 6});
     ChooseLottery(1);
     Add({7, 8, 9, 10, 11}, 3);
-    Click(*form_, "Command5");
+    Click(*form_, upButton);
     EXPECT_EQ(Row(1), "01 Jun 05,7,8,9,10,11,,,3,UK Thunderball,,dbase100.txt");
     EXPECT_EQ(Row(2), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase101.txt");
     EXPECT_EQ(Entries().CurrentRow(), 1);
-    Click(*form_, "Command6");
+    Click(*form_, downButton);
     EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
     EXPECT_EQ(Entries().CurrentRow(), 2);
 }
@@ -370,8 +382,8 @@ TEST_F(StoringEntries, MovingSwapsRowsWithoutTheirDatabaseFile) {
 TEST_F(StoringEntries, TheFirstRowDoesNotMoveUpNorTheLastDown) {
     Open();
     Add({1, 2, 3, 4, 5, 6});
-    Click(*form_, "Command5");
-    Click(*form_, "Command6");
+    Click(*form_, upButton);
+    Click(*form_, downButton);
     EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
     EXPECT_EQ(Entries().CurrentRow(), 1);
 }
@@ -384,11 +396,11 @@ TEST_F(StoringEntries, ARowMovesDownOnlyOverOneThatHasAFirstNumber) {
     Add({});
     EXPECT_EQ(Row(2), "01 Jun 05,,,,,,,,,None,,dbase103.txt");
     ClickRow(1);
-    Click(*form_, "Command6");
+    Click(*form_, downButton);
     EXPECT_EQ(Entries().CurrentRow(), 1);
     EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("1"));
     ClickRow(2);
-    Click(*form_, "Command5");
+    Click(*form_, upButton);
     EXPECT_EQ(Entries().Cell(2, 1), QStringLiteral("1"));
 }
 
@@ -398,7 +410,7 @@ TEST_F(StoringEntries, RowCommandsDoNothingWhileNoRowIsChosen) {
     ChooseLottery(1);
     EXPECT_EQ(Entries().CurrentRow(), 99);
     EXPECT_FALSE(Entries().currentIndex().isValid());
-    for (const char* command : {"Command4", "Command5", "Command6"}) Click(*form_, command);
+    for (const char* command : {deleteRowButton, upButton, downButton}) Click(*form_, command);
     EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
 }
 
@@ -416,14 +428,14 @@ TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
 TEST_F(StoringEntries, RowsMoveDownAsFarAsRow98) {
     Open();
     for (int entry = 1; entry <= 99; ++entry) {
-        Type(*form_, "TextPName", QString::number(entry));
+        Type(*form_, nameBox, QString::number(entry));
         Add({1, 2, 3, 4, 5, 6});
     }
     ClickRow(97);
-    Click(*form_, "Command6");
+    Click(*form_, downButton);
     EXPECT_EQ(Entries().CurrentRow(), 98);
     EXPECT_EQ(Entries().Cell(98, 10), QStringLiteral("97"));
-    Click(*form_, "Command6");
+    Click(*form_, downButton);
     EXPECT_EQ(Entries().CurrentRow(), 98);
     EXPECT_EQ(Entries().Cell(98, 10), QStringLiteral("97"));
     EXPECT_EQ(Entries().Cell(99, 10), QStringLiteral("99"));
@@ -433,7 +445,7 @@ TEST_F(StoringEntries, ALockedDatabaseEndsTheRunAndNothingIsWritten) {
     const auto before = test_.folder.Snapshot();
     Open();
     test_.folder.Lock("dbase101.txt");
-    auto* list = Find<ListBox>(*form_, "List1");
+    auto* list = Find<ListBox>(*form_, lotteryList);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                       list->visualItemRect(list->item(1)).center());
     const auto failure = TakeFailure();
@@ -448,7 +460,7 @@ TEST_F(StoringEntries, AFullDiskEndsTheRunAndLeavesTheFileAsItWas) {
     Open();
     Add({1, 2, 3, 4, 5, 6});
     test_.folder.FailAfterBytes(20);
-    Click(*form_, "Command3");
+    Click(*form_, saveButton);
     EXPECT_TRUE(TakeFailure());
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
