@@ -57,6 +57,7 @@ void StoreMyDrawsW::ChooseLottery() {
     LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
     ShowBoxes();
     grid_->SetCurrentCell(parkingRow, 0);
+    add_->setEnabled(true);
 }
 
 void StoreMyDrawsW::ShowBoxes() {

@@ -117,6 +117,7 @@ QLayout* StoreMyDrawsW::MakeBoxes() {
     add_ = MakeButton(QStringLiteral("Command2"), tr("Add"));
     add_->setToolTip(tr(" Add this entry to the grid "));
     add_->setDefault(true);
+    add_->setEnabled(false);  // until a lottery is chosen
     connect(add_, &QPushButton::clicked, this, [this] { Add(); });
     QHBoxLayout* row = BuildAtColumns(*grid_, 1, {boxes_.begin(), boxes_.end()});
     row->addSpacing(8);

@@ -33,6 +33,10 @@ const Message problemWithTheInput{
         " There was a problem with the input.  \r\n Please check it and try again.  \r\n"),
     .sign = Sign::Information};
 
+const Message noLotteries{.title = QStringLiteral("Error!"),
+                          .text = QStringLiteral("No lotteries to display!    "),
+                          .sign = Sign::Exclamation};
+
 const Message entriesSaved{.title = QStringLiteral("Lottery Quillon World"),
                            .text = QStringLiteral("Your entries have been saved.  "),
                            .sign = Sign::Information};
@@ -127,12 +131,27 @@ TEST_F(StoringEntries, BearsItsWords) {
 
 TEST_F(StoringEntries, WithoutALotterySaysSoAndStaysOpen) {
     for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
-    test_.messages.Expect({.title = QStringLiteral("Error!"),
-                           .text = QStringLiteral("No lotteries to display!    "),
-                           .sign = Sign::Exclamation});
+    test_.messages.Expect(noLotteries);
     Open();
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->count(), 0);
+}
+
+TEST_F(StoringEntries, AddsNothingUntilALotteryIsChosen) {
+    for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
+    test_.messages.Expect(noLotteries);
+    Open();
+    EXPECT_FALSE(Find<QPushButton>(*form_, addButton)->isEnabled());
+    Add({});
+    QTest::keyClick(&Box(1), Qt::Key_Return);
+    EXPECT_EQ(Entries().Cell(1, 0), QString());
+    Click(*form_, closeButton);
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(StoringEntries, AddsOnceALotteryIsChosen) {
+    Open();
+    EXPECT_TRUE(Find<QPushButton>(*form_, addButton)->isEnabled());
 }
 
 TEST_F(StoringEntries, ShowsTheBoxesThatTheLotteryFills) {
