@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "play/PlayForm.h"
+#include "play/RetryingForm.h"
+
+class BarInput;
 
 /// Lucky dip: lines of plain random numbers.
-class PLuckyDip final : public PlayForm {
+class PLuckyDip final : public RetryingForm {
     Q_OBJECT
   public:
     PLuckyDip(Program& program, QWidget* parent);
@@ -12,4 +14,7 @@ class PLuckyDip final : public PlayForm {
   protected:
     void PlayLotto() override;
     GeneratorStyle Style() const override;
+
+  private:
+    BarInput* lineCount_;
 };
