@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
-#include <QScrollBar>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -12,6 +11,7 @@
 #include "databases/new_database.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/BarInput.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
@@ -19,16 +19,16 @@
 namespace {
 
 /// Moves the bar to the number of a template; a number beyond its ends is a `Failure`.
-void SetBar(QScrollBar& bar, const State& state, int row, int column) {
+void SetBar(BarInput& bar, const State& state, int row, int column) {
     const int number = LeadingWhole(state.Templates(row, column));
-    if (number < bar.minimum() || number > bar.maximum()) {
+    if (number < bar.Lowest() || number > bar.Highest()) {
         throw FailureInFile(lotteryTemplatesFile, row + 1,
-                            "expected a number from " + std::to_string(bar.minimum()) + " to " +
-                                std::to_string(bar.maximum()) + " in field " +
+                            "expected a number from " + std::to_string(bar.Lowest()) + " to " +
+                                std::to_string(bar.Highest()) + " in field " +
                                 std::to_string(column + 1) + ", but " +
                                 Quoted(state.Templates(row, column)) + " stands there.");
     }
-    bar.setValue(number);
+    bar.SetValue(number);
 }
 
 }  // namespace
@@ -54,27 +54,26 @@ void CreateDbase::ChooseTemplate() {
     const auto text = [&](int column) { return ToQString(view().Templates(row, column)); };
     address_->setText(text(5));
     name_->setText(text(0));
-    SetBar(*picks_.bar, view(), row, 1);
-    picks_.shown->setText(text(1));
-    SetBar(*highest_.bar, view(), row, 2);
-    highest_.shown->setText(text(2));
+    SetBar(*picks_, view(), row, 1);
+    picks_->SetShownText(text(1));
+    SetBar(*highest_, view(), row, 2);
+    highest_->SetShownText(text(2));
     const bool extraBall = LeadingNumber(view().Templates(row, 4)) != 0;
     if (extraBall) {
-        SetBar(*highestExtra_.bar, view(), row, 4);
-        highestExtra_.shown->setText(text(4));
+        SetBar(*highestExtra_, view(), row, 4);
+        highestExtra_->SetShownText(text(4));
     }
     (extraBall ? powerballType_ : standardType_)->setChecked(true);
     for (NumberBox* box : boxes_) box->clear();
 }
 
-void CreateDbase::ShowRule(const Rule& rule) {
-    rule.shown->setText(QString::number(rule.bar->value()));
-    drawTitle_->setText(tr("Enter%1 numbers").arg(ToQString(NumberText(picks_.bar->value()))));
+void CreateDbase::WordDrawTitle() {
+    drawTitle_->setText(tr("Enter%1 numbers").arg(ToQString(NumberText(picks_->Value()))));
 }
 
 void CreateDbase::OfferBoxes() {
     for (int i = 0; i <= 6; ++i) {
-        boxes_[static_cast<std::size_t>(i)]->setVisible(i < picks_.bar->value());
+        boxes_[static_cast<std::size_t>(i)]->setVisible(i < picks_->Value());
     }
 }
 
@@ -84,7 +83,7 @@ void CreateDbase::OfferExtraBall(bool extraBall) {
 }
 
 void CreateDbase::Save() {
-    if (!NumbersAreWithin(boxes_, picks_.bar->value(), highest_.bar->value())) {
+    if (!NumbersAreWithin(boxes_, picks_->Value(), highest_->Value())) {
         services().messages.Show(this, {.title = tr("Oops!"),
                                         .text = tr("Incorrect draw result...    "),
                                         .sign = Sign::Exclamation});
@@ -99,15 +98,15 @@ NewLottery CreateDbase::EnteredLottery() const {
     NewLottery lottery{
         .name = FromQString(name_->text()),
         .address = FromQString(address_->text()),
-        .picks = FromQString(picks_.shown->text()),
-        .highest = FromQString(highest_.shown->text()),
-        .highestExtra = extraBall ? FromQString(highestExtra_.shown->text()) : std::string("0"),
+        .picks = FromQString(picks_->ShownText()),
+        .highest = FromQString(highest_->ShownText()),
+        .highestExtra = extraBall ? FromQString(highestExtra_->ShownText()) : std::string("0"),
         .hasBonus = !extraBall && boxes_[7]->Value() > 0,
         .firstDraw = date_->Value(),
         .numbers = {}};
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         // What a hidden box still holds belongs to no number of this lottery.
-        const bool shown = i == 7 || static_cast<int>(i) < picks_.bar->value();
+        const bool shown = i == 7 || static_cast<int>(i) < picks_->Value();
         if (shown) lottery.numbers[i] = Trim(FromQString(boxes_[i]->text()));
     }
     return lottery;

@@ -6,13 +6,13 @@
 #include "databases/DrawBoxes.h"
 #include "platform/forms/Form.h"
 
+class BarInput;
 class DatePicker;
 class ListBox;
 class QGridLayout;
 class QLayout;
 class QLineEdit;
 class QRadioButton;
-class QScrollBar;
 struct NewLottery;
 
 /// Defines a lottery, by hand or from a ready-made template, and writes a new draw database with it
@@ -25,23 +25,17 @@ class CreateDbase final : public Form {
     void Load() override;
 
   private:
-    /// A number of the rules: the bar that chooses it and the label that shows it.
-    struct Rule {
-        QScrollBar* bar;
-        QLabel* shown;
-    };
-
     QLayout* MakeLists();
     QLayout* MakeLottery();
     QLayout* MakeNames();
     QLayout* MakeTypes();
     QLayout* MakeRules();
-    void AddRule(QGridLayout& rules, int row, QLabel* title, const Rule& rule);
+    void AddRule(QGridLayout& rules, int row, QLabel* title, BarInput& rule);
     QLayout* MakeFirstDraw();
     QLayout* MakeActions();
 
     void ChooseTemplate();
-    void ShowRule(const Rule& rule);
+    void WordDrawTitle();
     void OfferBoxes();
     void OfferExtraBall(bool extraBall);
     void Save();
@@ -55,10 +49,10 @@ class CreateDbase final : public Form {
     QLineEdit* address_;
     QRadioButton* standardType_;
     QRadioButton* powerballType_;
-    Rule picks_;
-    Rule highest_;
-    Rule highestExtra_;
-    std::array<QWidget*, 3> extraBallRow_;
+    BarInput* picks_;
+    BarInput* highest_;
+    BarInput* highestExtra_;
+    std::array<QWidget*, 2> extraBallRow_;
     DatePicker* date_;
     QLabel* drawTitle_;
     QLabel* lastBoxTitle_;

@@ -5,11 +5,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "databases/CreateDbase.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/widgets/BarInput.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
@@ -17,23 +17,13 @@
 
 namespace {
 
-constexpr int barWidth = 240;
+constexpr int barWidth = 280;
 
-QScrollBar* MakeBar(const QString& name, const QString& meaning, int least, int most, int value) {
-    auto* bar = Named(new QScrollBar(Qt::Horizontal), name);
-    bar->setAccessibleName(meaning);
-    bar->setRange(least, most);
-    bar->setValue(value);
-    bar->setPageStep(5);
-    bar->setFocusPolicy(Qt::StrongFocus);
-    bar->setMinimumWidth(barWidth);
-    return bar;
-}
-
-QLabel* MakeValueLabel(const QString& name, const QString& value) {
-    QLabel* label = MakeLabel(name, value);
-    label->setMinimumWidth(label->fontMetrics().horizontalAdvance(QStringLiteral("0000")));
-    return label;
+BarInput* MakeRule(const QString& barName, const QString& valueName, const QString& meaning,
+                   const BarRange& range) {
+    auto* rule = new BarInput(barName, valueName, meaning, range);
+    rule->setMinimumWidth(barWidth);
+    return rule;
 }
 
 }  // namespace
@@ -127,16 +117,14 @@ QLayout* CreateDbase::MakeTypes() {
 }
 
 QLayout* CreateDbase::MakeRules() {
-    picks_ = {.bar = MakeBar(QStringLiteral("HScroll1"), tr("Numbers to pick"), 4, 7, 6),
-              .shown = MakeValueLabel(QStringLiteral("Label2"), QStringLiteral("6"))};
-    picks_.bar->setPageStep(1);
-    highest_ = {.bar = MakeBar(QStringLiteral("HScroll2"), tr("Highest number"), 10, 60, 49),
-                .shown = MakeValueLabel(QStringLiteral("Label6"), QStringLiteral("49"))};
-    highestExtra_ = {
-        .bar = MakeBar(QStringLiteral("HScroll3"), tr("Highest extra ball"), 2, 60, 14),
-        .shown = MakeValueLabel(QStringLiteral("Label8"), QStringLiteral("14"))};
+    picks_ = MakeRule(QStringLiteral("HScroll1"), QStringLiteral("Label2"), tr("Numbers to pick"),
+                      {.lowest = 4, .highest = 7, .value = 6, .largeChange = 1});
+    highest_ = MakeRule(QStringLiteral("HScroll2"), QStringLiteral("Label6"), tr("Highest number"),
+                        {.lowest = 10, .highest = 60, .value = 49});
+    highestExtra_ = MakeRule(QStringLiteral("HScroll3"), QStringLiteral("Label8"),
+                             tr("Highest extra ball"), {.lowest = 2, .highest = 60, .value = 14});
     auto* extraTitle = MakeLabel(QStringLiteral("Label11"), tr("Pick 1 from:"));
-    extraBallRow_ = {extraTitle, highestExtra_.bar, highestExtra_.shown};
+    extraBallRow_ = {extraTitle, highestExtra_};
     for (QWidget* control : extraBallRow_) {
         KeepPlaceWhenHidden(control);
         control->hide();
@@ -144,19 +132,18 @@ QLayout* CreateDbase::MakeRules() {
 
     auto* rules = new QGridLayout;
     rules->setVerticalSpacing(8);
-    AddRule(*rules, 0, MakeLabel(QStringLiteral("Label9"), tr("Pick:")), picks_);
-    AddRule(*rules, 1, MakeLabel(QStringLiteral("Label10"), tr("From:")), highest_);
-    AddRule(*rules, 2, extraTitle, highestExtra_);
-    rules->setColumnStretch(3, 1);
-    connect(picks_.bar, &QScrollBar::valueChanged, this, [this] { OfferBoxes(); });
+    AddRule(*rules, 0, MakeLabel(QStringLiteral("Label9"), tr("Pick:")), *picks_);
+    AddRule(*rules, 1, MakeLabel(QStringLiteral("Label10"), tr("From:")), *highest_);
+    AddRule(*rules, 2, extraTitle, *highestExtra_);
+    rules->setColumnStretch(2, 1);
+    connect(picks_, &BarInput::changed, this, [this] { OfferBoxes(); });
     return rules;
 }
 
-void CreateDbase::AddRule(QGridLayout& rules, int row, QLabel* title, const Rule& rule) {
-    connect(rule.bar, &QScrollBar::valueChanged, this, [this, rule] { ShowRule(rule); });
-    rules.addWidget(title, row, 0);
-    rules.addWidget(rule.bar, row, 1);
-    rules.addWidget(rule.shown, row, 2);
+void CreateDbase::AddRule(QGridLayout& rules, int row, QLabel* title, BarInput& rule) {
+    connect(&rule, &BarInput::changed, this, [this] { WordDrawTitle(); });
+    rules.addWidget(title, row, 0, Qt::AlignTop);
+    rules.addWidget(&rule, row, 1);
 }
 
 QLayout* CreateDbase::MakeFirstDraw() {
