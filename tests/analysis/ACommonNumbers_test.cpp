@@ -8,6 +8,7 @@
 #include <numeric>
 
 #include "core/failure.h"
+#include "core/settings.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
@@ -288,11 +289,11 @@ TEST_F(CommonNumbersForm, LeavesNoFiguresOfTheLotteryBefore) {
 }
 
 TEST_F(CommonNumbersForm, TakesTheSkinsColours) {
-    test_.state.Settings(10) = "2";
-    test_.state.Settings(1) = "&H000001";
-    test_.state.Settings(2) = "&H000002";
-    test_.state.Settings(3) = "&H000003";
-    test_.state.Settings(5) = "&H00FFEEDD";
+    test_.state.Settings(setting::SkinBits) = "2";
+    test_.state.Settings(setting::TitleColour) = "&H000001";
+    test_.state.Settings(setting::BodyColour) = "&H000002";
+    test_.state.Settings(setting::SmallLabelColour) = "&H000003";
+    test_.state.Settings(setting::BackgroundColour) = "&H00FFEEDD";
     Open();
     EXPECT_EQ(Label(headingLabel).palette().color(QPalette::WindowText), QColor(1, 0, 0));
     EXPECT_EQ(Label(explanationLabel).palette().color(QPalette::WindowText), QColor(2, 0, 0));

@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "core/settings.h"
 #include "tests/core/regions.h"
 
 namespace {
@@ -68,12 +69,12 @@ TEST_F(NextDraw, KnowsALotteryByItsTrimmedNameInAnyCase) {
 }
 
 TEST_F(NextDraw, IsALaterDateChosenBeforeForOtherLotteries) {
-    state_.Settings(18) = "24-Dec-2026";
+    state_.Settings(setting::DrawDate) = "24-Dec-2026";
     EXPECT_EQ(Proposed("La Primitiva", On(3)), std::chrono::December / 24 / 2026);
 }
 
 TEST_F(NextDraw, IsALaterDateChosenBeforeOnlyOnTheDaysThatTheScheduleLeavesOpen) {
-    state_.Settings(18) = "24-Dec-2026";
+    state_.Settings(setting::DrawDate) = "24-Dec-2026";
     const Date chosen = std::chrono::December / 24 / 2026;
     const auto openDays = [&](const std::string& lottery) {
         Weekdays days;
@@ -93,7 +94,7 @@ TEST_F(NextDraw, IsALaterDateChosenBeforeOnlyOnTheDaysThatTheScheduleLeavesOpen)
 TEST_F(NextDraw, IsTodayWhereTheDateChosenBeforeIsNotLater) {
     for (const char* date :
          {"22-Nov-2026", "21-Nov-2026", "19-Nov-1994", "", "soon", "31-Nov-2026"}) {
-        state_.Settings(18) = date;
+        state_.Settings(setting::DrawDate) = date;
         EXPECT_EQ(Proposed("La Primitiva", sunday), sunday) << date;
     }
 }

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "core/memory_folder.h"
+#include "core/settings.h"
 #include "tests/core/failures.h"
 
 namespace {
@@ -25,7 +26,7 @@ class SyndicateFile : public testing::Test {
         std::string content = first + "\r\n";
         for (int row = 1; row < rows; ++row) content += emptyRow + "\r\n";
         folder_.Write("SMembers.000", content);
-        state_.Settings(16) = "SMembers.000";
+        state_.Settings(setting::SyndicateFile) = "SMembers.000";
     }
 
     bool MembersAreEmpty() const {
@@ -48,7 +49,7 @@ TEST_F(SyndicateFile, IsReadIntoTheMembers) {
     EXPECT_EQ(state_.Members(0, 1), "1, High Street");
     EXPECT_EQ(state_.Members(0, 10), "Winners");
     EXPECT_EQ(state_.Members(1, 0), "");
-    EXPECT_EQ(state_.Settings(16), "SMembers.000");
+    EXPECT_EQ(state_.Settings(setting::SyndicateFile), "SMembers.000");
 }
 
 TEST_F(SyndicateFile, IsReadToItsLastRow) {
@@ -67,10 +68,10 @@ TEST_F(SyndicateFile, IsNotLookedForWithoutAName) {
 }
 
 TEST_F(SyndicateFile, IsForgottenWhereItIsGone) {
-    state_.Settings(16) = "SMembers.007";
+    state_.Settings(setting::SyndicateFile) = "SMembers.007";
     state_.Members(0, 0) = "Ann";
     LoadSyndicate(state_, folder_);
-    EXPECT_EQ(state_.Settings(16), "");
+    EXPECT_EQ(state_.Settings(setting::SyndicateFile), "");
     EXPECT_TRUE(MembersAreEmpty());
 }
 

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QLabel>
 
+#include "core/settings.h"
 #include "databases/CreateDbase.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/HistoryW.h"
@@ -22,7 +23,7 @@ class SkinOf : public testing::Test {
     }
 
     void Open(const char* choice) {
-        test_.state.Settings(10) = choice;
+        test_.state.Settings(setting::SkinBits) = choice;
         form_ = std::make_unique<FormType>(test_.program, nullptr);
         form_->Load();
     }
@@ -39,10 +40,10 @@ class SkinOf : public testing::Test {
     }
 
     void ExpectColours(const LabelsAndSlots& labels) {
-        for (int slot = 1; slot <= 4; ++slot) {
+        for (int slot = setting::TitleColour; slot <= setting::StatusColour; ++slot) {
             test_.state.Settings(slot) = "&H00000" + std::to_string(slot);
         }
-        test_.state.Settings(5) = "&HFFEEDD";
+        test_.state.Settings(setting::BackgroundColour) = "&HFFEEDD";
         Open("2");
         EXPECT_EQ(form_->palette().color(QPalette::Window), QColor(0xdd, 0xee, 0xff));
         for (const auto& [name, slot] : labels) {

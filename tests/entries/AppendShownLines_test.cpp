@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "core/settings.h"
 #include "entries/SaveEntries.h"
 #include "platform/forms/LinesGrid.h"
 #include "platform/system/LocaleRegion.h"
@@ -159,8 +160,8 @@ TEST_F(SavingLines, KeepsTheNameTrimmedAndTheDateInTheSettings) {
         Find<QDateEdit>(dialog, dateBox)->setDate(QDate(2005, 6, 18));
         Click(dialog, saveButton);
     });
-    EXPECT_EQ(test_.state.Settings(17), "Ann");
-    EXPECT_EQ(test_.state.Settings(18), "18-Jun-2005");
+    EXPECT_EQ(test_.state.Settings(setting::PlayerName), "Ann");
+    EXPECT_EQ(test_.state.Settings(setting::DrawDate), "18-Jun-2005");
     EXPECT_FALSE(test_.folder.Exists("quillon.ini"));
     EXPECT_EQ(Saved(), "18-Jun-2005,2,3,4,5,6,7,,,UK Lotto, Ann ,dbase100.txt\r\n");
 }
@@ -176,7 +177,7 @@ TEST_F(SavingLines, LetsMessagesRunOnceTheDialogIsHidden) {
 }
 
 TEST_F(SavingLines, OffersTheLastNameAndTheNextDrawDate) {
-    test_.state.Settings(17) = "Ann";
+    test_.state.Settings(setting::PlayerName) = "Ann";
     test_.today = Date(std::chrono::year(2005), std::chrono::June, std::chrono::day(2));
     ShowSomeLines(1);
     Save([](QDialog& dialog) {
@@ -186,8 +187,8 @@ TEST_F(SavingLines, OffersTheLastNameAndTheNextDrawDate) {
 }
 
 TEST_F(SavingLines, CancelWritesNothingAndKeepsTheSettings) {
-    test_.state.Settings(17) = "Ann";
-    test_.state.Settings(18) = "01-Jan-2005";
+    test_.state.Settings(setting::PlayerName) = "Ann";
+    test_.state.Settings(setting::DrawDate) = "01-Jan-2005";
     ShowSomeLines(3);
     Save([](QDialog& dialog) {
         Type(dialog, nameBox, QStringLiteral("Bob"));
@@ -195,8 +196,8 @@ TEST_F(SavingLines, CancelWritesNothingAndKeepsTheSettings) {
         EXPECT_EQ(Find<QLineEdit>(dialog, linesBox)->text(), QStringLiteral("0"));
     });
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
-    EXPECT_EQ(test_.state.Settings(17), "Ann");
-    EXPECT_EQ(test_.state.Settings(18), "01-Jan-2005");
+    EXPECT_EQ(test_.state.Settings(setting::PlayerName), "Ann");
+    EXPECT_EQ(test_.state.Settings(setting::DrawDate), "01-Jan-2005");
 }
 
 TEST_F(SavingLines, EscIsCancel) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include "core/settings.h"
 #include "core/text.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
@@ -32,7 +33,8 @@ class HotNumbersForm : public LinesFormTest {
         AddUkLotto(test_.folder);
         AddThunderball(test_.folder);
         AddDailyPlay(test_.folder);
-        for (int slot = 11; slot <= 14; ++slot) test_.state.Settings(slot) = "2";
+        for (int slot = setting::OddEvenStrength; slot <= setting::LongRunStrength; ++slot)
+            test_.state.Settings(slot) = "2";
     }
 
     void Open() { ShowForm(std::make_unique<PHotNumbers>(test_.program, nullptr)); }

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "core/settings.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/hourglass_watch.h"
 #include "tests/support/lines_form.h"
@@ -25,10 +26,10 @@ class LuckyDipForm : public LinesFormTest {
         AddUkLotto(test_.folder);
         AddThunderball(test_.folder);
         AddDailyPlay(test_.folder);
-        test_.state.Settings(11) = "1 Odd/Even filter";
-        test_.state.Settings(12) = "1 High/Low filter";
-        test_.state.Settings(13) = "1 History  filter";
-        test_.state.Settings(14) = "3 Long Run filter";
+        test_.state.Settings(setting::OddEvenStrength) = "1 Odd/Even filter";
+        test_.state.Settings(setting::HighLowStrength) = "1 High/Low filter";
+        test_.state.Settings(setting::HistoryStrength) = "1 History  filter";
+        test_.state.Settings(setting::LongRunStrength) = "3 Long Run filter";
     }
 
     void Open() { ShowForm(std::make_unique<PLuckyDip>(test_.program, nullptr)); }
@@ -141,7 +142,7 @@ TEST_F(LuckyDipForm, ASmallFieldLosesItsDuplicatesAndDoesNotTell) {
 
 TEST_F(LuckyDipForm, ConditionsThatNoLineMeetsEndAfterTenSecondsAndSaySo) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
-    test_.state.Settings(11) = "2 Odd/Even filter";
+    test_.state.Settings(setting::OddEvenStrength) = "2 Odd/Even filter";
     Open();
     Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;
@@ -158,11 +159,15 @@ TEST_F(LuckyDipForm, EachConditionBoxAsksForItsOwnCondition) {
     Open();
     test_.tick = 2;
     const std::vector<std::pair<const char*, int>> boxes = {
-        {oddEvenBox, 11}, {highLowBox, 12}, {previousDrawsBox, 13}};
+        {oddEvenBox, setting::OddEvenStrength},
+        {highLowBox, setting::HighLowStrength},
+        {previousDrawsBox, setting::HistoryStrength}};
     for (const auto& [box, slot] : boxes) {
         Find<QCheckBox>(*form_, box)->setChecked(true);
-        for (int unmeetable = 11; unmeetable <= 13; ++unmeetable) {
-            for (int other = 11; other <= 13; ++other) test_.state.Settings(other) = "0";
+        for (int unmeetable = setting::OddEvenStrength; unmeetable <= setting::HistoryStrength;
+             ++unmeetable) {
+            for (int other = setting::OddEvenStrength; other <= setting::HistoryStrength; ++other)
+                test_.state.Settings(other) = "0";
             test_.state.Settings(unmeetable) = "3";
             Click(*form_, generateButton);
             EXPECT_EQ(Status().endsWith(QStringLiteral("conditions)")), slot == unmeetable)
@@ -286,7 +291,7 @@ TEST_F(LuckyDipForm, CloseAndEscCloseTheForm) {
 
 TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
-    test_.state.Settings(11) = "2";
+    test_.state.Settings(setting::OddEvenStrength) = "2";
     Open();
     Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;
@@ -307,7 +312,7 @@ TEST_F(LuckyDipForm, CloseDuringAGenerationClosesTheFormAfterIt) {
 
 TEST_F(LuckyDipForm, ClicksMadeDuringAGenerationDoNotStartAnother) {
     AddLottery(test_.folder, "dbase.txt", "Tiny", "2,9,0,0,0");
-    test_.state.Settings(11) = "2";
+    test_.state.Settings(setting::OddEvenStrength) = "2";
     Open();
     Find<QCheckBox>(*form_, oddEvenBox)->setChecked(true);
     test_.tick = 0.25;

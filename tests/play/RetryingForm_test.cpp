@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
+#include "core/settings.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -52,7 +53,8 @@ class ARetryingForm : public LinesFormTest {
   protected:
     ARetryingForm() {
         AddUkLotto(test_.folder);
-        for (int slot = 11; slot <= 13; ++slot) test_.state.Settings(slot) = "1";
+        for (int slot = setting::OddEvenStrength; slot <= setting::HistoryStrength; ++slot)
+            test_.state.Settings(slot) = "1";
         ShowForm(std::make_unique<OneLineForm>(test_.program));
     }
 

@@ -207,15 +207,15 @@ TEST_P(EveryForm, OpensAHelpPageOnF1) {
 
 TEST_P(EveryForm, TakesTheBackgroundColourOfTheSettings) {
     if (PictureOf(GetParam().form).empty()) return;
-    program.state.Settings(10) = "2";
-    program.state.Settings(5) = "&HC0FFC0";
+    program.state.Settings(setting::SkinBits) = "2";
+    program.state.Settings(setting::BackgroundColour) = "&HC0FFC0";
     Open();
     EXPECT_EQ(form->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
 }
 
 TEST_P(EveryForm, WearsThePictureOfItsFamily) {
     const std::string picture = PictureOf(GetParam().form);
-    program.state.Settings(10) = "1";
+    program.state.Settings(setting::SkinBits) = "1";
     for (const auto& [name, colour] : pictures) {
         program.folder.Write(name, PictureIn(colour));
     }

@@ -37,7 +37,7 @@ class InfoPanelsOfWindow : public MainWindow {
   protected:
     void StartShown() {
         MakeDefaultSettings(program.state, program.folder);
-        program.state.Settings(19) = "1";
+        program.state.Settings(setting::InfoPanels) = "1";
         SaveSettings(program.state, program.folder);
         Start();
     }
@@ -105,7 +105,7 @@ TEST_F(InfoPanelsOfWindow, StartHidden) {
         EXPECT_FALSE(Find<QWidget>(*window, name.c_str())->isVisible()) << name;
         EXPECT_TRUE(Find<QWidget>(*window, name.c_str())->isHidden()) << name;
     }
-    EXPECT_EQ(Setting(19), "0");
+    EXPECT_EQ(Setting(setting::InfoPanels), "0");
 }
 
 TEST_F(InfoPanelsOfWindow, AreShownAndHiddenAllTogetherAndTheSettingFollows) {
@@ -115,12 +115,12 @@ TEST_F(InfoPanelsOfWindow, AreShownAndHiddenAllTogetherAndTheSettingFollows) {
         EXPECT_TRUE(Find<QWidget>(*window, name.c_str())->isVisible()) << name;
     }
     EXPECT_TRUE(Find<QWidget>(*window, toolbarBackground)->isVisible());
-    EXPECT_EQ(Setting(19), "1");
+    EXPECT_EQ(Setting(setting::InfoPanels), "1");
     Choose("FileNotes");
     EXPECT_FALSE(Find<QWidget>(*window, biochartHeading)->isVisible());
     EXPECT_FALSE(Find<QWidget>(*window, notePad)->isVisible());
     EXPECT_TRUE(Find<QWidget>(*window, toolbarBackground)->isVisible()) << "the toolbar stays";
-    EXPECT_EQ(Setting(19), "0");
+    EXPECT_EQ(Setting(setting::InfoPanels), "0");
 }
 
 TEST_F(InfoPanelsOfWindow, GiveTheFocusToTheNotePad) {
@@ -135,7 +135,7 @@ TEST_F(InfoPanelsOfWindow, AreShownAfterARestartWhereTheyWereShown) {
     Quit();
     Start();
     EXPECT_TRUE(Find<QWidget>(*window, biochartHeading)->isVisible());
-    EXPECT_EQ(Setting(19), "1");
+    EXPECT_EQ(Setting(setting::InfoPanels), "1");
 }
 
 TEST_F(InfoPanelsOfWindow, HideTheWelcomeWhileTheyAreShown) {
@@ -268,7 +268,8 @@ TEST_F(InfoPanelsOfWindow, TheBirthDateOfTheSettingsIsShownInItsForm) {
     auto* picker = Find<DatePicker>(*window, birthDatePicker);
     EXPECT_EQ(picker->displayFormat(), QStringLiteral("ddd d MMM yyyy"));
     EXPECT_EQ(MediumDate(picker->Value()), "01-Jan-1970");
-    EXPECT_EQ(Setting(15), "01-Jan-1970") << "drawing the chart writes the date back";
+    EXPECT_EQ(Setting(setting::BirthDate), "01-Jan-1970")
+        << "drawing the chart writes the date back";
 }
 
 TEST_F(InfoPanelsOfWindow, TheChartIsOneRowOfFourSeries) {
@@ -309,7 +310,7 @@ TEST_F(InfoPanelsOfWindow, OnTheDayOfBirthAllFourValuesAreZero) {
     Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
     Click(*window, updateButton);
     for (int column = 1; column <= 4; ++column) EXPECT_EQ(Value(column), 0);
-    EXPECT_EQ(Setting(15), "01-Jun-2005");
+    EXPECT_EQ(Setting(setting::BirthDate), "01-Jun-2005");
 }
 
 TEST_F(InfoPanelsOfWindow, ADateAfterTodayDrawsANegativeWave) {
@@ -324,7 +325,7 @@ TEST_F(InfoPanelsOfWindow, QuittingKeepsTheBirthDateOfTheLastDrawing) {
     StartShown();
     Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
     Quit();
-    EXPECT_EQ(Setting(15), "01-Jan-1970");
+    EXPECT_EQ(Setting(setting::BirthDate), "01-Jan-1970");
 }
 
 TEST_F(InfoPanelsOfWindow, MoreWaitsForTheBiorhythmForm) {
@@ -369,7 +370,7 @@ std::string SyndicateFile(const std::string& name, const std::string& manager) {
 
 TEST_F(InfoPanelsOfWindow, ShowTheSyndicateOfTheSettings) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(16) = "SMembers.000";
+    program.state.Settings(setting::SyndicateFile) = "SMembers.000";
     SaveSettings(program.state, program.folder);
     program.folder.Write("SMembers.000", SyndicateFile("The <b>Wednesday</b> Club", "Ann"));
     Start();
@@ -387,7 +388,7 @@ TEST_F(InfoPanelsOfWindow, WithoutASyndicateTheDesignTextGivesWayToEmptyTexts) {
 
 TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(16) = "SMembers.000";
+    program.state.Settings(setting::SyndicateFile) = "SMembers.000";
     SaveSettings(program.state, program.folder);
     program.folder.Write("SMembers.000", SyndicateFile("Club", "Ann"));
     Start();
@@ -400,7 +401,9 @@ TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
 TEST_F(InfoPanelsOfWindow, ShowAnotherSyndicateOnceTheFormThatOpenedItHasClosed) {
     program.folder.Write("SMembers.003", SyndicateFile("Club", "Ann"));
     Start();
-    TellingForm::whileOpen = [](Program& opened) { opened.state.Settings(16) = "SMembers.003"; };
+    TellingForm::whileOpen = [](Program& opened) {
+        opened.state.Settings(setting::SyndicateFile) = "SMembers.003";
+    };
     CatalogueEntry entry{.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm};
     window->Open(entry);
     EXPECT_EQ(TextOf(syndicateName), QString()) << "no form that changes the syndicate";
@@ -413,10 +416,10 @@ TEST_F(InfoPanelsOfWindow, ShowAnotherSyndicateOnceTheFormThatOpenedItHasClosed)
 
 TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(16) = "SMembers.007";
+    program.state.Settings(setting::SyndicateFile) = "SMembers.007";
     SaveSettings(program.state, program.folder);
     Start();
-    EXPECT_EQ(Setting(16), "");
+    EXPECT_EQ(Setting(setting::SyndicateFile), "");
     EXPECT_EQ(TextOf(syndicateName), QString());
 }
 

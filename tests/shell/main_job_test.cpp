@@ -10,6 +10,7 @@
 
 #include "core/draw_database.h"
 #include "core/filters.h"
+#include "core/settings.h"
 #include "entries/AppendShownLines.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/TextConversion.h"
@@ -126,8 +127,8 @@ TEST_F(MainJob, LinesOfUkLottoAreMadeFilteredSavedAndFoundAgain) {
 
     const ProgramRun again(folder_.path());
     EXPECT_EQ(RecordsOf(again.folder.Read("MyLottery.txt")), shown);
-    EXPECT_EQ(again.test.state.Settings(17), "Ann");
-    EXPECT_EQ(again.test.state.Settings(18), "01-Jun-2005");
+    EXPECT_EQ(again.test.state.Settings(setting::PlayerName), "Ann");
+    EXPECT_EQ(again.test.state.Settings(setting::DrawDate), "01-Jun-2005");
 }
 
 }  // namespace

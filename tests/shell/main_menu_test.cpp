@@ -204,7 +204,7 @@ TEST_F(MainMenuOfWindow, ShowsTheLinksThatTheSettingsName) {
 
 TEST_F(MainMenuOfWindow, AnEmptiedLinkLeavesAGapInTheMenu) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(23).clear();
+    program.state.Settings(setting::LinkCaptions + 3).clear();
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_FALSE(Entry("LinksLink(3)")->isVisible());
@@ -214,7 +214,7 @@ TEST_F(MainMenuOfWindow, AnEmptiedLinkLeavesAGapInTheMenu) {
 
 TEST_F(MainMenuOfWindow, ShowsTheAmpersandOfALinksName) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(21) = "Draws & dates";
+    program.state.Settings(setting::LinkCaptions + 1) = "Draws & dates";
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_EQ(Entry("LinksLink(1)")->text(), QStringLiteral("Draws && dates"));
@@ -223,7 +223,8 @@ TEST_F(MainMenuOfWindow, ShowsTheAmpersandOfALinksName) {
 TEST_F(MainMenuOfWindow, ALinkOpensItsAddress) {
     Start();
     Choose("LinksLink(3)");
-    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(33))});
+    EXPECT_EQ(program.pages,
+              std::vector<QString>{QString::fromStdString(Setting(setting::LinkAddresses + 3))});
 }
 
 TEST_F(MainMenuOfWindow, TheLastLinkOpensTheNameOfTheFirstDownload) {
@@ -236,7 +237,8 @@ TEST_F(MainMenuOfWindow, TheLastLinkOpensTheNameOfTheFirstDownload) {
 TEST_F(MainMenuOfWindow, TheWebsiteIsTheAddressOfLinkZero) {
     Start();
     Choose("HelpWebSite");
-    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(30))});
+    EXPECT_EQ(program.pages,
+              std::vector<QString>{QString::fromStdString(Setting(setting::LinkAddresses))});
 }
 
 TEST_F(MainMenuOfWindow, F1OpensTheHelpPage) {

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImage>
 
+#include "core/settings.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"
 
@@ -41,23 +42,23 @@ class MainSkin : public MainWindow {
 };
 
 TEST_F(MainSkin, TakesTheBackgroundColourOfTheSettings) {
-    WriteSettings(5, "&H00C0FFC0");
-    WriteSettings(10, "2");
+    WriteSettings(setting::BackgroundColour, "&H00C0FFC0");
+    WriteSettings(setting::SkinBits, "2");
     Start();
     EXPECT_EQ(WindowColour(), QColor(0xC0, 0xFF, 0xC0));
 }
 
 TEST_F(MainSkin, KeepsTheWindowsOwnColourWhereColoursAreSwitchedOff) {
-    WriteSettings(5, "&H00C0FFC0");
+    WriteSettings(setting::BackgroundColour, "&H00C0FFC0");
     Start();
     EXPECT_EQ(WindowColour(), own);
 }
 
 TEST_F(MainSkin, GivesTheRememberedColourBackWhenColoursAreSwitchedOffAgain) {
-    WriteSettings(5, "&H00C0FFC0");
-    WriteSettings(10, "2");
+    WriteSettings(setting::BackgroundColour, "&H00C0FFC0");
+    WriteSettings(setting::SkinBits, "2");
     Start();
-    ChangeSettings([](Program& opened) { opened.state.Settings(10) = "0"; });
+    ChangeSettings([](Program& opened) { opened.state.Settings(setting::SkinBits) = "0"; });
     EXPECT_EQ(WindowColour(), own);
 }
 
@@ -74,7 +75,7 @@ TEST_F(MainSkin, ShowsTheWindowsColourWithoutAPicture) {
 
 TEST_F(MainSkin, ShowsNoPictureWherePicturesAreSwitchedOff) {
     WritePicture(Qt::red);
-    WriteSettings(10, "2");
+    WriteSettings(setting::SkinBits, "2");
     Start();
     EXPECT_EQ(Background(), WindowColour());
 }
@@ -82,7 +83,7 @@ TEST_F(MainSkin, ShowsNoPictureWherePicturesAreSwitchedOff) {
 TEST_F(MainSkin, TakesThePictureAwayWhenPicturesAreSwitchedOff) {
     WritePicture(Qt::red);
     Start();
-    ChangeSettings([](Program& opened) { opened.state.Settings(10) = "0"; });
+    ChangeSettings([](Program& opened) { opened.state.Settings(setting::SkinBits) = "0"; });
     EXPECT_EQ(Background(), own);
 }
 

@@ -54,14 +54,14 @@ class MainWindow : public testing::Test {
 
     void Choose(const char* entry) { Entry(entry)->trigger(); }
 
-    /// Changes one entry of the settings on disk, which are made with the defaults where missing.
-    void WriteSettings(int entry, const std::string& text) {
+    /// Changes one of the settings on disk, which are made with the defaults where missing.
+    void WriteSettings(int slot, const std::string& text) {
         LoadSettings(program.state, program.folder);
-        program.state.Settings(entry) = text;
+        program.state.Settings(slot) = text;
         SaveSettings(program.state, program.folder);
     }
 
-    std::string Setting(int entry) { return program.state.Settings(entry); }
+    std::string Setting(int slot) { return program.state.Settings(slot); }
 
     TestProgram program;
     std::unique_ptr<Quillon> window;

@@ -45,10 +45,10 @@ class Process : public testing::Test {
         return files;
     }
 
-    void WriteSettings(int entry, const std::string& text) {
+    void WriteSettings(int slot, const std::string& text) {
         DiskFolder folder(folderPath);
         if (!folder.Exists(settingsFile)) MakeDefaultSettings(state, folder);
-        state.Settings(entry) = text;
+        state.Settings(slot) = text;
         SaveSettings(state, folder);
     }
 
@@ -60,7 +60,8 @@ class Process : public testing::Test {
     /// and leave every file as it was.
     void ExpectReport(const std::vector<std::string>& told) {
         QDir(folderPath).mkdir(QStringLiteral("Backup"));
-        if (!QFile::exists(folderPath + QStringLiteral("/quillon.ini"))) WriteSettings(17, "");
+        if (!QFile::exists(folderPath + QStringLiteral("/quillon.ini")))
+            WriteSettings(setting::PlayerName, "");
         const auto before = Files();
         const Outcome outcome = RunToItsEnd();
         EXPECT_EQ(outcome.exitCode, 1);
@@ -104,7 +105,7 @@ TEST_F(Process, SeventySevenDatabasesAreReported) {
 }
 
 TEST_F(Process, AMalformedBirthDateIsReported) {
-    WriteSettings(15, "31/02/1970");
+    WriteSettings(setting::BirthDate, "31/02/1970");
     ExpectReport({"quillon.ini, line 15", "31/02/1970"});
 }
 
@@ -123,8 +124,8 @@ TEST_F(Process, NotesOfSevenItemsAreReported) {
 }
 
 TEST_F(Process, AColourThatIsNoNumberIsReported) {
-    WriteSettings(10, "3");
-    WriteSettings(5, "mauve");
+    WriteSettings(setting::SkinBits, "3");
+    WriteSettings(setting::BackgroundColour, "mauve");
     ExpectReport({"quillon.ini, line 5", "mauve"});
 }
 

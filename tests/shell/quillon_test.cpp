@@ -81,7 +81,7 @@ TEST_F(QuillonForm, StartUpLeavesTheBirthDateOnDiskUntilTheFirstQuit) {
 }
 
 TEST_F(QuillonForm, AMalformedBirthDateFailsTheStart) {
-    WriteSettings(15, "the first of May");
+    WriteSettings(setting::BirthDate, "the first of May");
     const auto before = program.folder.Snapshot();
     const std::string failure = FailureOfStart();
     EXPECT_NE(failure.find("quillon.ini, line 15"), std::string::npos) << failure;
@@ -90,12 +90,12 @@ TEST_F(QuillonForm, AMalformedBirthDateFailsTheStart) {
 }
 
 TEST_F(QuillonForm, AnEmptyBirthDateFailsTheStart) {
-    WriteSettings(15, "");
+    WriteSettings(setting::BirthDate, "");
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
 }
 
 TEST_F(QuillonForm, ThePanelsAreReadBeforeTheBirthDateFails) {
-    WriteSettings(15, "x");
+    WriteSettings(setting::BirthDate, "x");
     program.folder.Write("Notes.txt", " 0 ,a\r\n 0 ,b\r\n");
     EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos) << "notes come first";
 }
@@ -108,10 +108,10 @@ TEST_F(QuillonForm, BackupIsMadeBeforeTheSettings) {
 }
 
 TEST_F(QuillonForm, EachStepOfTheStartComesInItsTurn) {
-    WriteSettings(5, "no colour");
-    WriteSettings(10, "2");
-    WriteSettings(15, "no date");
-    WriteSettings(16, "SMembers.000");
+    WriteSettings(setting::BackgroundColour, "no colour");
+    WriteSettings(setting::SkinBits, "2");
+    WriteSettings(setting::BirthDate, "no date");
+    WriteSettings(setting::SyndicateFile, "SMembers.000");
     const std::string settings = program.folder.Read("quillon.ini");
     program.folder.Write("quillon.ini", settings + "line 101\r\n");
     program.folder.Write("Notes.txt", "");
@@ -122,16 +122,16 @@ TEST_F(QuillonForm, EachStepOfTheStartComesInItsTurn) {
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 101"), std::string::npos);
     program.folder.Write("quillon.ini", settings);
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 5"), std::string::npos);
-    WriteSettings(10, "0");
-    WriteSettings(19, "1");
+    WriteSettings(setting::SkinBits, "0");
+    WriteSettings(setting::InfoPanels, "1");
     EXPECT_NE(FailureOfStart().find("Notes.txt"), std::string::npos);
     EXPECT_FALSE(Find<QLabel>(*window, biochartHeading)->isHidden())
         << "panels come before the notes";
     program.folder.Delete("Notes.txt");
     EXPECT_NE(FailureOfStart().find("quillon.ini, line 15"), std::string::npos);
-    WriteSettings(15, "01/01/1970");
+    WriteSettings(setting::BirthDate, "01/01/1970");
     EXPECT_NE(FailureOfStart().find("SMembers.000"), std::string::npos);
-    WriteSettings(16, "");
+    WriteSettings(setting::SyndicateFile, "");
     EXPECT_NE(FailureOfStart(), "") << "there are 77 databases";
     program.folder.Delete("dbase10.txt");
     EXPECT_EQ(FailureOfStart(), "");
@@ -142,7 +142,7 @@ TEST_F(QuillonForm, ASeventySeventhDatabaseFailsTheStart) {
         program.folder.Write("dbase" + std::to_string(i) + ".txt", Database("Lottery"));
     }
     program.folder.MakeFolder("Backup");
-    WriteSettings(17, "");
+    WriteSettings(setting::PlayerName, "");
     const auto before = program.folder.Snapshot();
     EXPECT_NE(FailureOfStart(), "");
     EXPECT_EQ(program.folder.Snapshot(), before);
@@ -175,10 +175,10 @@ TEST_F(QuillonForm, ASettingsFileOf101LinesFailsTheStart) {
 }
 
 TEST_F(QuillonForm, AColourThatIsNoNumberFailsTheStartWhereColoursAreSwitchedOn) {
-    WriteSettings(5, "blue");
+    WriteSettings(setting::BackgroundColour, "blue");
     EXPECT_EQ(FailureOfStart(), "") << "colours are off";
-    WriteSettings(5, "blue");
-    program.state.Settings(10) = "3";
+    WriteSettings(setting::BackgroundColour, "blue");
+    program.state.Settings(setting::SkinBits) = "3";
     SaveSettings(program.state, program.folder);
     EXPECT_NE(FailureOfStart().find("blue"), std::string::npos);
 }
@@ -186,13 +186,13 @@ TEST_F(QuillonForm, AColourThatIsNoNumberFailsTheStartWhereColoursAreSwitchedOn)
 TEST_F(QuillonForm, ReadsTheSettingsAndLinksAfreshAfterPreferences) {
     Start();
     TellingForm::whileOpen = [](Program& opened) {
-        opened.state.Settings(22) = "Our club";
+        opened.state.Settings(setting::LinkCaptions + 2) = "Our club";
         SaveSettings(opened.state, opened.folder);
-        opened.state.Settings(21) = "never saved";
+        opened.state.Settings(setting::LinkCaptions + 1) = "never saved";
     };
     window->Open(SettingsForm());
     TellingForm::whileOpen = {};
-    EXPECT_EQ(Setting(21), "UK National Lottery");
+    EXPECT_EQ(Setting(setting::LinkCaptions + 1), "UK National Lottery");
     EXPECT_EQ(Entry("LinksLink(2)")->text(), QStringLiteral("Our club"));
 }
 
@@ -303,7 +303,8 @@ TEST_F(QuillonForm, ExitSavesNotesAndSettingsAndEndsTheRunOnce) {
 TEST_F(QuillonForm, ExitLetsMessagesRunBeforeItSaves) {
     Start();
     QMetaObject::invokeMethod(
-        window.get(), [this] { program.state.Settings(17) = "Ann"; }, Qt::QueuedConnection);
+        window.get(), [this] { program.state.Settings(setting::PlayerName) = "Ann"; },
+        Qt::QueuedConnection);
     Choose("FileExit");
     EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
 }
@@ -317,7 +318,7 @@ TEST_F(QuillonForm, ClosingTheWindowIsTheSameEnd) {
 
 TEST_F(QuillonForm, WhatAFormChangedInTheSettingsReachesTheDiskAtQuit) {
     Start();
-    program.state.Settings(17) = "Ann";
+    program.state.Settings(setting::PlayerName) = "Ann";
     Choose("FileExit");
     EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
 }

@@ -140,12 +140,13 @@ TEST_F(ToolbarOfWindow, PictureZeroShowsThePanels) {
 
 TEST_F(ToolbarOfWindow, PictureTwelveOpensLinkZeroEvenWhileItsEntryIsHidden) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(20).clear();
+    program.state.Settings(setting::LinkCaptions).clear();
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_FALSE(Entry("LinksLink(0)")->isVisible());
     Click(*window, ToolbarButton(12).c_str());
-    EXPECT_EQ(program.pages, std::vector<QString>{QString::fromStdString(Setting(30))});
+    EXPECT_EQ(program.pages,
+              std::vector<QString>{QString::fromStdString(Setting(setting::LinkAddresses))});
     EXPECT_FALSE(Picture(12)->Dimmed());
 }
 

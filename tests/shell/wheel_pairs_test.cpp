@@ -3,6 +3,7 @@
 // saved, for a lottery with an extra ball and for one without.
 #include <QAction>
 
+#include "core/settings.h"
 #include "entries/AppendShownLines.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
@@ -53,7 +54,7 @@ class WheelJourney : public testing::Test {
 };
 
 TEST_F(WheelJourney, SavesTheLinesThatTheFiltersHaveLeft) {
-    test_.state.Settings(14) = "4";
+    test_.state.Settings(setting::LongRunStrength) = "4";
     InForm("PlayWheel2", [this](QDialog& form) {
         TypeNumbers(form, 8);
         Click(form, generateButton);

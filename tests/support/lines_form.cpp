@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <string>
 
+#include "core/settings.h"
 #include "platform/widgets/Lists.h"
 
 LinesFormTest::LinesFormTest() {
@@ -98,11 +99,11 @@ void LinesFormTest::ExpectFiltersTakeLinesOut(const FilterNames& filters) {
 }
 
 void LinesFormTest::TakeSkinColours(const char* background) {
-    test_.state.Settings(10) = "2";
-    for (int slot = 1; slot <= 4; ++slot) {
+    test_.state.Settings(setting::SkinBits) = "2";
+    for (int slot = setting::TitleColour; slot <= setting::StatusColour; ++slot) {
         test_.state.Settings(slot) = "&H00000" + std::to_string(slot);
     }
-    test_.state.Settings(5) = background;
+    test_.state.Settings(setting::BackgroundColour) = background;
 }
 
 void LinesFormTest::ExpectTabOrder(const std::vector<const char*>& order) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "core/settings.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
@@ -34,7 +35,8 @@ class WheelFormTest : public LinesFormTest {
         AddLottery(test_.folder, "dbase4.txt", "Seven", "7,47,1,9,0");
         AddLottery(test_.folder, "dbase5.txt", "Five plain", "5,34,0,0,0");
         AddLottery(test_.folder, "dbase6.txt", "Six of 40", "6,40,0,0,0");
-        for (int slot = 11; slot <= 14; ++slot) test_.state.Settings(slot) = "2";
+        for (int slot = setting::OddEvenStrength; slot <= setting::LongRunStrength; ++slot)
+            test_.state.Settings(slot) = "2";
     }
 
     static std::string BoxName(int index) { return "Text1(" + std::to_string(index) + ")"; }

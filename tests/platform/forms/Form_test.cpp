@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
+#include "core/settings.h"
 #include "platform/widgets/Widgets.h"
 #include "tests/support/form_test.h"
 
@@ -195,7 +196,7 @@ TEST(AFormOnAFrame, OpensNoHigherThanTheScreenWhereItCanBeLower) {
 }
 
 TEST_F(AForm, PaintsItsPictureOverAllOfItself) {
-    test.state.Settings(10) = "1 Skinning/colours";
+    test.state.Settings(setting::SkinBits) = "1 Skinning/colours";
     test.folder.Write("SkinPlay.jpg", RedPicture());
     form.Skinning(QStringLiteral("SkinPlay.jpg"), {});
     const QImage shot = form.grab().toImage();
@@ -204,7 +205,7 @@ TEST_F(AForm, PaintsItsPictureOverAllOfItself) {
 }
 
 TEST_F(AForm, KeepsItsPictureWhereTheNewOneIsMissing) {
-    test.state.Settings(10) = "1";
+    test.state.Settings(setting::SkinBits) = "1";
     test.folder.Write("SkinPlay.jpg", RedPicture());
     form.Skinning(QStringLiteral("SkinPlay.jpg"), {});
     form.Skinning(QStringLiteral("SkinFile.jpg"), {});
@@ -212,10 +213,10 @@ TEST_F(AForm, KeepsItsPictureWhereTheNewOneIsMissing) {
 }
 
 TEST_F(AForm, LosesItsPictureWherePicturesAreSwitchedOff) {
-    test.state.Settings(10) = "1";
+    test.state.Settings(setting::SkinBits) = "1";
     test.folder.Write("SkinPlay.jpg", RedPicture());
     form.Skinning(QStringLiteral("SkinPlay.jpg"), {});
-    test.state.Settings(10) = "0";
+    test.state.Settings(setting::SkinBits) = "0";
     form.Skinning(QStringLiteral("SkinPlay.jpg"), {});
     EXPECT_NE(form.grab().toImage().pixelColor(1, 1), QColor(Qt::red));
 }

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "core/settings.h"
 #include "platform/widgets/Widgets.h"
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
@@ -36,12 +37,12 @@ TEST(AColourValue, IsAFailureBeyond24Bits) { EXPECT_THROW(ToQColor(0x1000000), F
 
 struct TheSkin : testing::Test {
     TheSkin() {
-        test.state.Settings(1) = "&H0000FF";
-        test.state.Settings(2) = "&H00FF00";
-        test.state.Settings(3) = "&HFF0000";
-        test.state.Settings(4) = "&H000080";
-        test.state.Settings(5) = "&H8000000F";
-        test.state.Settings(10) = "3";
+        test.state.Settings(setting::TitleColour) = "&H0000FF";
+        test.state.Settings(setting::BodyColour) = "&H00FF00";
+        test.state.Settings(setting::SmallLabelColour) = "&HFF0000";
+        test.state.Settings(setting::StatusColour) = "&H000080";
+        test.state.Settings(setting::BackgroundColour) = "&H8000000F";
+        test.state.Settings(setting::SkinBits) = "3";
     }
 
     void Apply() { ApplySkinColours(test.state, form, labels); }
@@ -63,7 +64,7 @@ struct TheSkin : testing::Test {
 
 TEST_F(TheSkin, IsChosenByTwoBitsOfEntry10) {
     const auto choice = [this](const char* text) {
-        test.state.Settings(10) = text;
+        test.state.Settings(setting::SkinBits) = text;
         const SkinChoice made = SkinChoiceOf(test.state);
         return std::pair(made.pictures, made.colours);
     };
@@ -90,7 +91,7 @@ TEST_F(TheSkin, GivesTheFormItsBackground) {
 
 TEST_F(TheSkin, LeavesOnlyTextThatCanBeReadOnTheBackground) {
     for (const char* background : {"&H8000000F", "&H0", "&H400000", "&HFFFFFF", "&H00FFFF"}) {
-        test.state.Settings(5) = background;
+        test.state.Settings(setting::BackgroundColour) = background;
         Apply();
         const QPalette palette = form.palette();
         const auto contrast = [&palette](QPalette::ColorRole text, QPalette::ColorRole under) {
@@ -107,22 +108,22 @@ TEST_F(TheSkin, TakesItsColoursBackWhereTheyAreSwitchedOff) {
     const QString before = TextColour(title);
     const QString background = form.palette().color(QPalette::Window).name();
     Apply();
-    test.state.Settings(10) = "1";
+    test.state.Settings(setting::SkinBits) = "1";
     Apply();
     EXPECT_EQ(TextColour(title), before);
     EXPECT_EQ(form.palette().color(QPalette::Window).name(), background);
 }
 
 TEST_F(TheSkin, ReportsTheLineOfAColourThatIsNoNumber) {
-    test.state.Settings(3) = "blue";
+    test.state.Settings(setting::SmallLabelColour) = "blue";
     EXPECT_EQ(FailureOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 3:");
-    test.state.Settings(3) = "&H0";
-    test.state.Settings(5) = "";
+    test.state.Settings(setting::SmallLabelColour) = "&H0";
+    test.state.Settings(setting::BackgroundColour) = "";
     EXPECT_EQ(FailureOf([this] { Apply(); }).substr(0, 20), "quillon.ini, line 5:");
 }
 
 TEST_F(TheSkin, ReportsTheLineOfAColourThatThereIsNot) {
-    test.state.Settings(4) = "&H80000020";
+    test.state.Settings(setting::StatusColour) = "&H80000020";
     EXPECT_EQ(
         FailureOf([this] { Apply(); }),
         "quillon.ini, line 4: expected a colour of 24 bits, or a system colour from &H80000000 "
@@ -130,14 +131,14 @@ TEST_F(TheSkin, ReportsTheLineOfAColourThatThereIsNot) {
 }
 
 TEST_F(TheSkin, AsksNothingOfColoursWhereTheyAreSwitchedOff) {
-    test.state.Settings(3) = "blue";
-    test.state.Settings(5) = "";
-    test.state.Settings(10) = "1";
+    test.state.Settings(setting::SmallLabelColour) = "blue";
+    test.state.Settings(setting::BackgroundColour) = "";
+    test.state.Settings(setting::SkinBits) = "1";
     EXPECT_NO_THROW(Apply());
 }
 
 TEST_F(TheSkin, AsksNothingOfColoursForLabelsThatAFormDoesNotHave) {
-    test.state.Settings(1) = "no colour";
+    test.state.Settings(setting::TitleColour) = "no colour";
     EXPECT_NO_THROW(ApplySkinColours(test.state, form, {}));
 }
 
@@ -168,7 +169,7 @@ TEST_F(TheSkin, HasNoPictureWhereTheFileIsMissing) {
 
 TEST_F(TheSkin, HasNoPictureWherePicturesAreSwitchedOff) {
     test.folder.Write("SkinPlay.jpg", Picture(30, 20, "JPG"));
-    test.state.Settings(10) = "2";
+    test.state.Settings(setting::SkinBits) = "2";
     EXPECT_TRUE(SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg")).isNull());
 }
 
@@ -185,7 +186,7 @@ TEST_F(TheSkin, ReportsAFileThatIsNoPicture) {
 
 TEST_F(TheSkin, DoesNotReadAPictureWherePicturesAreSwitchedOff) {
     test.folder.Write("SkinPlay.jpg", "this is no picture");
-    test.state.Settings(10) = "2";
+    test.state.Settings(setting::SkinBits) = "2";
     EXPECT_NO_THROW(SkinPicture(test.state, test.folder, QStringLiteral("SkinPlay.jpg")));
 }
 

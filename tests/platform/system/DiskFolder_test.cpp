@@ -338,7 +338,7 @@ TEST_F(OnDisk, FailsForAFileThatMayNotBeRead) {
 TEST_F(OnDisk, KeepsTheSettingsWhereTheDiskIsFullAtAnyByte) {
     const auto state = std::make_unique<State>();
     MakeDefaultSettings(*state, folder_);
-    state->Settings(17) = "Ann";
+    state->Settings(setting::PlayerName) = "Ann";
     const std::size_t size = folder_.Read("quillon.ini").size() + 3;
     ExpectUntouchedAtEveryByte(size, [&] { SaveSettings(*state, folder_); });
     EXPECT_EQ(folder_.Read("quillon.ini").size(), size);
