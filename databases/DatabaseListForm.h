@@ -4,10 +4,11 @@
 #include "platform/forms/Form.h"
 
 class ListBox;
+class QLabel;
 class QPushButton;
 
-/// A small form that lists the lotteries and does one thing with the file of the chosen one, by its
-/// button or a double click.
+/// A small form that lists the lotteries, says what the file of the chosen one holds, and does one
+/// thing with that file, by its button or a double click.
 class DatabaseListForm : public Form {
     Q_OBJECT
   public:
@@ -21,9 +22,15 @@ class DatabaseListForm : public Form {
     /// Does it with the chosen lottery; there may be none.
     virtual void Act() = 0;
 
+    /// A lottery was chosen, or the choice was taken away.
+    virtual void ChoiceChanged() {}
+
     /// The lotteries, in the order of `state().DbaseFiles`.
     ListBox& Lotteries() { return *lotteries_; }
 
   private:
+    void DescribeChosen();
+
     ListBox* lotteries_;
+    QLabel* contents_;
 };

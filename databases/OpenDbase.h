@@ -11,4 +11,10 @@ class OpenDbase final : public DatabaseListForm {
 
   protected:
     void Act() override;
+    void ChoiceChanged() override;
+
+  private:
+    OpenDbase(Program& program, QPushButton* open, QWidget* parent);
+
+    QPushButton* open_;
 };

@@ -21,6 +21,13 @@ const Message areYouSure{.title = QStringLiteral("Delete database"),
                          .sign = Sign::Question,
                          .buttons = Buttons::YesNo};
 
+/// UK Lotto from 19 Nov 94 to 07 Oct 15.
+std::string ManyDraws(int count) {
+    std::string bytes = "UK Lotto\r\n\r\n6,49,0,0,1\r\n07 Oct 15,1,2,3,4,5,6,0,7\r\n";
+    for (int draw = 3; draw <= count; ++draw) bytes += "28 May 05,1,2,3,4,5,6,0,7\r\n";
+    return bytes + "19 Nov 94,1,2,3,4,5,6,0,7\r\n";
+}
+
 template <typename FormType>
 class WholeFiles : public testing::Test {
   protected:
@@ -28,6 +35,10 @@ class WholeFiles : public testing::Test {
         AddUkLotto(test_.folder);
         AddThunderball(test_.folder);
         test_.state.DbaseFile = "before.txt";
+        Open();
+    }
+
+    void Open() {
         form_ = std::make_unique<FormType>(test_.program, nullptr);
         form_->Load();
         form_->show();
@@ -40,6 +51,8 @@ class WholeFiles : public testing::Test {
         QTest::mouseClick(Lotteries().viewport(), Qt::LeftButton, Qt::NoModifier, place);
         QTest::mouseDClick(Lotteries().viewport(), Qt::LeftButton, Qt::NoModifier, place);
     }
+
+    QString Contents() { return Find<QLabel>(*form_, "ChosenDatabase")->text(); }
 
     TestProgram test_;
     std::unique_ptr<FormType> form_;
@@ -87,8 +100,26 @@ TEST_F(OpeningADatabase, LeavesTheDrawsInMemory) {
 
 TEST_F(OpeningADatabase, WithoutASelectionEndsTheRun) {
     Click(*form_, openButton);
-    EXPECT_TRUE(TakeFailure());
+    EXPECT_EQ(TakeFailure(), "No lottery was chosen in the list.");
     EXPECT_TRUE(test_.pages.empty());
+}
+
+TEST_F(OpeningADatabase, EnterOpensNothingBeforeALotteryIsChosen) {
+    QTest::keyClick(&Lotteries(), Qt::Key_Return);
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_TRUE(test_.pages.empty());
+    EXPECT_FALSE(Find<QPushButton>(*form_, openButton)->isDefault());
+    Lotteries().SetIndex(1);
+    EXPECT_TRUE(Find<QPushButton>(*form_, openButton)->isDefault());
+}
+
+TEST_F(OpeningADatabase, SaysWhatTheChosenFileHolds) {
+    EXPECT_EQ(Contents(), QString());
+    Lotteries().SetIndex(0);
+    EXPECT_EQ(Contents(),
+              QStringLiteral("UK Lotto, dbase100.txt, 2 draws, 25 May 05 to 28 May 05"));
+    Lotteries().SetIndex(-1);
+    EXPECT_EQ(Contents(), QString());
 }
 
 TEST_F(OpeningADatabase, CancelOpensNothing) {
@@ -113,6 +144,36 @@ TEST_F(DeletingADatabase, WithoutASelectionDoesNothing) {
     Click(*form_, deleteButton);
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(test_.messages.Shown(), 0);
+}
+
+TEST_F(DeletingADatabase, SaysWhatWouldGo) {
+    test_.folder.Write("dbase100.txt", ManyDraws(2065));
+    AddDailyPlay(test_.folder);
+    Open();
+    Lotteries().SetIndex(0);
+    EXPECT_EQ(Contents(),
+              QStringLiteral("UK Lotto, dbase100.txt, 2,065 draws, 19 Nov 94 to 07 Oct 15"));
+    Lotteries().SetIndex(1);
+    EXPECT_EQ(Contents(), QStringLiteral("UK Thunderball, dbase101.txt, 1 draw, 28 May 05"));
+    Lotteries().SetIndex(2);
+    EXPECT_EQ(Contents(), QStringLiteral("UK Daily Play, dbase102.txt, no draws"));
+}
+
+TEST_F(DeletingADatabase, ADatabaseOfWhichLittleCanBeReadIsDeletedToo) {
+    test_.folder.Write("dbase100.txt", "UK Lotto\r\n\r\n6,49\r\nsomeday,1\r\n");
+    Lotteries().SetIndex(0);
+    EXPECT_EQ(Contents(), QStringLiteral("UK Lotto, dbase100.txt, 1 draw"));
+    test_.messages.Expect(areYouSure, Answer::Yes);
+    Click(*form_, deleteButton);
+    EXPECT_FALSE(test_.folder.Exists("dbase100.txt"));
+}
+
+TEST_F(DeletingADatabase, EnterOnAChosenLotteryDeletesNothing) {
+    QTest::keyClick(&Lotteries(), Qt::Key_Down);
+    QTest::keyClick(&Lotteries(), Qt::Key_Return);
+    EXPECT_EQ(Lotteries().Index(), 0);
+    EXPECT_EQ(test_.messages.Shown(), 0);
+    EXPECT_TRUE(form_->isVisible());
 }
 
 TEST_F(DeletingADatabase, DeletesTheFileAfterAQuestionAndCloses) {
