@@ -23,6 +23,13 @@ bool OnlyLeads(int key) {
     }
 }
 
+/// Whether the widget is only told of a key because the one with the focus had no use for it. That
+/// one may have acted all the same, as a text box does on Enter.
+bool IsPassedOn(const QWidget& widget) {
+    const QWidget* focus = widget.window()->focusWidget();
+    return &widget != focus && widget.isAncestorOf(focus);
+}
+
 /// Whether the event is the start of an action: a press of a mouse button on a control, or of a
 /// key, be it the key of a control or of a shortcut.
 bool Acts(const QWidget& widget, const QEvent& event) {
@@ -31,7 +38,7 @@ bool Acts(const QWidget& widget, const QEvent& event) {
             return widget.focusPolicy() != Qt::NoFocus || widget.focusProxy() != nullptr;
         case QEvent::KeyPress:
         case QEvent::ShortcutOverride:
-            return !OnlyLeads(static_cast<const QKeyEvent&>(event).key());
+            return !OnlyLeads(static_cast<const QKeyEvent&>(event).key()) && !IsPassedOn(widget);
         default:
             return false;
     }

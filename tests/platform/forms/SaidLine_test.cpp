@@ -77,6 +77,16 @@ TEST_F(ASayingForm, TakesAKeyForAnAction) {
     EXPECT_EQ(Said(), QString());
 }
 
+TEST_F(ASayingForm, KeepsWhatEnterInABoxDid) {
+    auto* box = Find<QLineEdit>(form, "Text1");
+    QObject::connect(box, &QLineEdit::returnPressed, &form, [this] { form.Say(saved); });
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(Said(), saved) << "a text box passes Enter on to the form";
+    QTest::keyClick(box, Qt::Key_Left);
+    EXPECT_EQ(Said(), QString());
+}
+
 TEST_F(ASayingForm, SaysItAgainForTheSameAction) {
     Click(form, "Command7");
     QTest::keyClick(Find<QWidget>(form, "Command7"), Qt::Key_Space);
