@@ -99,12 +99,16 @@ void HistoryW::SelectRow(int row) {
 void HistoryW::FollowRow() {
     int row = grid_->CurrentRow();
     while (grid_->Cell(row, 0).isEmpty()) --row;
-    const std::string where = state().DbaseFile + ", line " + std::to_string(std::max(row, 1) + 3);
-    date_->SetValue(DateFromText(FromQString(grid_->Cell(row, 0)), services().region,
-                                 services().today(), where));
+    date_->SetValue(DateOfRow(row));
     for (int index = 1; index <= 8; ++index) Box(index)->setText(grid_->Cell(row, index));
     grid_->ScrollToRow(row);
     grid_->MarkRow(row);
+}
+
+Date HistoryW::DateOfRow(int row) const {
+    const std::string where = state().DbaseFile + ", line " + std::to_string(std::max(row, 1) + 3);
+    return DateFromText(FromQString(grid_->Cell(row, 0)), services().region, services().today(),
+                        where);
 }
 
 void HistoryW::ShowAscending() {
@@ -140,10 +144,11 @@ void HistoryW::ShowInDrawOrder() {
 
 void HistoryW::UpdateChosenDraw() {
     const Hourglass hourglass;
-    UpdateDraw(state(), folder(), grid_->CurrentRow(),
-               MakeDrawRecord(date_->Value(), TextsOf(boxes_)),
+    const DrawRecord draw = MakeDrawRecord(date_->Value(), TextsOf(boxes_));
+    UpdateDraw(state(), folder(), grid_->CurrentRow(), draw,
                {.region = services().region, .today = services().today()});
     ChooseLottery();
+    Say(tr("Draw of %1 updated").arg(ToQString(DrawDate(draw.date))));
 }
 
 void HistoryW::DeleteChosenDraw() {
@@ -157,8 +162,10 @@ void HistoryW::DeleteChosenDraw() {
         return;
     }
     const Hourglass hourglass;
+    const Date date = DateOfRow(row);
     DeleteDraw(state(), folder(), row);
     ChooseLottery();
+    Say(tr("Draw of %1 deleted").arg(ToQString(DrawDate(date))));
 }
 
 void HistoryW::Print() {

@@ -40,6 +40,7 @@ class HistoryW final : public Form {
 
     void SelectRow(int row);
     void FollowRow();
+    Date DateOfRow(int row) const;
 
     void ShowAscending();
     void ShowInDrawOrder();

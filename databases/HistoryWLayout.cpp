@@ -11,6 +11,7 @@
 #include "databases/HistoryW.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
@@ -52,7 +53,7 @@ HistoryW::HistoryW(Program& program, QWidget* parent)
 }
 
 QLayout* HistoryW::MakeHistory() {
-    lotteryName_ = MakeLabel(QStringLiteral("Label1"), QString());
+    lotteryName_ = Named(new ElidingLabel, QStringLiteral("Label1"));
     QFont bold = lotteryName_->font();
     bold.setBold(true);
     lotteryName_->setFont(bold);

@@ -45,12 +45,32 @@ TEST_F(DrawsHistoryEdit, DeleteRemovesTheSelectedDrawWithoutAQuestion) {
     ExpectMarked(1);
 }
 
+TEST_F(DrawsHistoryEdit, SaysWhichDrawWasDeletedUntilTheNextAction) {
+    Open();
+    ClickRow(2);
+    Find<QDateEdit>(*form_, datePicker)->setDate(QDate(2005, 6, 1));
+    Click(*form_, deleteButton);
+    EXPECT_EQ(Said(), QStringLiteral("Draw of 25 May 05 deleted"));
+    ClickRow(1);
+    EXPECT_EQ(Said(), QString());
+}
+
+TEST_F(DrawsHistoryEdit, SaysWhichDrawWasUpdated) {
+    Open();
+    ClickRow(2);
+    Update(QDate(2005, 5, 1));
+    EXPECT_EQ(Said(), QStringLiteral("Draw of 01 May 05 updated"));
+    QTest::keyClick(&Box(1), Qt::Key_Return);
+    EXPECT_EQ(Said(), QStringLiteral("Draw of 28 May 05 updated"));
+}
+
 TEST_F(DrawsHistoryEdit, TheLastDrawIsNotDeleted) {
     Open();
     ChooseLottery(1);
     const auto before = test_.folder.Snapshot();
     test_.messages.Expect(cannotDeleteLastLine);
     Click(*form_, deleteButton);
+    EXPECT_EQ(Said(), QString());
     EXPECT_EQ(test_.folder.Snapshot(), before);
     ExpectMarked(1);
 }

@@ -179,6 +179,17 @@ TEST_F(DrawsHistory, ItsColumnsHoldNineZerosAndTheDateFourteen) {
     EXPECT_EQ(Draws().width(), columns + scrollBar + 6 + 2 * Draws().frameWidth());
 }
 
+TEST_F(DrawsHistory, ALongNameOfALotteryDoesNotPushTheListAway) {
+    Open();
+    const int width = form_->sizeHint().width();
+    AddLottery(test_.folder, "dbase1.txt", std::string(200, 'W'), "6,49,0,0,0",
+               {"28 May 05,1,2,3,4,5,6,0,0"});
+    Open();
+    EXPECT_EQ(Find<QLabel>(*form_, lotteryName)->text().size(), 200);
+    EXPECT_EQ(form_->sizeHint().width(), width);
+    EXPECT_LE(form_->minimumSizeHint().width(), width);
+}
+
 TEST_F(DrawsHistory, BoxesDropEveryKeyButDigitsAndBackspace) {
     Open();
     Box(1).clear();

@@ -3,6 +3,7 @@
 
 #include <QDateEdit>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <memory>
@@ -98,6 +99,8 @@ class HistoryForm : public testing::Test {
         Find<QDateEdit>(*form_, datePicker)->setDate(date);
         Click(*form_, updateButton);
     }
+
+    QString Said() { return Find<QLabel>(*form_, "Said")->text(); }
 
     std::string Database(const char* file = "dbase100.txt") { return test_.folder.Read(file); }
 
