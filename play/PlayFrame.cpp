@@ -7,6 +7,7 @@
 
 #include "core/draw_database.h"
 #include "core/filters.h"
+#include "core/lines.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/InputDropper.h"
@@ -20,6 +21,9 @@ namespace {
 
 const QString helpPage = QStringLiteral("helpplay.html");
 
+// The headings above the lines and the empty row behind them.
+constexpr int rowsAroundLines = 2;
+
 }  // namespace
 
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
@@ -28,7 +32,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
       heading_(MakeTitle(QStringLiteral("Label7"), text.heading)),
       body_(MakeBody(QStringLiteral("Label2"), text.body)),
       lotteries_(Named(new ListBox, QStringLiteral("List1"))),
-      grid_(Named(new Grid(mostLines + 2, 9), QStringLiteral("MSFlexGrid1"))),
+      grid_(Named(new Grid(mostLines + rowsAroundLines, 9), QStringLiteral("MSFlexGrid1"))),
       besideList_(new QVBoxLayout),
       column_(new QVBoxLayout),
       foot_(new QVBoxLayout) {
@@ -133,7 +137,12 @@ SkinLabels PlayFrame::SkinnedLabels() const {
 
 bool PlayFrame::Lets(bool waits) const { return !waits || state().Busy == 0; }
 
-void PlayFrame::ShowResult() { ShowLines(state(), *grid_); }
+void PlayFrame::ShowResult() {
+    // A filter may show what another form has left in the table.
+    const int rows = LineCount(view()) + rowsAroundLines;
+    if (rows > grid_->RowCount()) grid_->SetRowCount(rows);
+    ShowLines(state(), *grid_);
+}
 
 void PlayFrame::EmptyGrid() { WipeLines(*grid_, 1); }
 
@@ -144,6 +153,7 @@ void PlayFrame::ChooseLottery() {
     {
         const Hourglass hourglass;
         state().Busy = -1;
+        ResetInputs();
         ClearLinesGrid(*grid_);
         LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
         DatabaseLoaded();

@@ -43,7 +43,8 @@ class PlayFrame : public Form {
     void Load() override;
 
   protected:
-    /// `mostLines` is the longest result that the form can have.
+    /// The grid has room for `mostLines` lines, the longest result that the form can be expected to
+    /// have, and grows for a longer one.
     PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
               int mostLines, QWidget* parent);
 
@@ -54,6 +55,9 @@ class PlayFrame : public Form {
     /// Whether the form can make lines of what is chosen; where it cannot, it has said so itself.
     /// Asked before `Busy` is set.
     virtual bool MayGenerate() { return true; }
+
+    /// What the form takes back before another lottery is loaded, `Busy` and the hourglass set.
+    virtual void ResetInputs() {}
 
     /// A form's own steps with the lottery just loaded, `Busy` and the hourglass still set.
     virtual void DatabaseLoaded() {}

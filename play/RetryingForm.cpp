@@ -70,6 +70,7 @@ void RetryingForm::MakeLines() {
                            status_->repaint();
                        },
                    .showLines = [this] { ShowResult(); },
-                   .seconds = services().seconds});
+                   .seconds = services().seconds,
+                   .furtherCondition = [this] { return FurtherCondition(); }});
     if (services().seconds() - start > patience) DropWaitingInput();
 }

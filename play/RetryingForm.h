@@ -22,6 +22,10 @@ class RetryingForm : public PlayFrame {
 
     virtual GeneratorStyle Style() const = 0;
 
+    /// Whether the lines keep to what the form asks of them beside the condition boxes; asked after
+    /// each try.
+    virtual bool FurtherCondition() { return true; }
+
     void MakeLines() override;
 
     /// Takes the ticks out of the condition boxes.

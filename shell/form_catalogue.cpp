@@ -14,6 +14,7 @@
 #include "entries/SaveEntries.h"
 #include "entries/ShowMyDrawsW.h"
 #include "entries/StoreMyDrawsW.h"
+#include "play/PFullSel.h"
 #include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
 #include "wheels/PWheel2.h"
@@ -76,7 +77,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
 
     {.menuEntry = "PlayAverages", .form = "PAverage"},
-    {.menuEntry = "PlayFullSel", .form = "PFullSel"},
+    {.menuEntry = "PlayFullSel", .form = "PFullSel", .make = Make<PFullSel>},
     {.menuEntry = "PlayColdNums",
      .form = "PHotNumbers",
      .make = Make<PHotNumbers>,

@@ -22,10 +22,13 @@ class WatchingForm final : public PlayFrame {
     explicit WatchingForm(Program& program)
         : PlayFrame(program, {QStringLiteral("Watching"), {}, {}, {}}, {}, 5, nullptr) {}
 
+    std::vector<Sight> reset;
     std::vector<Sight> loaded;
     std::vector<Sight> generated;
 
   protected:
+    void ResetInputs() override { reset.push_back(Look()); }
+
     void DatabaseLoaded() override { loaded.push_back(Look()); }
 
     void MakeLines() override {
@@ -52,6 +55,7 @@ struct ThePlayFrame : testing::Test {
         AddThunderball(test.folder);
         form = std::make_unique<WatchingForm>(test.program);
         form->Load();
+        form->reset.clear();
         form->loaded.clear();
         form->generated.clear();
     }
@@ -69,6 +73,27 @@ TEST_F(ThePlayFrame, LoadsALotteryBusyUnderTheHourglassWithTheGridCleared) {
     EXPECT_EQ(form->loaded[0].busy, -1);
     EXPECT_TRUE(form->loaded[0].hourglass);
     EXPECT_TRUE(form->loaded[0].gridCleared);
+}
+
+TEST_F(ThePlayFrame, ResetsInputsBeforeItClearsTheGridAndLoads) {
+    ChooseSecondLottery();
+    ASSERT_EQ(form->reset.size(), 1U);
+    EXPECT_EQ(form->reset[0].lottery, "UK Lotto");
+    EXPECT_EQ(form->reset[0].busy, -1);
+    EXPECT_TRUE(form->reset[0].hourglass);
+    EXPECT_FALSE(form->reset[0].gridCleared);
+}
+
+TEST_F(ThePlayFrame, GrowsItsGridForTheLinesOfAnotherForm) {
+    test.state.Lines.Fill(0);
+    for (int row = 1; row <= 179; ++row) {
+        for (int column = 1; column <= 6; ++column) {
+            test.state.Lines(row, column) = static_cast<std::int16_t>(row + 7 * column);
+        }
+    }
+    form->show();
+    Click(*form, usualFilters.longRuns);
+    EXPECT_EQ(Find<Grid>(*form, linesGrid)->Cell(179, 1), QStringLiteral("186"));
 }
 
 TEST_F(ThePlayFrame, GeneratesAfterTheLoadBusyUnderTheHourglass) {
