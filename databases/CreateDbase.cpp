@@ -83,10 +83,12 @@ void CreateDbase::OfferExtraBall(bool extraBall) {
 }
 
 void CreateDbase::Save() {
-    if (!NumbersAreWithin(boxes_, picks_->Value(), highest_->Value())) {
+    NumberBox* wrong = FirstOutside(boxes_, picks_->Value(), highest_->Value());
+    if (wrong != nullptr) {
         services().messages.Show(this, {.title = tr("Oops!"),
                                         .text = tr("Incorrect draw result...    "),
                                         .sign = Sign::Exclamation});
+        LeadTo(*wrong);
         return;
     }
     CreateDatabase(folder(), EnteredLottery());

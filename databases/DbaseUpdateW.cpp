@@ -15,9 +15,17 @@
 #include "platform/forms/ShowTip.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
 #include "platform/widgets/Widgets.h"
+
+namespace {
+
+constexpr int newestCount = 3;
+constexpr double smallPrint = 0.9;
+
+}  // namespace
 
 DbaseUpdateW::DbaseUpdateW(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("DbaseUpdateW"), tr("Update lottery databases"), parent) {
@@ -52,14 +60,24 @@ QLayout* DbaseUpdateW::MakeDraw() {
     date_ = Titled(dateTitle,
                    Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), services().today()),
                          QStringLiteral("DTPicker1")));
-    lastUpdate_ = MakeLabel(QStringLiteral("Label13"), QString());
+    connect(date_, &DatePicker::dateChanged, this, [this] { ShowWhetherDateIsTaken(); });
+    takenDate_ = Named(new ElidingLabel, QStringLiteral("TakenDate"));
+    lastUpdate_ = Named(new ElidingLabel, QStringLiteral("Label13"));
+    lastUpdate_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    // Two lines at first, one after a save: nothing below it is to move.
+    lastUpdate_->setMinimumHeight(2 * lastUpdate_->fontMetrics().lineSpacing());
     auto* boxesTitle = MakeLabel(QStringLiteral("Label6"), tr("Enter lottery draw result:"));
     lastBoxTitle_ = MakeLabel(QStringLiteral("Label7"), QString());
     boxes_ = MakeDrawBoxes(0);
+    newestDraws_ = Named(new ElidingLabel, QStringLiteral("NewestDraws"));
+    QFont small = newestDraws_->font();
+    small.setPointSizeF(small.pointSizeF() * smallPrint);
+    newestDraws_->setFont(small);
 
     auto* date = new QHBoxLayout;
     date->addWidget(date_);
-    date->addStretch(1);
+    date->addSpacing(8);
+    date->addWidget(takenDate_, 1);
     auto* column = new QVBoxLayout;
     column->setSpacing(4);
     column->addWidget(dateTitle);
@@ -68,6 +86,8 @@ QLayout* DbaseUpdateW::MakeDraw() {
     column->addWidget(lastUpdate_);
     column->addSpacing(12);
     column->addLayout(BuildDrawBoxes(boxesTitle, lastBoxTitle_, boxes_));
+    column->addSpacing(12);
+    column->addWidget(newestDraws_);
     column->addStretch(1);
     return column;
 }
@@ -93,7 +113,8 @@ void DbaseUpdateW::Load() {
               .body = {QStringLiteral("Label11")},
               .small = {QStringLiteral("Label8"), QStringLiteral("Label4"),
                         QStringLiteral("Label6"), QStringLiteral("Label7")},
-              .status = {QStringLiteral("Label13")}});
+              .status = {QStringLiteral("Label13"), QStringLiteral("TakenDate"),
+                         QStringLiteral("NewestDraws")}});
     date_->SetValue(services().today());
     ListDatabases(program(), *lotteries_);
     ChooseFirstLottery(*lotteries_);
@@ -110,20 +131,55 @@ void DbaseUpdateW::ChooseLottery() {
     lastBoxTitle_->clear();
     if (state().HasBonus > 0) lastBoxTitle_->setText(tr("Bonus"));
     if (state().MaxPball > 0) lastBoxTitle_->setText(tr("Powerball"));
+    ReadDraws();
+}
+
+void DbaseUpdateW::ReadDraws() {
+    const std::string content = folder().Read(state().DbaseFile);
+    const std::vector<std::string_view> draws = DrawLines(content);
+    const DateRules rules{.region = services().region, .today = services().today()};
+    takenDates_.clear();
+    for (const std::string_view draw : draws) {
+        if (const auto date = DateOfLine(draw, rules)) takenDates_.push_back(*date);
+    }
+    ShowWhetherDateIsTaken();
+    ShowNewestDraws(draws);
+}
+
+void DbaseUpdateW::ShowWhetherDateIsTaken() {
+    const bool taken = std::ranges::find(takenDates_, date_->Value()) != takenDates_.end();
+    takenDate_->setText(taken ? tr("There is a draw of this date already") : QString());
+}
+
+void DbaseUpdateW::ShowNewestDraws(const std::vector<std::string_view>& draws) {
+    const std::string lastTitle = FromQString(lastBoxTitle_->text());
+    QStringList lines = {tr("Newest draws:")};
+    for (const std::string_view draw : draws) {
+        if (lines.size() > newestCount) break;
+        lines += ToQString(draw.substr(0, draw.find(','))) % QStringLiteral(":  ") %
+                 ToQString(NumbersInWords(draw, lastTitle));
+    }
+    newestDraws_->setText(lines.join(QLatin1Char('\n')));
 }
 
 void DbaseUpdateW::Save() {
-    if (!NumbersAreValid()) {
+    if (NumberBox* wrong = FirstWrongBox()) {
         ShowTip(services(), this, 6);
+        LeadTo(*wrong);
         return;
     }
     const DrawRecord draw = MakeDrawRecord(date_->Value(), TextsOf(boxes_));
     InsertDraw(state(), folder(), draw, {.region = services().region, .today = services().today()});
     for (NumberBox* box : boxes_) box->clear();
     lastUpdate_->setText(ToQString(DrawDate(draw.date)));
+    ReadDraws();
+    LeadTo(*boxes_.front());
+    Say(tr("Draw of %1 saved: %2")
+            .arg(ToQString(DrawDate(draw.date)),
+                 ToQString(NumbersInWords(draw.text, FromQString(lastBoxTitle_->text())))));
 }
 
-bool DbaseUpdateW::NumbersAreValid() const {
+NumberBox* DbaseUpdateW::FirstWrongBox() const {
     const int picks = std::max(state().Picks, 0);
     if (picks > std::ssize(boxes_)) {
         throw FailureInFile(state().DbaseFile, 3,
@@ -131,5 +187,5 @@ bool DbaseUpdateW::NumbersAreValid() const {
                                 " numbers to pick, but " + std::to_string(picks) +
                                 " stands there.");
     }
-    return NumbersAreWithin(boxes_, picks, state().MaxNum);
+    return FirstOutside(boxes_, picks, state().MaxNum);
 }

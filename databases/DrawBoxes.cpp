@@ -53,10 +53,17 @@ QLayout* BuildDrawBoxes(QLabel* mainTitle, QLabel* lastTitle, const DrawBoxes& b
     return numbers;
 }
 
-bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most) {
-    return std::all_of(boxes.begin(), boxes.begin() + count, [most](const NumberBox* box) {
-        return box->Value() >= 1 && box->Value() <= most;
+NumberBox* FirstOutside(const DrawBoxes& boxes, int count, int most) {
+    const auto* const end = boxes.begin() + count;
+    const auto* const wrong = std::find_if(boxes.begin(), end, [most](const NumberBox* box) {
+        return box->Value() < 1 || box->Value() > most;
     });
+    return wrong == end ? nullptr : *wrong;
+}
+
+void LeadTo(NumberBox& box) {
+    box.setFocus();
+    box.selectAll();
 }
 
 std::array<std::string, 8> TextsOf(const DrawBoxes& boxes) {

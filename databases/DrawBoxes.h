@@ -19,8 +19,12 @@ DrawBoxes MakeDrawBoxes(int firstIndex);
 /// Two titles with the main numbers below the one and the last number below the other.
 QLayout* BuildDrawBoxes(QLabel* mainTitle, QLabel* lastTitle, const DrawBoxes& boxes);
 
-/// Whether each of the first `count` boxes holds a number from 1 to `most`; `count` is at most 8.
-bool NumbersAreWithin(const DrawBoxes& boxes, int count, int most);
+/// The first of the first `count` boxes that holds no number from 1 to `most`; null where all of
+/// them do. `count` is at most 8.
+NumberBox* FirstOutside(const DrawBoxes& boxes, int count, int most);
+
+/// Puts the cursor into the box, whose text the next key replaces.
+void LeadTo(NumberBox& box);
 
 /// What stands in the boxes, hidden ones too, as the files hold it.
 std::array<std::string, 8> TextsOf(const DrawBoxes& boxes);

@@ -92,6 +92,35 @@ std::vector<std::string> StoredDates(const State& state, const ProgramFolder& fo
     return dates;
 }
 
+std::vector<std::string_view> DrawLines(std::string_view content) {
+    constexpr int headingLines = 3;
+    FieldReader reader(content, {});
+    std::vector<std::string_view> lines;
+    for (int line = 0; !reader.AtEnd(); ++line) {
+        const std::string_view text = reader.ReadLine("a draw");
+        if (line >= headingLines) lines.push_back(text);
+    }
+    return lines;
+}
+
+std::optional<Date> DateOfLine(std::string_view line, const DateRules& rules) {
+    return ReadDate(line.substr(0, line.find(',')), rules.region, rules.today);
+}
+
+std::string NumbersInWords(std::string_view line, const std::string& lastTitle) {
+    FieldReader reader(line, {});
+    std::string words;
+    for (int column = 0; column <= 8 && !reader.AtEnd(); ++column) {
+        const int number = LeadingWhole(reader.ReadField(expectedRest));
+        const bool last = column == 8;
+        if (column == 0 || number <= 0 || (last && lastTitle.empty())) continue;
+        if (!words.empty()) words += ", ";
+        if (last) words += lastTitle + " ";
+        words += PlainDigits(number);
+    }
+    return words;
+}
+
 void InsertDraw(const State& state, ProgramFolder& folder, const DrawRecord& draw,
                 const DateRules& rules) {
     folder.Copy(state.DbaseFile, workFile);

@@ -335,6 +335,15 @@ TEST_F(CreatingADatabase, RefusesANumberOutsideTheFieldAndStaysOpen) {
     }
 }
 
+TEST_F(CreatingADatabase, ARefusalLeadsToTheFirstWrongBox) {
+    Open();
+    EnterDraw({1, 2, 50, 4, 0, 6});
+    test_.messages.Expect(incorrectDraw);
+    Click(*form_, saveButton);
+    EXPECT_EQ(form_->focusWidget(), &Box(2));
+    EXPECT_EQ(Box(2).selectedText(), QStringLiteral("50"));
+}
+
 TEST_F(CreatingADatabase, EnterSaves) {
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});

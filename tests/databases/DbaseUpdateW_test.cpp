@@ -189,6 +189,86 @@ TEST_F(UpdatingADatabase, AfterASaveShowsTheDateAloneWithEmptyBoxesAndStaysOpen)
     EXPECT_TRUE(form_->isVisible());
 }
 
+TEST_F(UpdatingADatabase, SaysWhatASaveStored) {
+    Open();
+    Box(7).setText(QStringLiteral("7"));
+    Save(OneToSix(), QDate(2005, 5, 26));
+    EXPECT_EQ(Text("Said"), QStringLiteral("Draw of 26 May 05 saved: 1, 2, 3, 4, 5, 6, Bonus 7"));
+    QTest::keyClicks(&Box(0), QStringLiteral("1"));
+    EXPECT_EQ(Text("Said"), QString());
+}
+
+TEST_F(UpdatingADatabase, SaysAfterEnterInABoxToo) {
+    Open();
+    for (int index = 0; index <= 5; ++index) Box(index).setText(QStringLiteral("8"));
+    Box(5).setFocus();
+    QTest::keyClick(&Box(5), Qt::Key_Return);
+    EXPECT_EQ(Text("Said"), QStringLiteral("Draw of 01 Jun 05 saved: 8, 8, 8, 8, 8, 8"));
+}
+
+TEST_F(UpdatingADatabase, ASaveLeadsBackToTheFirstBoxAndMovesNone) {
+    Open();
+    QApplication::processEvents();
+    const QPoint before = Box(0).mapTo(form_.get(), QPoint());
+    Box(5).setFocus();
+    Save(OneToSix(), QDate(2005, 5, 26));
+    QApplication::processEvents();
+    EXPECT_EQ(form_->focusWidget(), &Box(0));
+    EXPECT_EQ(Box(0).mapTo(form_.get(), QPoint()), before);
+}
+
+TEST_F(UpdatingADatabase, ShowsTheThreeNewestDraws) {
+    Open();
+    EXPECT_EQ(Text("NewestDraws"),
+              QStringLiteral("Newest draws:\n28 May 05:  3, 17, 22, 34, 41, 48, Bonus 9\n"
+                             "25 May 05:  1, 2, 13, 24, 35, 46, Bonus 7"));
+    for (const int day : {1, 2}) Save(OneToSix(), QDate(2005, 6, day));
+    EXPECT_EQ(Text("NewestDraws"), QStringLiteral("Newest draws:\n02 Jun 05:  1, 2, 3, 4, 5, 6\n"
+                                                  "01 Jun 05:  1, 2, 3, 4, 5, 6\n"
+                                                  "28 May 05:  3, 17, 22, 34, 41, 48, Bonus 9"));
+    ChooseLottery(1);
+    EXPECT_EQ(Text("NewestDraws"),
+              QStringLiteral("Newest draws:\n28 May 05:  4, 9, 15, 27, 30, Powerball 6"));
+}
+
+TEST_F(UpdatingADatabase, SaysThatADateIsTakenAndSavesAllTheSame) {
+    const auto pick = [this](const QDate& date) {
+        Find<QDateEdit>(*form_, datePicker)->setDate(date);
+        return Text("TakenDate");
+    };
+    Open();
+    const QString taken = QStringLiteral("There is a draw of this date already");
+    EXPECT_EQ(Text("TakenDate"), QString());
+    EXPECT_EQ(pick(QDate(2005, 5, 25)), taken);
+    ChooseLottery(1);
+    EXPECT_EQ(Text("TakenDate"), QString()) << "the other lottery has no draw of that date";
+    ChooseLottery(0);
+    EXPECT_EQ(Text("TakenDate"), taken);
+    Save(OneToSix(), QDate(2005, 5, 25));
+    EXPECT_EQ(Text(lastUpdate), QStringLiteral("25 May 05"));
+    EXPECT_EQ(pick(QDate(2005, 5, 26)), QString());
+}
+
+TEST_F(UpdatingADatabase, ALongDateTextMakesTheFormNoWider) {
+    Open();
+    const int width = form_->sizeHint().width();
+    AddLottery(test_.folder, "dbase1.txt", "Odd", "5,49,0,0,0",
+               {std::string(300, '5') + ",1,2,3,4,5,,,"});
+    Open();
+    EXPECT_EQ(Text(lastUpdate).size(), 317);
+    EXPECT_LE(form_->sizeHint().width(), width);
+    EXPECT_LE(form_->minimumSizeHint().width(), width);
+}
+
+TEST_F(UpdatingADatabase, ARefusalLeadsToTheFirstWrongBox) {
+    Open();
+    auto numbers = OneToSix();
+    numbers[2] = QStringLiteral("50");
+    test_.messages.Expect(problemWithTheInput);
+    Save(numbers, QDate(2005, 6, 1));
+    EXPECT_EQ(form_->focusWidget(), &Box(2));
+}
+
 TEST_F(UpdatingADatabase, RefusesANumberOutsideTheFieldAndWritesNothing) {
     Open();
     const auto before = test_.folder.Snapshot();
