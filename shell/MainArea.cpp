@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "entries/saved_entries.h"
 #include "platform/forms/Skin.h"
 #include "shell/InfoPanels.h"
 #include "shell/Toolbar.h"
@@ -30,8 +31,10 @@ MainArea::MainArea(Program& program, QWidget* parent)
 }
 
 void MainArea::ShowPanels(bool shown) {
-    if (painted_) ShowWelcome(!shown);
+    // What goes makes room before the other comes, or the window would grow for both.
+    if (painted_ && shown) ShowWelcome(false);
     panels_->SetShown(shown);
+    if (painted_ && !shown) ShowWelcome(true);
 }
 
 void MainArea::TakePicture() {
@@ -44,9 +47,11 @@ void MainArea::TakePicture() {
     update();
 }
 
-void MainArea::SuitLotteries(bool any) {
-    anyLottery_ = any;
-    if (welcome_ != nullptr) welcome_->SuitLotteries(any);
+void MainArea::RenewWelcome() {
+    if (welcome_ == nullptr || welcome_->isHidden()) return;
+    const Services& services = program_.services;
+    welcome_->Suit(LookAtLotteries(program_.folder, services.region, services.today()),
+                   program_.folder.Exists(savedEntriesFile));
 }
 
 void MainArea::CompletePainting() {
@@ -59,10 +64,13 @@ void MainArea::ShowWelcome(bool shown) {
     if (shown && welcome_ == nullptr) {
         welcome_ = new Welcome(this);
         connect(welcome_, &Welcome::stepChosen, this, &MainArea::stepChosen);
+        connect(welcome_, &Welcome::drawWanted, this, &MainArea::drawWanted);
         qobject_cast<QVBoxLayout*>(layout())->insertWidget(1, welcome_, 1, Qt::AlignCenter);
-        welcome_->SuitLotteries(anyLottery_);
     }
-    if (welcome_ != nullptr) welcome_->setVisible(shown);
+    if (welcome_ == nullptr) return;
+    welcome_->setVisible(shown);
+    RenewWelcome();
+    if (shown) welcome_->TakeFocus();
 }
 
 void MainArea::mouseMoveEvent(QMouseEvent* event) {

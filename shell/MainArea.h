@@ -29,12 +29,15 @@ class MainArea final : public QWidget {
     /// missing, the area stays as it is; a file that holds no picture is a `Failure`.
     void TakePicture();
 
-    /// Whether there is any lottery, on which depends what the welcome offers.
-    void SuitLotteries(bool any);
+    /// Lets the welcome offer what suits the files that there are now.
+    void RenewWelcome();
 
   Q_SIGNALS:
     /// Somebody takes a step that the welcome offers, told as the menu entry behind it.
     void stepChosen(const QString& menuEntry);
+
+    /// Somebody wants to add a draw to the lottery of that place in the lists.
+    void drawWanted(int lottery);
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -49,6 +52,5 @@ class MainArea final : public QWidget {
     InfoPanels* panels_;
     Welcome* welcome_ = nullptr;  // made when it is first shown
     QPixmap picture_;
-    bool anyLottery_ = false;
     bool painted_ = false;
 };

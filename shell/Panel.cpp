@@ -3,9 +3,9 @@
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QPainter>
 
 #include "platform/widgets/Widgets.h"
+#include "shell/Sheet.h"
 
 Panel::Panel(const QString& headingName, const QString& heading, QWidget* parent)
     : QWidget(parent), heading_(MakeLabel(headingName, heading, this)), sheet_(new QGridLayout) {
@@ -28,14 +28,4 @@ void Panel::SetShown(bool shown) {
     setVisible(shown);
 }
 
-void Panel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor background = palette().color(QPalette::Window);
-    background.setAlpha(238);
-    QColor edge = palette().color(QPalette::WindowText);
-    edge.setAlpha(45);
-    painter.setPen(edge);
-    painter.setBrush(background);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 6, 6);
-}
+void Panel::paintEvent(QPaintEvent*) { PaintSheet(*this, 6); }

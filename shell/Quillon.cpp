@@ -13,6 +13,7 @@
 #include "platform/forms/Skin.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Lists.h"
 #include "platform/widgets/OneLine.h"
 #include "platform/widgets/Widgets.h"
 #include "shell/BiochartPanel.h"
@@ -69,6 +70,9 @@ void Quillon::AnswerForms() {
 
 void Quillon::AnswerArea() {
     connect(area_, &MainArea::stepChosen, this, &Quillon::Choose);
+    connect(area_, &MainArea::drawWanted, this, [this](int lottery) {
+        Open(*FindCatalogueEntry(QStringLiteral("wUpdateDbase")), lottery);
+    });
     connect(&area_->Pictures(), &Toolbar::chosen, this, &Quillon::Choose);
     area_->Pictures().DimPictures(*menu_);
     QAction* biorhythms = menu_->Entry(QStringLiteral("AnalyseBiorhythms"));
@@ -104,7 +108,6 @@ void Quillon::Skinning() {
 void Quillon::ListDatabases() {
     const std::vector<std::string> names = ::ListDatabases(program_.state, program_.folder);
     area_->Panels().ShowDatabases(names);
-    area_->SuitLotteries(!names.empty());
 }
 
 void Quillon::UpdateSyndicate() {
@@ -131,7 +134,7 @@ void Quillon::ShowPanels() {
 
 void Quillon::SaveNotes() { ::SaveNotes(program_.folder, area_->Panels().CurrentNotes()); }
 
-void Quillon::Open(const CatalogueEntry& entry) {
+void Quillon::Open(const CatalogueEntry& entry, int lottery) {
     if (entry.needsSavedEntries && !program_.folder.Exists(savedEntriesFile)) {
         program_.services.messages.Show(this,
                                         {.title = tr("Oops!  "),
@@ -141,6 +144,7 @@ void Quillon::Open(const CatalogueEntry& entry) {
     }
     const std::unique_ptr<Form> form = entry.make(program_, this);
     form->Load();
+    if (lottery > 0) form->findChild<ListBox*>(QStringLiteral("List1"))->SetIndex(lottery);
     if (entry.prepare != nullptr) {
         for (int i = 0; i < entry.messageRuns; ++i) QCoreApplication::processEvents();
         entry.prepare(*form);
@@ -152,6 +156,7 @@ void Quillon::Open(const CatalogueEntry& entry) {
         LoadSettings();
         Skinning();
     }
+    area_->RenewWelcome();
 }
 
 void Quillon::LinksLink(int index) {
@@ -177,7 +182,9 @@ void Quillon::DeleteSavedEntries() {
                                                .sign = Sign::Question,
                                                .buttons = Buttons::YesNo,
                                                .discards = true});
-    if (answer == Answer::Yes) program_.folder.Delete(savedEntriesFile);
+    if (answer != Answer::Yes) return;
+    program_.folder.Delete(savedEntriesFile);
+    area_->RenewWelcome();
 }
 
 void Quillon::Quit() {

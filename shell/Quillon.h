@@ -20,8 +20,9 @@ class Quillon final : public QMainWindow {
     void Load();
 
     /// Opens a form of the catalogue modally, does what follows its closing, and says so where the
-    /// form asks for saved entries and there are none.
-    void Open(const CatalogueEntry& entry);
+    /// form asks for saved entries and there are none. `lottery` is the place of the one that is
+    /// chosen in its list, where it is not the first.
+    void Open(const CatalogueEntry& entry, int lottery = 0);
 
   Q_SIGNALS:
     /// The window has been closed and notes and settings are on disk: the run is over.

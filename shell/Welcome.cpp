@@ -1,79 +1,95 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/Welcome.h"
 
-#include <QCommandLinkButton>
 #include <QLabel>
-#include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
+#include "platform/system/TextConversion.h"
 #include "platform/widgets/Widgets.h"
+#include "shell/Sheet.h"
+#include "shell/WelcomeLink.h"
 
 namespace {
 
-struct Step {
-    const char* menuEntry;
-    const char* picture;
-    const char* caption;
-    const char* description;
-};
+constexpr qsizetype longestName = 32;
 
-constexpr const char* needsALottery = "PlayLuckyDip";
-constexpr const char* bringsALottery = "DatabasesCreate";
+QString Shortened(const QString& name) {
+    return name.size() <= longestName ? name : name.left(longestName - 1) + QChar(0x2026);
+}
 
-constexpr std::array<Step, 4> steps = {{
-    {bringsALottery, "toolbar02", QT_TRANSLATE_NOOP("Welcome", "Create a lottery"),
-     QT_TRANSLATE_NOOP("Welcome", "There is none yet: tell how many numbers are drawn")},
-    {needsALottery, "toolbar10", QT_TRANSLATE_NOOP("Welcome", "Generate entries"),
-     QT_TRANSLATE_NOOP("Welcome", "A lucky dip under conditions of your choice")},
-    {"DatabaseStoreDrawsW", "toolbar04", QT_TRANSLATE_NOOP("Welcome", "Store your own entries"),
-     QT_TRANSLATE_NOOP("Welcome", "Type in the numbers that you have played")},
-    {"FileNotes", "toolbar00", QT_TRANSLATE_NOOP("Welcome", "Open your desk"),
-     QT_TRANSLATE_NOOP("Welcome", "Notes, checklist, biochart and your databases")},
-}};
+/// "11 Jun 2025".
+QString ShownDate(Date date) {
+    return ToQString(MediumDate(date)).replace(QLatin1Char('-'), QLatin1Char(' '));
+}
 
 }  // namespace
 
 Welcome::Welcome(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(32, 24, 32, 24);
-    layout->setSpacing(4);
+    layout->setContentsMargins(28, 18, 28, 18);
+    layout->setSpacing(2);
     layout->addWidget(MakeTitle(QStringLiteral("WelcomeTitle"), tr("Good luck!"), this));
-    auto* line =
-        MakeBody(QStringLiteral("WelcomeLine"),
-                 tr("Every method of play is in the menu above. Three ways to begin:"), this);
-    layout->addWidget(line);
-    layout->addSpacing(10);
-    for (const Step& step : steps) {
-        auto* button = new QCommandLinkButton(tr(step.caption), tr(step.description), this);
-        button->setObjectName(QStringLiteral("Welcome") + QLatin1String(step.menuEntry));
-        button->setIcon(QIcon(QStringLiteral(":/icons/icons/") + QLatin1String(step.picture) +
-                              QStringLiteral(".svg")));
-        button->setIconSize({32, 32});
-        layout->addWidget(button);
-        connect(button, &QCommandLinkButton::clicked, this,
-                [this, &step] { Q_EMIT stepChosen(QString::fromLatin1(step.menuEntry)); });
-    }
-    setFixedWidth(460);
+    layout->addWidget(MakeLabel(QStringLiteral("WelcomeLine"),
+                                tr("Every method of play is in the menu above. To begin:"), this));
+    layout->addSpacing(8);
+    setUp_ = AddStep("DatabasesCreate", "toolbar02", tr("Set up your lottery"),
+                     tr("From one of 149 templates, or tell how many numbers are drawn"));
+    addDraw_ = AddLink("wUpdateDbase", "toolbar02");
+    connect(addDraw_, &WelcomeLink::clicked, this, [this] { Q_EMIT drawWanted(lottery_); });
+    generate_ = AddStep("PlayLuckyDip", "toolbar10", tr("Generate entries"),
+                        tr("A lucky dip under conditions of your choice"));
+    check_ = AddStep("DatabaseCheck", "toolbar03", tr("Check your entries"),
+                     tr("What they matched in the draws of their dates"));
+    store_ = AddStep("DatabaseStoreDrawsW", "toolbar04", tr("Store your own entries"),
+                     tr("Type in the numbers that you have played"));
+    AddStep("FileNotes", "toolbar00", tr("Open your desk"),
+            tr("Notes, checklist, biochart and your databases"));
 }
 
-void Welcome::SuitLotteries(bool any) {
-    Button(needsALottery)->setVisible(any);
-    Button(bringsALottery)->setVisible(!any);
+WelcomeLink* Welcome::AddLink(const char* menuEntry, const char* picture) {
+    const QString file = QStringLiteral(":/icons/icons/%1.svg").arg(QLatin1String(picture));
+    auto* link =
+        Named(new WelcomeLink(file, this), QStringLiteral("Welcome") + QLatin1String(menuEntry));
+    layout()->addWidget(link);
+    links_.push_back(link);
+    return link;
 }
 
-QWidget* Welcome::Button(const char* menuEntry) const {
-    return findChild<QCommandLinkButton*>(QStringLiteral("Welcome") + QLatin1String(menuEntry));
+WelcomeLink* Welcome::AddStep(const char* menuEntry, const char* picture, const QString& caption,
+                              const QString& description) {
+    WelcomeLink* link = AddLink(menuEntry, picture);
+    link->SetWords(caption, description);
+    connect(link, &WelcomeLink::clicked, this,
+            [this, menuEntry] { Q_EMIT stepChosen(QString::fromLatin1(menuEntry)); });
+    return link;
 }
 
-void Welcome::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    QColor background = palette().color(QPalette::Window);
-    background.setAlpha(232);
-    QColor edge = palette().color(QPalette::WindowText);
-    edge.setAlpha(40);
-    painter.setPen(edge);
-    painter.setBrush(background);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 10, 10);
+void Welcome::Suit(const LotteriesAtHand& lotteries, bool entriesSaved) {
+    const bool focused = isAncestorOf(window()->focusWidget());
+    setUp_->setVisible(!lotteries.own.has_value());
+    addDraw_->setVisible(lotteries.own.has_value());
+    if (lotteries.own) WordDraw(*lotteries.own);
+    generate_->setVisible(lotteries.any);
+    check_->setVisible(lotteries.any && entriesSaved);
+    store_->setVisible(lotteries.any);
+    if (focused && !isAncestorOf(window()->focusWidget())) TakeFocus();
 }
+
+void Welcome::WordDraw(const OwnLottery& lottery) {
+    lottery_ = lottery.index;
+    const QString name = ToQString(lottery.name);
+    const QString caption = lottery.newest ? tr("Add the latest draw of %1 (newest: %2)")
+                                                 .arg(Shortened(name), ShownDate(*lottery.newest))
+                                           : tr("Add the first draw of %1").arg(Shortened(name));
+    addDraw_->SetWords(caption, tr("Type in its date and its numbers"));
+    addDraw_->setToolTip(name.size() > longestName ? name : QString());
+}
+
+void Welcome::TakeFocus() {
+    const auto first = std::ranges::find_if_not(links_, &WelcomeLink::isHidden);
+    if (first != links_.end()) (*first)->setFocus();
+}
+
+void Welcome::paintEvent(QPaintEvent*) { PaintSheet(*this, 10); }

@@ -4,6 +4,7 @@
 // The program runs on a folder made for the occasion, on a fixed day, with a fixed seed and in
 // British English, so that a picture changes only when the form does.
 #include <QAbstractButton>
+#include <QAction>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLineEdit>
@@ -198,6 +199,8 @@ int TakePictures(Program& program, const QString& outFolder) {
     window.Load();
     window.resize(1000, 660);  // the screen of the offscreen platform is smaller than most
     bool good = Save(window, outFolder % QStringLiteral("/Quillon.png"));
+    window.findChild<QAction*>(QStringLiteral("FileNotes"))->trigger();
+    good = Save(window, outFolder % QStringLiteral("/Quillon-welcome.png")) && good;
     std::set<QString> taken;
     for (const CatalogueEntry& entry : FormCatalogue()) {
         const QString name = PictureName(entry);

@@ -17,7 +17,8 @@ void ChooseFirstLottery(ListBox& list) {
     if (list.count() == 0) {
         throw Failure(
             "There is no lottery to choose: no draw database (dbase*.txt) was found in the "
-            "program's folder. Put one there and start the program again.");
+            "program's folder. Start the program again and make one with Databases, Create lottery "
+            "database, or put one there.");
     }
     list.SetIndex(0);
 }

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QScreen>
 
+#include "core/failure.h"
 #include "core/settings.h"
 #include "entries/saved_entries.h"
 #include "platform/widgets/Lists.h"
@@ -239,6 +240,18 @@ TEST_F(QuillonForm, TheDatabasesPanelIsFilledAfreshAfterAFormThatChangesThem) {
     EXPECT_EQ(list->Index(), -1);
 }
 
+TEST_F(QuillonForm, AFormThatNeedsALotterySaysWhereToMakeOne) {
+    Start();
+    try {
+        window->Open(*FindCatalogueEntry(QStringLiteral("PlayLuckyDip")));
+        ADD_FAILURE() << "there is no lottery to open";
+    } catch (const Failure& failure) {
+        EXPECT_NE(std::string(failure.what()).find("Databases, Create lottery database"),
+                  std::string::npos)
+            << failure.what();
+    }
+}
+
 TEST_F(QuillonForm, CheckingWithoutStoredEntriesSaysSo) {
     Start();
     program.messages.Expect({.title = QStringLiteral("Oops!  "),
@@ -357,38 +370,6 @@ TEST_F(QuillonForm, ReopenedFormsStartOnTheFirstLotteryAgain) {
                  EXPECT_EQ(Find<ListBox>(form, lotteryList)->Index(), 0);
                  EXPECT_EQ(program.state.DbaseFile, "dbase1.txt");
              });
-}
-
-TEST_F(QuillonForm, TheWelcomeBeginsWithALotteryWhereThereIsNone) {
-    program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
-    Start();
-    auto* create = Find<QAbstractButton>(*window, "WelcomeDatabasesCreate");
-    auto* generate = Find<QAbstractButton>(*window, "WelcomePlayLuckyDip");
-    EXPECT_FALSE(generate->isVisible());
-    program.messages.Expect({.title = QStringLiteral("Are you sure?"),
-                             .text = QStringLiteral("Close and discard data?    "),
-                             .sign = Sign::Question,
-                             .buttons = Buttons::YesNo},
-                            Answer::Yes);
-    InDialog([this] { Click(*window, "WelcomeDatabasesCreate"); },
-             [this](QDialog& form) {
-                 EXPECT_EQ(form.objectName(), QStringLiteral("CreateDbase"));
-                 program.folder.Write("dbase1.txt", Database("First"));
-                 QTest::keyClick(&form, Qt::Key_Escape);
-             });
-    EXPECT_FALSE(create->isVisible());
-    EXPECT_TRUE(generate->isVisible());
-}
-
-TEST_F(QuillonForm, TheWelcomeLeadsToTheFirstSteps) {
-    program.folder.Write("dbase1.txt", Database("First"));
-    Start();
-    InDialog([this] { Click(*window, "WelcomePlayLuckyDip"); },
-             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("PLuckyDip")); });
-    InDialog([this] { Click(*window, "WelcomeDatabaseStoreDrawsW"); },
-             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("StoreMyDrawsW")); });
-    Click(*window, "WelcomeFileNotes");
-    EXPECT_TRUE(Find<QLabel>(*window, biochartHeading)->isVisible());
 }
 
 }  // namespace
