@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PlayFrame.h"
 
+#include "core/settings.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
@@ -85,6 +86,7 @@ TEST_F(ThePlayFrame, ResetsInputsBeforeItClearsTheGridAndLoads) {
 }
 
 TEST_F(ThePlayFrame, GrowsItsGridForTheLinesOfAnotherForm) {
+    test.state.Settings(setting::LongRunStrength) = "3";
     test.state.Lines.Fill(0);
     for (int row = 1; row <= 179; ++row) {
         for (int column = 1; column <= 6; ++column) {

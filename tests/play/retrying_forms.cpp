@@ -11,10 +11,10 @@ TryingFormTest::TryingFormTest() {
     AddUkLotto(test_.folder);
     AddThunderball(test_.folder);
     AddDailyPlay(test_.folder);
-    test_.state.Settings(11) = "1 Odd/Even filter";
-    test_.state.Settings(12) = "1 High/Low filter";
-    test_.state.Settings(13) = "1 History  filter";
-    test_.state.Settings(14) = "3 Long Run filter";
+    test_.state.Settings(setting::OddEvenStrength) = "1 Odd/Even filter";
+    test_.state.Settings(setting::HighLowStrength) = "1 High/Low filter";
+    test_.state.Settings(setting::HistoryStrength) = "1 History  filter";
+    test_.state.Settings(setting::LongRunStrength) = "3 Long Run filter";
 }
 
 void TryingFormTest::AddFirstLottery(const std::string& name, const std::string& rules,
@@ -38,7 +38,10 @@ void TryingFormTest::SetCondition(const char* box, bool set) {
 bool TryingFormTest::IsSet(const char* box) { return Find<QCheckBox>(*form_, box)->isChecked(); }
 
 void TryingFormTest::AskTheImpossible(const char* box) {
-    for (int slot = 11; slot <= 13; ++slot) test_.state.Settings(slot) = "7";
+    for (const int strength :
+         {setting::OddEvenStrength, setting::HighLowStrength, setting::HistoryStrength}) {
+        test_.state.Settings(strength) = "7";
+    }
     SetCondition(box, true);
     test_.tick = 2;
 }
