@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyle>
 #include <algorithm>
@@ -231,6 +232,18 @@ void Grid::focusInEvent(QFocusEvent* event) {
     const bool nothingCurrent = !currentIndex().isValid();
     QTableView::focusInEvent(event);
     if (nothingCurrent) selectionModel()->clearCurrentIndex();
+}
+
+void Grid::paintEvent(QPaintEvent* event) {
+    if (rowsInUse_ < RowCount()) {
+        const QRect cells(-horizontalHeader()->offset(), -verticalHeader()->offset(),
+                          horizontalHeader()->length(), verticalHeader()->length());
+        QPainter painter(viewport());
+        for (const QRect& room : QRegion(viewport()->rect()).subtracted(cells)) {
+            painter.fillRect(room, UnusedColour());
+        }
+    }
+    QTableView::paintEvent(event);
 }
 
 bool Grid::RowIsEmpty(int row) const {

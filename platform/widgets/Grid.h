@@ -51,7 +51,8 @@ class Grid final : public QTableView {
     void ClearCells();
 
     /// Paints the rows behind the first `rows` below the headings, and these columns, in the colour
-    /// of the window, as the form has nothing to show there. What their cells hold stays.
+    /// of the window, as the form has nothing to show there; with the rows goes the room behind the
+    /// last one. What the cells hold stays.
     void SetRowsInUse(int rows);
     void SetColumnsOutOfUse(const std::vector<int>& columns);
     bool InUse(int row, int column) const;
@@ -102,6 +103,7 @@ class Grid final : public QTableView {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
   private:
     QModelIndex IndexOf(int row, int column) const;

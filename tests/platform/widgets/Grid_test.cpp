@@ -219,6 +219,18 @@ TEST_F(AGridInAWindow, PaintsWhatIsNotInUseInTheColourOfTheWindow) {
     EXPECT_FALSE(grid.model()->index(2, 0).data(Qt::BackgroundRole).isValid());
 }
 
+TEST_F(AGridInAWindow, PaintsTheRoomBehindItsCellsTooWhereRowsAreNotInUse) {
+    const QColor behind(0xe0, 0xf0, 0xe0);
+    const auto corner = [this] {
+        const QImage picture = grid.viewport()->grab().toImage();
+        return picture.pixelColor(picture.width() - 2, picture.height() - 2);
+    };
+    Show(behind);
+    EXPECT_EQ(corner(), QColor(Qt::white));
+    grid.SetRowsInUse(2);
+    EXPECT_EQ(corner(), behind);
+}
+
 TEST_F(AGridInAWindow, DimsTheHeadingOfAColumnOutOfUse) {
     for (int column = 0; column < 2; ++column) grid.SetCell(0, column, QStringLiteral("WWW"));
     grid.SetColumnsOutOfUse({1});
