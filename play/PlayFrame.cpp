@@ -144,7 +144,10 @@ void PlayFrame::ShowResult() {
     ShowLines(state(), *grid_);
 }
 
-void PlayFrame::EmptyGrid() { WipeLines(*grid_, 1); }
+void PlayFrame::EmptyGrid() {
+    WipeLines(*grid_, 1);
+    ShowUse(view(), *grid_);
+}
 
 void PlayFrame::DropWaitingInput() { InputDropper::Run(*close_); }
 
@@ -156,6 +159,7 @@ void PlayFrame::ChooseLottery() {
         ResetInputs();
         ClearLinesGrid(*grid_);
         LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
+        ShowUse(view(), *grid_);
         DatabaseLoaded();
     }
     state().Busy = 0;

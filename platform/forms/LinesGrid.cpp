@@ -10,6 +10,13 @@ namespace {
 
 constexpr int extraBallColumn = 8;
 
+bool HoldsNumbers(const Grid& grid, int column, int lines) {
+    for (int row = 1; row <= lines; ++row) {
+        if (!grid.Cell(row, column).isEmpty()) return true;
+    }
+    return false;
+}
+
 QString NumberOrNothing(int number) { return number > 0 ? QString::number(number) : QString(); }
 
 }  // namespace
@@ -37,6 +44,19 @@ void WipeLines(Grid& grid, int row) {
     }
 }
 
+void ShowUse(const State& state, Grid& grid) {
+    int lines = 0;
+    while (!grid.Cell(lines + 1, 0).isEmpty()) ++lines;
+    std::vector<int> unused;
+    for (int column = 1; column <= extraBallColumn; ++column) {
+        const bool inLottery =
+            column == extraBallColumn ? state.MaxPball > 0 : column <= state.Picks;
+        if (!inLottery && !HoldsNumbers(grid, column, lines)) unused.push_back(column);
+    }
+    grid.SetRowsInUse(lines);
+    grid.SetColumnsOutOfUse(unused);
+}
+
 void ShowLines(const State& state, Grid& grid) {
     int row = 1;
     for (; state.Lines(row, 1) >= 1; ++row) {
@@ -47,5 +67,6 @@ void ShowLines(const State& state, Grid& grid) {
         grid.SetCellColour(row, extraBallColumn, ExtraBallColour());
     }
     WipeLines(grid, row);
+    ShowUse(state, grid);
     grid.ScrollToTop();
 }

@@ -14,6 +14,10 @@ void ClearLinesGrid(Grid& grid);
 /// Empties the rows from `row` on, as far as lines stand there.
 void WipeLines(Grid& grid, int row);
 
+/// Leaves in use the lines that the grid shows and the columns of the lottery, and those that hold
+/// a number nevertheless; the rest is painted as part of the window.
+void ShowUse(const State& state, Grid& grid);
+
 /// Shows `state.Lines`: one row a line, empty cells for 0, the extra ball in dark red; wipes what a
 /// longer result left and scrolls to the top. The grid needs a row more than there are lines.
 void ShowLines(const State& state, Grid& grid);

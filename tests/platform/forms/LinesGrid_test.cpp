@@ -137,4 +137,36 @@ TEST_F(TheGridOfLines, IsClearedWithItsHeadingsForANewLottery) {
     EXPECT_EQ(grid.CellColour(0, 8).name(), QStringLiteral("#a00000"));
 }
 
+TEST_F(TheGridOfLines, LeavesTheLotterysColumnsAndTheLinesInUse) {
+    state.Picks = 5;
+    state.MaxPball = 0;
+    state.Lines(1, 1) = 7;
+    state.Lines(2, 1) = 8;
+    ShowLines(state, grid);
+    EXPECT_TRUE(grid.InUse(2, 0));
+    EXPECT_TRUE(grid.InUse(2, 5));
+    EXPECT_FALSE(grid.InUse(2, 6));
+    EXPECT_FALSE(grid.ColumnInUse(8));
+    EXPECT_FALSE(grid.InUse(3, 1));
+    EXPECT_EQ(grid.Cell(0, 8), QStringLiteral("Pball")) << "the headings stay";
+}
+
+TEST_F(TheGridOfLines, LeavesAColumnInUseThatHoldsANumberBeyondTheLotterys) {
+    state.Picks = 3;
+    state.MaxPball = 0;
+    state.Lines(1, 1) = 7;
+    state.Lines(1, 4) = 9;
+    ShowLines(state, grid);
+    EXPECT_TRUE(grid.ColumnInUse(4));
+    EXPECT_FALSE(grid.ColumnInUse(5));
+}
+
+TEST_F(TheGridOfLines, HasTheExtraBallInUseWhereTheLotteryHasOne) {
+    state.Picks = 5;
+    state.MaxPball = 14;
+    ShowLines(state, grid);
+    EXPECT_TRUE(grid.ColumnInUse(8));
+    EXPECT_FALSE(grid.InUse(1, 8)) << "there is no line yet";
+}
+
 }  // namespace
