@@ -24,6 +24,20 @@ const QString helpPage = QStringLiteral("helpplay.html");
 // The headings above the lines and the empty row behind them.
 constexpr int rowsAroundLines = 2;
 
+constexpr int widestInput = 320;
+
+/// The inputs no wider than told, at the left of what room there is.
+QLayout* AtMost(int width, QLayout* inputs) {
+    auto* box = new QWidget;
+    inputs->setContentsMargins(0, 0, 0, 0);
+    box->setLayout(inputs);
+    box->setMaximumWidth(width);
+    auto* row = new QHBoxLayout;
+    row->addWidget(box, 1);
+    row->addStretch();
+    return row;
+}
+
 }  // namespace
 
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
@@ -39,9 +53,10 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
     grid_->SizeColumns();
     grid_->setAccessibleName(tr("Lottery entries"));
     auto* middle = new QHBoxLayout;
-    middle->addLayout(BuildInputs(names), 1);
+    middle->addLayout(BuildInputs(names));
     middle->addSpacing(12);
     middle->addWidget(grid_);
+    middle->addStretch(1);
 
     QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(heading_);
@@ -57,6 +72,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
 QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
     QLabel* title = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
     Titled(title, lotteries_)->setMinimumWidth(240);
+    lotteries_->setMaximumWidth(widestInput);
     connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
     auto* lotteries = new QHBoxLayout;
     lotteries->addWidget(lotteries_, 1);
@@ -67,7 +83,7 @@ QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
     column->addSpacing(8);
     column->addLayout(column_);
     column->addSpacing(8);
-    column->addLayout(BuildFilters(names));
+    column->addLayout(AtMost(widestInput, BuildFilters(names)));
     return column;
 }
 

@@ -23,6 +23,7 @@ class WatchingForm final : public PlayFrame {
     explicit WatchingForm(Program& program)
         : PlayFrame(program, {QStringLiteral("Watching"), {}, {}, {}}, {}, 5, nullptr) {}
 
+    using PlayFrame::EmptyGrid;
     std::vector<Sight> reset;
     std::vector<Sight> loaded;
     std::vector<Sight> generated;
@@ -118,6 +119,38 @@ TEST_F(ThePlayFrame, ClearsTheGridBeforeALoadThatFails) {
     EXPECT_THROW(ChooseSecondLottery(), std::runtime_error);
     EXPECT_EQ(Find<Grid>(*form, linesGrid)->Cell(1, 1), QString());
     EXPECT_TRUE(form->generated.empty());
+}
+
+TEST_F(ThePlayFrame, LeavesInUseWhatTheLotteryHas) {
+    const Grid& grid = *Find<Grid>(*form, linesGrid);
+    EXPECT_TRUE(grid.InUse(1, 6));
+    EXPECT_FALSE(grid.ColumnInUse(8));
+    EXPECT_FALSE(grid.InUse(2, 1)) << "behind the only line";
+    ChooseSecondLottery();
+    EXPECT_FALSE(grid.ColumnInUse(6));
+    EXPECT_TRUE(grid.ColumnInUse(8));
+}
+
+TEST_F(ThePlayFrame, LeavesNoRowInUseWhereTheGridIsEmptied) {
+    form->EmptyGrid();
+    EXPECT_FALSE(Find<Grid>(*form, linesGrid)->InUse(1, 1));
+}
+
+TEST_F(ThePlayFrame, GivesTheRoomOfAWideWindowToTheSideOfTheGrid) {
+    form->show();
+    form->resize(1000, 700);
+    QApplication::processEvents();
+    const Grid& grid = *Find<Grid>(*form, linesGrid);
+    const int left = grid.x();
+    const int width = grid.width();
+    form->resize(1600, 700);
+    QApplication::processEvents();
+    EXPECT_EQ(grid.x(), left);
+    EXPECT_EQ(grid.width(), width) << "the columns keep their widths";
+    const auto* list = Find<QWidget>(*form, lotteryList);
+    EXPECT_LE(list->width(), 320);
+    const auto* filter = Find<QWidget>(*form, usualFilters.highLow);
+    EXPECT_LE(filter->mapTo(form.get(), filter->rect().topRight()).x() - list->x(), 320);
 }
 
 }  // namespace

@@ -62,6 +62,20 @@ TEST_P(EachWheelForm, AsksForNoWiderWindowThanItsControlsNeed) {
     EXPECT_LE(form_->sizeHint().width(), form_->minimumSizeHint().width() + 40);
 }
 
+TEST_P(EachWheelForm, KeepsItsListAndFiltersNarrowInAWideWindow) {
+    Open();
+    form_->resize(1600, 700);
+    QApplication::processEvents();
+    const auto edge = [this](const char* name) {
+        const auto* widget = Find<QWidget>(*form_, name);
+        return widget->mapTo(form_.get(), widget->rect().topRight()).x();
+    };
+    const int left = Find<QWidget>(*form_, lotteryList)->x();
+    for (const char* name : {lotteryList, usualFilters.highLow, usualFilters.previousDraws}) {
+        EXPECT_LE(edge(name) - left, 320) << name;
+    }
+}
+
 TEST_P(EachWheelForm, HasALetterBesideEachGroupAndSpeaksItWithEachBox) {
     Open();
     QApplication::processEvents();
