@@ -37,7 +37,8 @@ void CreateDbase::Load() {
     Skinning(
         QStringLiteral("SkinDatabases.jpg"),
         {.title = {QStringLiteral("Label17")},
-         .body = {QStringLiteral("Label16"), QStringLiteral("Label18"), QStringLiteral("Label13")},
+         .body = {QStringLiteral("Label16"), QStringLiteral("Label18"), QStringLiteral("Label13"),
+                  QStringLiteral("BonusHint")},
          .small = {QStringLiteral("Label3"), QStringLiteral("Label15"), QStringLiteral("Label1"),
                    QStringLiteral("Label4"), QStringLiteral("Label9"), QStringLiteral("Label10"),
                    QStringLiteral("Label11"), QStringLiteral("Label5"), QStringLiteral("Label7"),
@@ -80,6 +81,17 @@ void CreateDbase::OfferBoxes() {
 void CreateDbase::OfferExtraBall(bool extraBall) {
     for (QWidget* control : extraBallRow_) control->setVisible(extraBall);
     lastBoxTitle_->setText(extraBall ? tr("Powerball") : tr("Bonus"));
+    ExplainLastBox();
+}
+
+// Nothing else tells that the first draw decides about all to come.
+void CreateDbase::ExplainLastBox() {
+    lastBoxHint_->setText(
+        powerballType_->isChecked()
+            ? tr("Powerball may stay empty: the type of the lottery already says that it has one")
+            : tr("Fill in Bonus if this lottery has one: it decides whether the database has a "
+                 "bonus ball"));
+    boxes_[7]->setAccessibleDescription(lastBoxHint_->text());
 }
 
 void CreateDbase::Save() {

@@ -38,6 +38,7 @@ class CreateDbase final : public Form {
     void WordDrawTitle();
     void OfferBoxes();
     void OfferExtraBall(bool extraBall);
+    void ExplainLastBox();
     void Save();
     void AskAndClose();
 
@@ -56,5 +57,6 @@ class CreateDbase final : public Form {
     DatePicker* date_;
     QLabel* drawTitle_;
     QLabel* lastBoxTitle_;
+    QLabel* lastBoxHint_;
     DrawBoxes boxes_;
 };

@@ -11,6 +11,7 @@
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/BarInput.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/FindBox.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
 #include "platform/widgets/Widgets.h"
@@ -47,6 +48,9 @@ CreateDbase::CreateDbase(Program& program, QWidget* parent)
 QLayout* CreateDbase::MakeLists() {
     auto* templatesTitle = MakeLabel(QStringLiteral("Label3"), tr("Lottery templates:"));
     templates_ = Titled(templatesTitle, Named(new ListBox, QStringLiteral("List1")));
+    auto* findTemplate = Named(new FindBox(*templates_), QStringLiteral("FindTemplate"));
+    findTemplate->setPlaceholderText(tr("Find a template"));
+    findTemplate->setAccessibleName(findTemplate->placeholderText());
     auto* databasesTitle = MakeLabel(QStringLiteral("Label15"), tr("Existing lottery databases:"));
     databases_ = Titled(databasesTitle, Named(new ListBox, QStringLiteral("List2")));
     connect(templates_, &ListBox::clicked, this, [this] { ChooseTemplate(); });
@@ -54,6 +58,7 @@ QLayout* CreateDbase::MakeLists() {
     auto* column = new QVBoxLayout;
     column->setSpacing(4);
     column->addWidget(templatesTitle);
+    column->addWidget(findTemplate);
     column->addWidget(templates_, 3);
     column->addSpacing(8);
     column->addWidget(databasesTitle);
@@ -155,6 +160,8 @@ QLayout* CreateDbase::MakeFirstDraw() {
     lastBoxTitle_ = MakeLabel(QStringLiteral("Label12"), tr("Bonus"));
     boxes_ = MakeDrawBoxes(0);
     boxes_[6]->hide();
+    lastBoxHint_ = MakeBody(QStringLiteral("BonusHint"), QString());
+    ExplainLastBox();
 
     auto* date = new QHBoxLayout;
     date->addWidget(dateTitle);
@@ -166,6 +173,7 @@ QLayout* CreateDbase::MakeFirstDraw() {
     draw->addSpacing(4);
     draw->addLayout(date);
     draw->addLayout(BuildDrawBoxes(drawTitle_, lastBoxTitle_, boxes_));
+    draw->addWidget(lastBoxHint_);
     return draw;
 }
 

@@ -189,6 +189,32 @@ TEST_F(CreatingADatabase, ThePowerballTypeOffersTheExtraBall) {
     EXPECT_EQ(Text(lastBoxTitle), QStringLiteral("Bonus"));
 }
 
+TEST_F(CreatingADatabase, SaysWhatTheLastBoxDecides) {
+    Open();
+    const QString bonus = QStringLiteral(
+        "Fill in Bonus if this lottery has one: it decides whether the database has a bonus ball");
+    EXPECT_EQ(Text("BonusHint"), bonus);
+    EXPECT_EQ(Box(7).accessibleDescription(), bonus);
+    Type(1).click();
+    EXPECT_EQ(Text("BonusHint"), QStringLiteral("Powerball may stay empty: the type of the lottery "
+                                                "already says that it has one"));
+    EXPECT_EQ(Box(7).accessibleDescription(), Text("BonusHint"));
+    Type(0).click();
+    EXPECT_EQ(Text("BonusHint"), bonus);
+}
+
+TEST_F(CreatingADatabase, FindsATemplateByAPartOfItsName) {
+    Open();
+    auto& find = Line("FindTemplate");
+    QTest::keyClicks(&find, QStringLiteral("thunder"));
+    const auto* templates = Find<ListBox>(*form_, templateList);
+    EXPECT_TRUE(templates->isRowHidden(0));
+    QTest::keyClick(&find, Qt::Key_Return);
+    EXPECT_EQ(templates->Index(), 1);
+    EXPECT_EQ(Line(nameBox).text(), QStringLiteral("UK Thunderball"));
+    EXPECT_TRUE(form_->isVisible());
+}
+
 TEST_F(CreatingADatabase, ATemplateFillsTheControlsAndEmptiesTheBoxes) {
     Open();
     EnterDraw({1, 2, 3, 4, 5, 6});
