@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/AppendShownLines.h"
 
+#include <QCoreApplication>
+#include <vector>
+
 #include "core/settings.h"
+#include "core/text.h"
 #include "entries/SaveEntries.h"
 #include "entries/saved_entries.h"
+#include "platform/forms/Form.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Grid.h"
 
@@ -27,6 +32,18 @@ SavedEntry EntryOf(const State& state, const Grid& grid, int row, const std::str
     return entry;
 }
 
+/// Such as "10 lines saved for Wed 11 Jun 2025, Anna".
+QString WhatWasSaved(std::size_t lines, const SaveEntries& dialog) {
+    const auto words = [](const char* text) {
+        return QCoreApplication::translate("AppendShownLines", text);
+    };
+    const QString what =
+        lines == 1 ? words("1 line saved for ") : words("%1 lines saved for ").arg(lines);
+    const QString player = ToQString(Trim(dialog.PlayerName()));
+    return what % dialog.ShownDrawDate() %
+           (player.isEmpty() ? QString() : QStringLiteral(", ") % player);
+}
+
 }  // namespace
 
 void SaveLines(Program& program, Form* form, Grid& grid) {
@@ -46,4 +63,5 @@ void SaveLines(Program& program, Form* form, Grid& grid) {
         ++row;
     } while (row <= wanted && !grid.Cell(row, 1).isEmpty());
     AppendEntries(program.folder, entries);
+    form->Say(WhatWasSaved(entries.size(), dialog));
 }

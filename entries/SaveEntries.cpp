@@ -83,6 +83,8 @@ int SaveEntries::LineCount() const { return LeadingWhole(FromQString(lines_->tex
 
 std::string SaveEntries::PlayerName() const { return FromQString(player_->text()); }
 
+QString SaveEntries::ShownDrawDate() const { return drawDate_->text(); }
+
 void SaveEntries::Save() {
     state().Settings(setting::PlayerName) = Trim(PlayerName());
     state().Settings(setting::DrawDate) = MediumDate(drawDate_->Value());

@@ -25,6 +25,9 @@ class SaveEntries final : public Form {
     /// The name as it stands in its box, in the encoding of the files.
     std::string PlayerName() const;
 
+    /// The draw date as it stands in its box, such as "Wed 11 Jun 2025".
+    QString ShownDrawDate() const;
+
   private:
     QLayout* BuildInputs();
     QLayout* BuildActions();

@@ -6,10 +6,12 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "core/settings.h"
 #include "entries/SaveEntries.h"
+#include "platform/forms/FormLayout.h"
 #include "platform/forms/LinesGrid.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/widgets/Grid.h"
@@ -23,9 +25,22 @@ constexpr auto linesBox = "Text1";
 constexpr auto nameBox = "Text2";
 constexpr auto dateBox = "DTPicker1";
 
+/// A form that shows lines.
+class LinesForm final : public Form {
+  public:
+    explicit LinesForm(Program& program)
+        : Form(program, QStringLiteral("LinesForm"), QString(), nullptr), grid(new Grid(32, 9)) {
+        QVBoxLayout* layout = MakeFormLayout(this);
+        layout->addWidget(grid);
+        layout->addLayout(BuildActionRow({}, {}));
+    }
+
+    Grid* grid;
+};
+
 class SavingLines : public testing::Test {
   protected:
-    SavingLines() : grid_(32, 9) {
+    SavingLines() {
         test_.state.LotteryName = "UK Lotto";
         test_.state.DbaseFile = "dbase100.txt";
     }
@@ -41,17 +56,20 @@ class SavingLines : public testing::Test {
     }
 
     void Save(const std::function<void(QDialog&)>& drive) {
-        InDialog([this] { SaveLines(test_.program, nullptr, grid_); }, drive);
+        InDialog([this] { SaveLines(test_.program, &form_, grid_); }, drive);
     }
 
     std::string Saved() { return test_.folder.Read("MyLottery.txt"); }
 
+    QString Said() { return Find<QLabel>(form_, "Said")->text(); }
+
     TestProgram test_;
-    Grid grid_;
+    LinesForm form_{test_.program};
+    Grid& grid_ = *form_.grid;
 };
 
 TEST_F(SavingLines, DoesNothingWithAnEmptyGrid) {
-    SaveLines(test_.program, nullptr, grid_);
+    SaveLines(test_.program, &form_, grid_);
     EXPECT_FALSE(test_.folder.Exists("MyLottery.txt"));
     EXPECT_EQ(test_.messages.Shown(), 0);
 }
@@ -61,7 +79,7 @@ TEST_F(SavingLines, LeavesTheFirstNumberCurrent) {
         ShowSomeLines(lines);
         grid_.SetCurrentCell(2, 5);
         if (lines == 0) {
-            SaveLines(test_.program, nullptr, grid_);
+            SaveLines(test_.program, &form_, grid_);
         } else {
             Save([](QDialog& dialog) { Click(dialog, saveButton); });
         }
@@ -143,6 +161,31 @@ TEST_F(SavingLines, SavesAsManyAsTheNumberAtTheHeadOfTheBoxSays) {
         const std::string saved = Saved();
         EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), count) << text;
     }
+}
+
+TEST_F(SavingLines, SaysHowManyWereSavedForWhichDrawAndWhom) {
+    ShowSomeLines(5);
+    Save([](QDialog& dialog) {
+        Type(dialog, linesBox, QStringLiteral("3"));
+        Type(dialog, nameBox, QStringLiteral(" Ann 100%1 "));
+        Find<QDateEdit>(dialog, dateBox)->setDate(QDate(2005, 6, 18));
+        Click(dialog, saveButton);
+    });
+    EXPECT_EQ(Said(), QStringLiteral("3 lines saved for Sat 18 Jun 2005, Ann 100%1"));
+}
+
+TEST_F(SavingLines, SaysNothingOfAPlayerWithoutAName) {
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) { Click(dialog, saveButton); });
+    EXPECT_EQ(Said(), QStringLiteral("1 line saved for Wed 1 Jun 2005"));
+}
+
+TEST_F(SavingLines, SaysNothingWhereNothingWasSaved) {
+    SaveLines(test_.program, &form_, grid_);
+    EXPECT_EQ(Said(), QString());
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) { Click(dialog, cancelButton); });
+    EXPECT_EQ(Said(), QString());
 }
 
 TEST_F(SavingLines, SavesWhatTheGridShowsNotTheLinesBehindIt) {

@@ -119,6 +119,8 @@ TEST_F(MainJob, LinesOfUkLottoAreMadeFilteredSavedAndFoundAgain) {
                 Click(dialog, saveEntriesButton);
             });
             shown = ShownRecords(grid, "01-Jun-2005");
+            EXPECT_EQ(Find<QLabel>(form, "Said")->text(),
+                      QStringLiteral("%1 lines saved for Wed 1 Jun 2005, Ann").arg(shown.size()));
             Click(form, closeButton);
         });
         run.window.close();
