@@ -123,6 +123,9 @@ class EntryCheck::Database {
         return std::nullopt;
     }
 
+    // The first of the file; only where a search has been.
+    Date NewestDraw() const { return draws_.front().earliest; }
+
   private:
     struct Draw {
         Date earliest;        // of the draws up to this one; falls, whatever their order
@@ -163,11 +166,35 @@ std::optional<EntryMatch> EntryCheck::Check(const SavedEntry& entry, int row) {
     state_.DbaseFile = entry[entry_column::database];
     Database& database = DatabaseOf(state_.DbaseFile);
     database.ReadLottery(state_);
-    if (!database.HasDraws()) return std::nullopt;
+    if (!database.HasDraws()) {
+        ++summary_.waiting;
+        return std::nullopt;
+    }
     const Date date = EntryDate(entry, row, region_, today_);
     std::optional<FieldReader> numbers = database.Find(date, region_, today_);
-    if (!numbers) return std::nullopt;
-    return MatchDraw(state_, entry, *numbers, counts_);
+    if (!numbers) {
+        RememberUnchecked(date, database.NewestDraw());
+        return std::nullopt;
+    }
+    const EntryMatch match = MatchDraw(state_, entry, *numbers, counts_);
+    Remember(match);
+    return match;
+}
+
+// In a lottery without a ball beside the main numbers, an empty cell counts as its match.
+void EntryCheck::Remember(const EntryMatch& match) {
+    const bool hasBall = View(state_).Pool(extraColumn) > 0;
+    summary_.AddChecked({.main = match.main,
+                         .extra = hasBall && match.extra > 0,
+                         .extraIsBonus = state_.HasBonus > 0});
+}
+
+void EntryCheck::RememberUnchecked(Date entry, Date newestDraw) {
+    if (entry > newestDraw) {
+        summary_.AddWaiting(state_.LotteryName, newestDraw);
+    } else {
+        ++summary_.withoutDraw;
+    }
 }
 
 std::optional<EntryMatch> plain::CheckEntry(State& state, const ProgramFolder& folder,

@@ -9,6 +9,7 @@
 #include "core/date.h"
 #include "core/program_folder.h"
 #include "core/state.h"
+#include "entries/check_summary.h"
 #include "entries/saved_entries.h"
 
 /// How the check paints a cell of an entry.
@@ -60,10 +61,15 @@ class EntryCheck {
 
     const MatchCounts& Counts() const { return counts_; }
 
+    /// What of the entries was checked, and what not.
+    const CheckSummary& Summary() const { return summary_; }
+
   private:
     class Database;
 
     Database& DatabaseOf(const std::string& file);
+    void Remember(const EntryMatch& match);
+    void RememberUnchecked(Date entry, Date newestDraw);
 
     State& state_;
     const ProgramFolder& folder_;
@@ -71,6 +77,7 @@ class EntryCheck {
     Date today_;
     std::map<std::string, std::unique_ptr<Database>> databases_;
     MatchCounts counts_{"match counts"};
+    CheckSummary summary_;
 };
 
 /// The counts as a report: a line for each number of matches from 7 down, an empty line, then those

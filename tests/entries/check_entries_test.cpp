@@ -420,6 +420,32 @@ int CountedAt(const History& history, const std::vector<int>& draw, const std::v
     return draw[7] == extraBall ? index + 10 : index;
 }
 
+TEST_F(CheckingEntries, SumsUpWhatWasCheckedAndWhatWaits) {
+    AddLottery(folder, "dbase103.txt", "UK Daily Play", "7,27,0,0,0");
+    Check(Entry("28 May 05", {3, 17, 22, 35, 40, 49}, "dbase100.txt"));
+    Check(Entry("29 May 05", {3, 17, 22, 35, 40, 49}, "dbase100.txt"));
+    Check(Entry("26 May 05", {3, 17, 22, 35, 40, 49}, "dbase100.txt"));
+    Check(Entry("24 May 05", {3, 17, 22, 35, 40, 49}, "dbase100.txt"));
+    Check(Entry("28 May 05", {1, 2, 3, 4, 5, 6, 7}, "dbase103.txt"));
+    EXPECT_EQ(SummaryText(check.Summary()),
+              "1 of 5 entries checked; 2 have no draw in their database yet (newest: 28 May 05); "
+              "2 are of days without a draw. Best: 3 numbers.");
+}
+
+TEST_F(CheckingEntries, SumsUpTheBallThatMatched) {
+    Check(Entry("28 May 05", {1, 2, 3, 5, 6}, "dbase101.txt", "6"));
+    EXPECT_EQ(SummaryText(check.Summary()), "1 entry checked. Best: the extra ball.");
+    Check(Entry("28 May 05", {9, 17, 1, 2, 5, 6}, "dbase100.txt"));
+    EXPECT_EQ(SummaryText(check.Summary()),
+              "All 2 entries checked. Best: 1 number and the bonus ball.");
+}
+
+TEST_F(CheckingEntries, SumsUpNoBallWhereTheLotteryHasNone) {
+    const auto match = Check(Entry("28 May 05", {1, 2, 3, 11, 12, 13, 14}, "dbase102.txt"));
+    EXPECT_EQ(match->extra, 10);
+    EXPECT_EQ(SummaryText(check.Summary()), "1 entry checked. Best: 3 numbers.");
+}
+
 TEST(CheckOfEntries, FindsOnRealHistoriesWhatACountByHandFinds) {
     MemoryFolder folder;
     if (!AddRealHistories(folder)) GTEST_SKIP() << "no real histories at " << REAL_DRAWS;
