@@ -36,6 +36,17 @@ QPalette GridPalette(bool dark) {
     return palette;
 }
 
+void PaintMatchRing(QPainter& painter, const QRect& cell, const QString& text, const QColor& ink) {
+    constexpr int air = 5;  // between the text and the ring
+    const int height = cell.height() - 4;
+    const int width = qMax(height, painter.fontMetrics().horizontalAdvance(text) + 2 * air);
+    QRect ring(0, 0, qMin(width, cell.width() - 4), height);
+    ring.moveCenter(cell.center());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, 1.5));
+    painter.drawRoundedRect(ring, height / 2.0, height / 2.0);
+}
+
 GridDelegate::GridDelegate(const Grid& grid, QObject* parent)
     : QStyledItemDelegate(parent), grid_(grid) {}
 
@@ -86,12 +97,8 @@ void GridDelegate::PaintFrames(QPainter& painter, const QStyleOptionViewItem& op
     const QColor ink = cell.palette.color(QPalette::Text);
     const QRect area = option.rect;
     if (grid_.CellMatch(index.row() + 1, index.column()) == Match::Extra) {
-        const int edge = qMin(area.width(), area.height()) - 4;
-        QRect ring(0, 0, edge, edge);
-        ring.moveCenter(area.center());
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(ink, 1.5));
-        painter.drawEllipse(ring);
+        painter.setFont(cell.font);
+        PaintMatchRing(painter, area, cell.text, ink);
     }
     const auto marked = [&](int rows, int columns) {
         return grid_.selectionModel()->isSelected(

@@ -7,6 +7,9 @@
 
 class Grid;
 
+/// Paints the ring around a matched bonus or extra ball into its cell, as wide as its text needs.
+void PaintMatchRing(QPainter& painter, const QRect& cell, const QString& text, const QColor& ink);
+
 /// The colours of a grid's own texts, backgrounds and lines, light or dark as its window is.
 QPalette GridPalette(bool dark);
 
