@@ -25,10 +25,15 @@ SavedEntry EntryInGrid(const Grid& grid, int row) {
     return entry;
 }
 
+int EntryCount(const Grid& grid) {
+    int count = 0;
+    while (!grid.Cell(count + 1, entry_column::date).isEmpty()) ++count;
+    return count;
+}
+
 std::vector<SavedEntry> EntriesInGrid(const Grid& grid) {
     std::vector<SavedEntry> entries;
-    for (int row = 1; !grid.Cell(row, entry_column::date).isEmpty(); ++row) {
-        entries.push_back(EntryInGrid(grid, row));
-    }
+    const int count = EntryCount(grid);
+    for (int row = 1; row <= count; ++row) entries.push_back(EntryInGrid(grid, row));
     return entries;
 }

@@ -15,5 +15,8 @@ void SetEntryHeadings(Grid& grid);
 /// The entry that a row shows.
 SavedEntry EntryInGrid(const Grid& grid, int row);
 
+/// How many rows from row 1 on have a date.
+int EntryCount(const Grid& grid);
+
 /// The entries from row 1 down to the first row without a date.
 std::vector<SavedEntry> EntriesInGrid(const Grid& grid);

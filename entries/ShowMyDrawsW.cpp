@@ -2,6 +2,7 @@
 #include "entries/ShowMyDrawsW.h"
 
 #include <QItemSelectionModel>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -21,6 +22,15 @@ constexpr int lastRow = 500;
 // Kept on purpose: the same for every lottery.
 constexpr double highestNumber = 60;
 
+QString Counted(int count, const QString& none, const QString& one, const QString& several) {
+    if (count == 0) return none;
+    return count == 1 ? one : several.arg(count);
+}
+
+QString NotSavedYet(int changes) {
+    return changes > 0 ? ShowMyDrawsW::tr(", not saved yet") : QString();
+}
+
 }  // namespace
 
 void ShowMyDrawsW::Load() {
@@ -32,7 +42,7 @@ void ShowMyDrawsW::Load() {
          .small = {QStringLiteral("Label1"), QStringLiteral("Label2"), QStringLiteral("Label4"),
                    QStringLiteral("Label5"), QStringLiteral("Label6"), QStringLiteral("Label14"),
                    QStringLiteral("DeleteLabel"), QStringLiteral("SortLabel")},
-         .status = {}});
+         .status = {QStringLiteral("CheckSummary")}});
     date_->SetValue(services().today());
     LoadMyDraws(entryTable_, folder());
     DisplayMyDraws();
@@ -45,8 +55,11 @@ void ShowMyDrawsW::DisplayMyDraws() {
         }
         grid_->SetCellColour(row, entry_column::extraBall, ExtraBallColour());
     }
+    ShowRowsInUse();
     GoToFirstCell();
 }
+
+void ShowMyDrawsW::ShowRowsInUse() { grid_->SetRowsInUse(EntryCount(*grid_)); }
 
 void ShowMyDrawsW::GoToFirstCell() {
     grid_->SetCurrentCell(1, 1);
@@ -68,6 +81,11 @@ void ShowMyDrawsW::ToggleButtons() {
     for (QPushButton* command : commands_) command->setEnabled(!command->isEnabled());
 }
 
+void ShowMyDrawsW::MarkChanged() {
+    entriesChanged_ = -1;
+    if (!checkSummary_->text().isEmpty()) TellCheck(tr("Changed since the check"));
+}
+
 bool ShowMyDrawsW::Confirmed(const QString& text) {
     const Answer answer = services().messages.Show(this, {.title = tr("Please confirm..."),
                                                           .text = text,
@@ -85,7 +103,7 @@ void ShowMyDrawsW::ChangeItem() {
                                  {.title = tr("Error"), .text = text, .sign = Sign::Exclamation});
     };
     if (column == entry_column::lottery) return refuse(tr("Can't change lotteries!  "));
-    if (grid_->Cell(row, column).isEmpty()) return;
+    if (grid_->Cell(row, column).isEmpty()) return Say(tr("An empty item cannot be changed"));
     const std::string text = FromQString(item_->text());
     const double number = LeadingNumber(text);
     const bool isNumber = column >= 1 && column <= entry_column::extraBall;
@@ -94,23 +112,29 @@ void ShowMyDrawsW::ChangeItem() {
     }
     entryTable_(row, column) = Trim(text);
     grid_->SetCell(row, column, ToQString(Trim(text)));
-    entriesChanged_ = -1;
+    ShowRowsInUse();
+    MarkChanged();
 }
 
 void ShowMyDrawsW::ChangeDateOfRow() {
     const int row = grid_->CurrentRow();
-    ChangeDate(entryTable_, row, date_->Value(), services().region, services().today());
-    grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
-    entriesChanged_ = -1;
+    if (!ChangeDateOf(row)) Say(tr("There is no date in this row"));
+    MarkChanged();
 }
 
 void ShowMyDrawsW::ChangeAllDates() {
-    for (int row = 1;
-         ChangeDate(entryTable_, row, date_->Value(), services().region, services().today());
-         ++row) {
-        grid_->SetCell(row, 0, ToQString(entryTable_(row, 0)));
-    }
-    entriesChanged_ = -1;
+    int row = 1;
+    while (ChangeDateOf(row)) ++row;
+    MarkChanged();
+    Say(Counted(row - 1, tr("No dates changed"), tr("1 date changed"), tr("%1 dates changed")) %
+        NotSavedYet(row - 1));
+}
+
+bool ShowMyDrawsW::ChangeDateOf(int row) {
+    const Region& region = services().region;
+    if (!ChangeDate(entryTable_, row, date_->Value(), region, services().today())) return false;
+    grid_->SetCell(row, entry_column::date, ToQString(entryTable_(row, entry_column::date)));
+    return true;
 }
 
 template <typename Sort>
@@ -120,7 +144,7 @@ void ShowMyDrawsW::SortEntries(Sort sort) {
     sort();
     DisplayMyDraws();
     ToggleButtons();
-    entriesChanged_ = -1;
+    MarkChanged();
 }
 
 void ShowMyDrawsW::SortRowsByDate() {
@@ -141,9 +165,11 @@ void ShowMyDrawsW::DeleteThisRow() {
     grid_->selectionModel()->select(
         grid_->currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (!Confirmed(tr("Delete this lottery entry?   "))) return;
+    const int before = EntryCount(*grid_);
     DeleteRow(entryTable_, static_cast<std::int16_t>(row));
     DisplayMyDraws();
-    entriesChanged_ = -1;
+    MarkChanged();
+    SayDeleted(before - EntryCount(*grid_));
 }
 
 void ShowMyDrawsW::DeleteOldRows() {
@@ -152,9 +178,17 @@ void ShowMyDrawsW::DeleteOldRows() {
     if (!Confirmed(text)) return;
     const Hourglass hourglass;
     // Kept on purpose: entries of yesterday stay, whatever the question says.
+    const int before = EntryCount(*grid_);
     DeleteOutOfDate(entryTable_, services().region, services().today());
     DisplayMyDraws();
-    entriesChanged_ = -1;
+    MarkChanged();
+    SayDeleted(before - EntryCount(*grid_));
+}
+
+void ShowMyDrawsW::SayDeleted(int deleted) {
+    Say(Counted(deleted, tr("No entries deleted"), tr("1 entry deleted"),
+                tr("%1 entries deleted")) %
+        tr(", %1 left").arg(EntryCount(*grid_)) % NotSavedYet(deleted));
 }
 
 void ShowMyDrawsW::DeleteAllRows() {
@@ -180,6 +214,8 @@ void ShowMyDrawsW::Save() {
     EditCurrentCell();
     // Kept on purpose: an empty table is not counted as saved.
     if (!entries.empty()) entriesChanged_ = 0;
+    Say(Counted(EntryCount(*grid_), tr("There are no entries left to save"), tr("1 entry saved"),
+                tr("%1 entries saved")));
 }
 
 void ShowMyDrawsW::Close() {

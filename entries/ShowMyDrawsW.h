@@ -49,13 +49,16 @@ class ShowMyDrawsW final : public Form {
 
     void ToggleButtons();
     void DisplayMyDraws();
+    void ShowRowsInUse();
     void GoToFirstCell();
     void ShowCurrentCell();
     void EditCurrentCell();
+    void MarkChanged();
 
     void ChangeItem();
     void ChangeDateOfRow();
     void ChangeAllDates();
+    bool ChangeDateOf(int row);
 
     template <typename Sort>
     void SortEntries(Sort sort);
@@ -67,10 +70,12 @@ class ShowMyDrawsW final : public Form {
     void DeleteThisRow();
     void DeleteOldRows();
     void DeleteAllRows();
+    void SayDeleted(int deleted);
 
     void Check();
     void CheckEntries(EntryCheck& check);
     void Paint(int row, const EntryMatch& match);
+    void TellCheck(const QString& text);
     void LetMessagesRun(int row);
 
     void Save();
@@ -85,5 +90,6 @@ class ShowMyDrawsW final : public Form {
     DatePicker* date_;
     QPlainTextEdit* report_;
     QWidget* colourKey_;
+    QLabel* checkSummary_;
     std::vector<QPushButton*> commands_;
 };

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "entries/EntryGrid.h"
-#include "entries/MatchColours.h"
+#include "entries/MatchLooks.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/DatePicker.h"
@@ -18,19 +18,6 @@ namespace {
 
 constexpr int rowCount = 501;
 constexpr int columnCount = 12;
-
-/// A patch of a match colour that says its name too.
-QLabel* MakeSample(const QString& name, const QString& colourName, const QColor& colour) {
-    QLabel* sample = MakeLabel(name, colourName);
-    QPalette palette(Qt::black, colour);
-    palette.setColor(QPalette::Window, colour);
-    palette.setColor(QPalette::WindowText, Qt::black);
-    sample->setPalette(palette);
-    sample->setAutoFillBackground(true);
-    sample->setAlignment(Qt::AlignCenter);
-    sample->setContentsMargins(8, 1, 8, 1);
-    return sample;
-}
 
 }  // namespace
 
@@ -70,6 +57,7 @@ QWidget* ShowMyDrawsW::MakeGrid(const QLabel& title) {
     grid_->SetColumnWidths({widthOf("------DATE--------"), number, number, number, number, number,
                             number, number, number, widthOf("--------LOTTERY NAME---------"),
                             widthOf("-----PLAYER NAME---------"), widthOf("----dbase000.txt----")});
+    grid_->ShowEditedCell();
     grid_->setMinimumHeight(240);
     // A click or Enter leads to the edit box; the arrow keys stay in the grid.
     connect(grid_, &Grid::cellClicked, this, [this] { ShowCurrentCell(); });
@@ -158,7 +146,7 @@ std::vector<QWidget*> ShowMyDrawsW::MakeSortRow() {
 
 QLayout* ShowMyDrawsW::MakeCheck() {
     auto* check = new QVBoxLayout;
-    check->setSpacing(12);
+    check->setSpacing(8);
     check->addWidget(MakeCommand(QStringLiteral("Command2"), tr("Check"),
                                  tr(" See if you have won! "), &ShowMyDrawsW::Check),
                      0, Qt::AlignLeft);
@@ -168,7 +156,10 @@ QLayout* ShowMyDrawsW::MakeCheck() {
                     "checked with the lottery draw result on the date specified. Any numbers "
                     "matched are highlighted.")));
     check->addWidget(MakeColourKey());
-    check->addStretch(1);
+    checkSummary_ = MakeBody(QStringLiteral("CheckSummary"), QString());
+    checkSummary_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    checkSummary_->setMinimumHeight(4 * checkSummary_->fontMetrics().lineSpacing());
+    check->addWidget(checkSummary_, 1);
     return check;
 }
 
@@ -179,9 +170,9 @@ QWidget* ShowMyDrawsW::MakeColourKey() {
     key->setHorizontalSpacing(8);
     key->setVerticalSpacing(8);
     key->addWidget(MakeLabel(QStringLiteral("Label4"), tr("Match main draw number:")), 0, 0);
-    key->addWidget(MakeSample(QStringLiteral("Label3"), tr("yellow"), MainMatchColour()), 0, 1);
+    key->addWidget(MakeMatchSample(QStringLiteral("Label3"), Match::Main), 0, 1);
     key->addWidget(MakeLabel(QStringLiteral("Label6"), tr("Match Bonus/Powerball:")), 1, 0);
-    key->addWidget(MakeSample(QStringLiteral("Label7"), tr("light red"), ExtraMatchColour()), 1, 1);
+    key->addWidget(MakeMatchSample(QStringLiteral("Label7"), Match::Extra), 1, 1);
     key->setColumnStretch(2, 1);
     KeepPlaceWhenHidden(colourKey_);
     colourKey_->hide();

@@ -101,6 +101,9 @@ class ShowingEntries : public testing::Test {
     std::string File() { return test_.folder.Read("MyLottery.txt"); }
     void Run(const char* command) { Click(*form_, command); }
 
+    QString CheckSummary() { return Find<QLabel>(*form_, "CheckSummary")->text(); }
+    QString Said() { return Find<QLabel>(*form_, "Said")->text(); }
+
     QString Report() { return Find<QPlainTextEdit>(*form_, reportBox)->toPlainText(); }
 
     std::string Row(int row) {
@@ -594,6 +597,164 @@ TEST_F(ShowingEntries, TheCheckPaintsWhatMatches) {
     }
     EXPECT_EQ(Entries().CellBackground(3, 8), lightRed);
     EXPECT_EQ(Entries().CellColour(3, 8), QColor(160, 0, 0));
+}
+
+TEST_F(ShowingEntries, MatchesAreToldWithoutColoursToo) {
+    Open();
+    Run(checkButton);
+    const std::vector<Match> lotto = {Match::Main,  Match::Main, Match::Main,
+                                      Match::Extra, Match::Main, Match::None};
+    for (int column = 1; column <= 6; ++column) {
+        EXPECT_EQ(Entries().CellMatch(1, column), lotto[static_cast<std::size_t>(column - 1)])
+            << column;
+    }
+    EXPECT_EQ(Entries().CellMatch(3, 8), Match::Extra);
+    const auto spoken = [this](int row, int column) {
+        return Entries().model()->index(row - 1, column).data(Qt::AccessibleTextRole).toString();
+    };
+    EXPECT_EQ(spoken(1, 1), QStringLiteral("3, matched"));
+    EXPECT_EQ(spoken(3, 8), QStringLiteral("6, matched the bonus or extra ball"));
+}
+
+TEST_F(ShowingEntries, NumbersThatMatchNoLongerAreNotToldSo) {
+    Open("28 May 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt\r\n");
+    Run(checkButton);
+    EXPECT_EQ(Entries().CellMatch(1, 1), Match::Main);
+    Enter(1, 1, "4");
+    Run(checkButton);
+    EXPECT_EQ(Entries().CellMatch(1, 1), Match::None);
+}
+
+TEST_F(ShowingEntries, AnEmptyCellIsColouredButMatchesNothing) {
+    AddLottery(test_.folder, "dbase102.txt", "UK Daily Play", "7,27,0,0,0",
+               {"28 May 05,1,2,3,4,5,6,7,0"});
+    Open("28 May 05,1,12,13,14,15,16,17,,UK Daily Play,Ann,dbase102.txt\r\n");
+    Run(checkButton);
+    EXPECT_EQ(Entries().CellBackground(1, 8), lightRed);
+    EXPECT_EQ(Entries().CellMatch(1, 8), Match::None);
+    EXPECT_EQ(CheckSummary(), QStringLiteral("1 entry checked. Best: 1 number."));
+}
+
+TEST_F(ShowingEntries, TheColourKeyTellsItsLooksInWordsAndInBold) {
+    Open();
+    EXPECT_EQ(Find<QLabel>(*form_, mainKey)->accessibleName(), QStringLiteral("yellow, bold"));
+    EXPECT_EQ(Find<QLabel>(*form_, extraKey)->accessibleName(),
+              QStringLiteral("light red, bold, with a ring"));
+    for (const char* key : {mainKey, extraKey}) {
+        EXPECT_TRUE(Find<QLabel>(*form_, key)->font().bold()) << key;
+    }
+}
+
+TEST_F(ShowingEntries, OnlyTheSampleOfTheBonusHasARing) {
+    Open();
+    Run(checkButton);
+    const auto inked = [this](const char* key) {
+        const QImage image = Find<QLabel>(*form_, key)->grab().toImage();
+        int dark = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            if (qGray(image.pixel(x, image.height() / 2)) < 100) ++dark;
+        }
+        return dark;
+    };
+    EXPECT_GT(inked(extraKey), inked(mainKey));
+}
+
+TEST_F(ShowingEntries, TheCheckSumsUpWhatItDidNotCheck) {
+    Open();
+    EXPECT_EQ(CheckSummary(), QString());
+    Run(checkButton);
+    EXPECT_EQ(CheckSummary(),
+              QStringLiteral("2 of 3 entries checked; 1 has no draw in its database yet (newest: "
+                             "28 May 05). Best: 4 numbers and the bonus ball."));
+}
+
+TEST_F(ShowingEntries, EveryEditOutdatesTheCheck) {
+    Open();
+    const std::vector<std::function<void()>> edits = {[this] { Enter(1, 1, "33"); },
+                                                      [this] { Run(dateThisRow); },
+                                                      [this] { Run(dateAllRows); },
+                                                      [this] { Run(sortByDate); },
+                                                      [this] {
+                                                          test_.messages.Expect(deleteOld);
+                                                          Run(deleteOldRows);
+                                                      },
+                                                      [this] {
+                                                          test_.messages.Expect(deleteThis);
+                                                          Run(deleteThisRow);
+                                                      }};
+    for (const auto& edit : edits) {
+        Run(checkButton);
+        EXPECT_NE(CheckSummary(), QStringLiteral("Changed since the check"));
+        edit();
+        EXPECT_EQ(CheckSummary(), QStringLiteral("Changed since the check"));
+    }
+}
+
+TEST_F(ShowingEntries, AnEditBeforeAnyCheckSaysNothingOfOne) {
+    Open();
+    Enter(1, 1, "33");
+    EXPECT_EQ(CheckSummary(), QString());
+}
+
+TEST_F(ShowingEntries, SavingDoesNotOutdateTheCheck) {
+    Open();
+    Run(checkButton);
+    const QString summary = CheckSummary();
+    Run(saveButton);
+    EXPECT_EQ(CheckSummary(), summary);
+}
+
+TEST_F(ShowingEntries, SaysHowManyItSaved) {
+    Open();
+    Run(saveButton);
+    EXPECT_EQ(Said(), QStringLiteral("3 entries saved"));
+    Enter(2, 0, "");
+    Run(saveButton);
+    EXPECT_EQ(Said(), QStringLiteral("1 entry saved"));
+    Enter(1, 0, "");
+    Run(saveButton);
+    EXPECT_EQ(Said(), QStringLiteral("There are no entries left to save"));
+}
+
+TEST_F(ShowingEntries, SaysHowManyItDeletedAndThatNothingIsSaved) {
+    Open();
+    test_.messages.Expect(deleteOld);
+    Run(deleteOldRows);
+    EXPECT_EQ(Said(), QStringLiteral("2 entries deleted, 1 left, not saved yet"));
+    test_.messages.Expect(deleteOld);
+    Run(deleteOldRows);
+    EXPECT_EQ(Said(), QStringLiteral("No entries deleted, 1 left"));
+    test_.messages.Expect(deleteThis);
+    Run(deleteThisRow);
+    EXPECT_EQ(Said(), QStringLiteral("1 entry deleted, 0 left, not saved yet"));
+}
+
+TEST_F(ShowingEntries, SaysHowManyDatesItChanged) {
+    Open();
+    Run(dateAllRows);
+    EXPECT_EQ(Said(), QStringLiteral("3 dates changed, not saved yet"));
+    Enter(1, 0, "someday");
+    Run(dateThisRow);
+    EXPECT_EQ(Said(), QStringLiteral("There is no date in this row"));
+    Run(dateAllRows);
+    EXPECT_EQ(Said(), QStringLiteral("No dates changed"));
+}
+
+TEST_F(ShowingEntries, SaysThatAnEmptyItemStaysEmpty) {
+    Open();
+    ClickCell(1, 7);
+    Item().setText(QStringLiteral("12"));
+    QTest::keyClick(&Item(), Qt::Key_Return);
+    EXPECT_EQ(Said(), QStringLiteral("An empty item cannot be changed"));
+}
+
+TEST_F(ShowingEntries, ShowsWhichCellIsEditedAndWhichRowsAreInUse) {
+    Open();
+    EXPECT_TRUE(Entries().ShowsEditedCell());
+    EXPECT_TRUE(Entries().InUse(3, 1));
+    EXPECT_FALSE(Entries().InUse(4, 1));
+    Enter(3, 0, "");
+    EXPECT_FALSE(Entries().InUse(3, 1));
 }
 
 TEST_F(ShowingEntries, TheReportCountsByMatchClass) {
