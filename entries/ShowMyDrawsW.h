@@ -45,6 +45,7 @@ class ShowMyDrawsW final : public Form {
     QLayout* MakeCheck();
     QWidget* MakeColourKey();
     QLayout* MakeReport();
+    QWidget* MakeBelow();
     QLayout* MakeActions();
 
     void ToggleButtons();

@@ -31,19 +31,28 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
     // Two lines, which a layout does not count in its smallest height.
     explanation->setMinimumHeight(2 * explanation->fontMetrics().lineSpacing());
     QLabel* title = MakeLabel(QStringLiteral("Label5"), tr("   Your lottery entries"));
-    auto* below = new QHBoxLayout;
-    below->setSpacing(32);
-    below->addLayout(MakeCommands());
-    below->addLayout(MakeCheck(), 1);
-    below->addLayout(MakeReport());
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addWidget(title);
-    body->addWidget(MakeGrid(*title), 1);
-    body->addLayout(below);
+    body->addWidget(MakeGrid(*title), 3);
+    body->addWidget(MakeBelow(), 2);
     LayOutForm(this, MakeTitle(QStringLiteral("Label8"), tr("Stored lottery entries")), explanation,
                body, MakeActions());
     TabInReadingOrder();
+    SetOpeningSize({sizeHint().width(), 740});
+}
+
+QWidget* ShowMyDrawsW::MakeBelow() {
+    auto* below = new QWidget;
+    auto* row = new QHBoxLayout(below);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(32);
+    row->addLayout(MakeCommands());
+    row->addLayout(MakeCheck(), 1);
+    row->addLayout(MakeReport());
+    // What a whole report does not need is the grid's.
+    below->setMaximumHeight(fontMetrics().lineSpacing() + report_->maximumHeight() + 8);
+    return below;
 }
 
 QWidget* ShowMyDrawsW::MakeGrid(const QLabel& title) {
@@ -58,7 +67,7 @@ QWidget* ShowMyDrawsW::MakeGrid(const QLabel& title) {
                             number, number, number, widthOf("--------LOTTERY NAME---------"),
                             widthOf("-----PLAYER NAME---------"), widthOf("----dbase000.txt----")});
     grid_->ShowEditedCell();
-    grid_->setMinimumHeight(240);
+    grid_->setMinimumHeight(140);
     // A click or Enter leads to the edit box; the arrow keys stay in the grid.
     connect(grid_, &Grid::cellClicked, this, [this] { ShowCurrentCell(); });
     connect(grid_, &Grid::clicked, this, [this] { EditCurrentCell(); });
@@ -184,14 +193,16 @@ QLayout* ShowMyDrawsW::MakeReport() {
     report_ = Titled(title, Named(new QPlainTextEdit, QStringLiteral("Text2")));
     report_->setReadOnly(true);
     report_->setTabChangesFocus(true);
-    // As high as the report of a lottery of seven numbers, and its margins.
-    report_->setFixedHeight(18 * report_->fontMetrics().lineSpacing() + 12);
-    report_->setMinimumWidth(report_->fontMetrics().averageCharWidth() * 36);
+    const int line = report_->fontMetrics().lineSpacing();
+    const int margins = 12;
+    report_->setMinimumHeight(8 * line + margins);
+    // The report of a lottery of seven numbers.
+    report_->setMaximumHeight(18 * line + margins);
+    report_->setMinimumWidth(report_->fontMetrics().averageCharWidth() * 34);
     auto* report = new QVBoxLayout;
     report->setSpacing(4);
     report->addWidget(title);
-    report->addWidget(report_);
-    report->addStretch(1);
+    report->addWidget(report_, 1);
     return report;
 }
 

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "core/failure.h"
@@ -755,6 +756,21 @@ TEST_F(ShowingEntries, ShowsWhichCellIsEditedAndWhichRowsAreInUse) {
     EXPECT_FALSE(Entries().InUse(4, 1));
     Enter(3, 0, "");
     EXPECT_FALSE(Entries().InUse(3, 1));
+}
+
+TEST_F(ShowingEntries, OpensWithMoreThanTenRowsAndNeedsFew) {
+    Open(ManyEntries(50));
+    EXPECT_GE(Entries().rowAt(Entries().viewport()->height() - 1), 11);
+    EXPECT_LE(form_->minimumSizeHint().height(), 560);
+}
+
+TEST_F(ShowingEntries, TheReportHasRoomInAHighWindow) {
+    Open();
+    Run(checkButton);
+    form_->resize(form_->width(), 1000);
+    QApplication::processEvents();
+    const auto* report = Find<QPlainTextEdit>(*form_, reportBox);
+    EXPECT_FALSE(report->verticalScrollBar()->isVisible());
 }
 
 TEST_F(ShowingEntries, TheReportCountsByMatchClass) {
