@@ -30,6 +30,11 @@ void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
     }
 }
 
+bool IsPlainEnter(const QKeyEvent& event) {
+    const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    return enter && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
 }  // namespace
 
 Form::Form(Program& program, const QString& name, const QString& caption, QWidget* parent)
@@ -72,7 +77,8 @@ void Form::TakeOpeningSize() {
     openingSize_ = {};
 }
 
-// Qt would make a default button of the first one in the dialog, and of any that has the focus.
+// Qt would make a default button of the first one in the dialog, and keep the first that had the
+// focus as the default where the form has named none.
 void Form::setVisible(bool visible) {
     if (visible) {
         const auto buttons = findChildren<QPushButton*>();
@@ -86,6 +92,11 @@ void Form::setVisible(bool visible) {
 void Form::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
         services().openPage(helpPage_);
+        return;
+    }
+    auto* focused = qobject_cast<QPushButton*>(focusWidget());
+    if (focused != nullptr && IsPlainEnter(*event)) {
+        focused->click();
         return;
     }
     QDialog::keyPressEvent(event);

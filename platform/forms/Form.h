@@ -19,8 +19,8 @@ struct SkinLabels {
 /// A form opened modally from the main window.
 ///
 /// Esc and the title bar's cross click the form's close button, F1 opens its help page, Enter
-/// clicks the button that was made the default one and no other. A form does its loading in
-/// `Load()`, which its opener calls once before `exec()`.
+/// clicks the button that has the focus, and where none has, the one that was made the default. A
+/// form does its loading in `Load()`, which its opener calls once before `exec()`.
 class Form : public QDialog {
     Q_OBJECT
   public:

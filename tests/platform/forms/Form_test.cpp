@@ -128,17 +128,35 @@ TEST_F(AForm, RunsItsDefaultButtonOnEnter) {
     EXPECT_EQ(form.questions, 0);
 }
 
-TEST_F(AForm, RunsNoOtherButtonOnEnterEvenWithTheFocus) {
+TEST_F(AForm, RunsTheButtonThatHasTheFocusOnEnter) {
     form.other->setFocus();
     QTest::keyClick(form.other, Qt::Key_Return);
+    QTest::keyClick(form.other, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(form.others, 2);
+    EXPECT_EQ(form.generated, 0);
+}
+
+TEST_F(AForm, RunsItsDefaultButtonOnEnterAgainOnceNoButtonHasTheFocus) {
+    form.other->setFocus();
+    form.text->setFocus();
+    QTest::keyClick(form.text, Qt::Key_Return);
     EXPECT_EQ(form.others, 0);
     EXPECT_EQ(form.generated, 1);
+}
+
+TEST_F(AForm, RunsNoDisabledButtonOnEnter) {
+    form.other->setFocus();
+    form.other->setEnabled(false);
+    QTest::keyClick(&form, Qt::Key_Return);
+    EXPECT_EQ(form.others, 0);
 }
 
 TEST_F(AForm, RunsNothingOnEnterWithoutADefaultButton) {
     form.hide();
     form.generate->setDefault(false);
     form.show();
+    form.other->setFocus();
+    form.text->setFocus();
     QTest::keyClick(form.text, Qt::Key_Return);
     EXPECT_EQ(form.generated + form.others + form.questions, 0);
 }
