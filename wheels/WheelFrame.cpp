@@ -189,6 +189,7 @@ void WheelFrame::Write(const wheels::Boxes& boxes) {
         const QString text = ToQString(boxes[i].text);
         if (box->text() != text) box->setText(text);
         Paint(*box, inUse ? white : grey);
+        box->setFocusPolicy(inUse ? Qt::StrongFocus : Qt::ClickFocus);
         box->setEnabled(inUse || !rules_.boxes.unusedDisabled);
     }
 }

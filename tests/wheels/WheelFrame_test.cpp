@@ -121,6 +121,14 @@ TEST_P(EachWheelForm, MakesNothingOnEnterInABoxAndStaysThere) {
     EXPECT_GT(ShownLines(), 0) << "elsewhere Enter generates";
 }
 
+TEST_P(EachWheelForm, LeadsTheTabKeyPastTheGreyBoxesWhichTakeTheFocusByClick) {
+    Open();
+    for (int index = 0; index < GetParam().boxCount; ++index) {
+        const auto policy = index < Size() ? Qt::StrongFocus : Qt::ClickFocus;
+        EXPECT_EQ(Box(index).focusPolicy(), policy) << index;
+    }
+}
+
 TEST_P(EachWheelForm, RefusesABoxThatIsEmptyZeroOrTooHigh) {
     Open();
     TypeCounting(Size());
