@@ -9,6 +9,7 @@
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LotteryList.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
 
@@ -45,10 +46,8 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
 }
 
 QLayout* AnalysisForm::BuildActions(const AnalysisNames& names) {
-    QPushButton* print =
-        MakeIconButton(names.print, QStringLiteral("document-print"), tr(" Print form "), this);
-    QPushButton* close =
-        MakeIconButton(names.close, QStringLiteral("window-close"), tr(" Close "), this);
+    QPushButton* print = MakeCommandButton(names.print, Command::Print, tr(" Print form "), this);
+    QPushButton* close = MakeCommandButton(names.close, Command::Close, tr(" Close "), this);
     print->setEnabled(static_cast<bool>(services().printForm));
     connect(print, &QPushButton::clicked, this, [this] { services().printForm(*this); });
     connect(close, &QPushButton::clicked, this, [this] { Unload(); });

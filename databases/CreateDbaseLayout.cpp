@@ -10,6 +10,7 @@
 #include "databases/CreateDbase.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/BarInput.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/FindBox.h"
 #include "platform/widgets/Lists.h"
@@ -178,7 +179,7 @@ QLayout* CreateDbase::MakeFirstDraw() {
 }
 
 QLayout* CreateDbase::MakeActions() {
-    auto* save = MakeButton(QStringLiteral("Command1"), tr(" Save "));
+    auto* save = WithKeysOf(Command::Save, MakeButton(QStringLiteral("Command1"), tr(" Save ")));
     save->setDefault(true);
     auto* cancel = MakeButton(QStringLiteral("CancelButton"), tr(" Cancel "));
     SetCloseButton(cancel);

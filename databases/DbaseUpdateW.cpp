@@ -14,6 +14,7 @@
 #include "platform/forms/LotteryList.h"
 #include "platform/forms/ShowTip.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Lists.h"
@@ -93,7 +94,8 @@ QLayout* DbaseUpdateW::MakeDraw() {
 }
 
 QLayout* DbaseUpdateW::MakeActions() {
-    auto* save = MakeButton(QStringLiteral("Command1"), tr(" Save lottery draw result "));
+    auto* save = WithKeysOf(
+        Command::Save, MakeButton(QStringLiteral("Command1"), tr(" Save lottery draw result ")));
     save->setDefault(true);
     auto* goToWebsite = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
     goToWebsite->setToolTip(tr(" Start Intenet Explorer "));

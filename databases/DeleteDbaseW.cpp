@@ -5,14 +5,15 @@
 
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
 
 DeleteDbaseW::DeleteDbaseW(Program& program, QWidget* parent)
-    : DatabaseListForm(program, QStringLiteral("DeleteDbaseW"), tr("Delete lottery database"),
-                       MakeIconButton(QStringLiteral("Command2"), QStringLiteral("edit-delete"),
-                                      tr(" Delete database ")),
-                       tr(" Close "), parent) {}
+    : DatabaseListForm(
+          program, QStringLiteral("DeleteDbaseW"), tr("Delete lottery database"),
+          MakeCommandButton(QStringLiteral("Command2"), Command::Delete, tr(" Delete database ")),
+          tr(" Close "), parent) {}
 
 void DeleteDbaseW::Act() {
     if (Lotteries().Index() < 0) return;

@@ -10,6 +10,7 @@
 
 #include "databases/HistoryW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Grid.h"
@@ -146,7 +147,7 @@ QLayout* HistoryW::MakeChoices() {
 }
 
 QLayout* HistoryW::MakeActions() {
-    auto* print = MakeButton(QStringLiteral("Command6"), tr(" Print "));
+    auto* print = WithKeysOf(Command::Print, MakeButton(QStringLiteral("Command6"), tr(" Print ")));
     print->setEnabled(services().printDraws != nullptr);
     auto* close = MakeButton(QStringLiteral("Command1"), tr(" Close "));
     SetCloseButton(close);

@@ -12,6 +12,7 @@
 #include "core/text.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Widgets.h"
 
@@ -58,12 +59,12 @@ QLayout* SaveEntries::BuildInputs() {
 }
 
 QLayout* SaveEntries::BuildActions() {
-    QPushButton* save = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
-                                       tr(" Save lottery entries "));
+    QPushButton* save =
+        MakeCommandButton(QStringLiteral("Command7"), Command::Save, tr(" Save lottery entries "));
     connect(save, &QPushButton::clicked, this, [this] { Save(); });
     save->setDefault(true);
     QPushButton* cancel =
-        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("dialog-cancel"), tr(" Cancel "));
+        MakeCommandButton(QStringLiteral("Command1"), Command::Cancel, tr(" Cancel "));
     connect(cancel, &QPushButton::clicked, this, [this] { Cancel(); });
     SetCloseButton(cancel);
     return BuildActionRow({save}, {cancel});

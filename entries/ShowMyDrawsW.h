@@ -7,6 +7,7 @@
 #include "entries/entry_table.h"
 #include "platform/forms/Form.h"
 
+enum class Command;
 class DatePicker;
 class Grid;
 class QLabel;
@@ -34,7 +35,7 @@ class ShowMyDrawsW final : public Form {
     QWidget* MakeGrid(const QLabel& title);
     QPushButton* MakeCommand(const QString& name, const QString& caption, const QString& toolTip,
                              Action action);
-    QPushButton* MakeIconCommand(const QString& name, const QString& icon, const QString& toolTip,
+    QPushButton* MakeIconCommand(const QString& name, Command command, const QString& toolTip,
                                  Action action);
     QPushButton* AddCommand(QPushButton* button, Action action);
     QLayout* MakeCommands();

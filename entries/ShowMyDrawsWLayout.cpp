@@ -10,6 +10,7 @@
 #include "entries/MatchLooks.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Widgets.h"
@@ -91,9 +92,9 @@ QPushButton* ShowMyDrawsW::MakeCommand(const QString& name, const QString& capti
     return AddCommand(button, action);
 }
 
-QPushButton* ShowMyDrawsW::MakeIconCommand(const QString& name, const QString& icon,
+QPushButton* ShowMyDrawsW::MakeIconCommand(const QString& name, Command command,
                                            const QString& toolTip, Action action) {
-    return AddCommand(MakeIconButton(name, icon, toolTip), action);
+    return AddCommand(MakeCommandButton(name, command, toolTip), action);
 }
 
 QLayout* ShowMyDrawsW::MakeCommands() {
@@ -207,15 +208,13 @@ QLayout* ShowMyDrawsW::MakeReport() {
 }
 
 QLayout* ShowMyDrawsW::MakeActions() {
-    QPushButton* save =
-        MakeIconCommand(QStringLiteral("Command13"), QStringLiteral("document-save"),
-                        tr(" Save the lottery entries "), &ShowMyDrawsW::Save);
-    QPushButton* print =
-        MakeIconButton(QStringLiteral("Command5"), QStringLiteral("document-print"),
-                       tr(" Print out lottery entries "));
+    QPushButton* save = MakeIconCommand(QStringLiteral("Command13"), Command::Save,
+                                        tr(" Save the lottery entries "), &ShowMyDrawsW::Save);
+    QPushButton* print = MakeCommandButton(QStringLiteral("Command5"), Command::Print,
+                                           tr(" Print out lottery entries "));
     print->setEnabled(false);
-    QPushButton* close = MakeIconCommand(QStringLiteral("Command1"), QStringLiteral("window-close"),
-                                         tr(" Close "), &ShowMyDrawsW::Close);
+    QPushButton* close = MakeIconCommand(QStringLiteral("Command1"), Command::Close, tr(" Close "),
+                                         &ShowMyDrawsW::Close);
     SetCloseButton(close);
     return BuildActionRow({save, print}, {close});
 }

@@ -5,6 +5,7 @@
 
 #include "platform/forms/Form.h"
 
+enum class Command;
 class DatePicker;
 class Grid;
 class ListBox;
@@ -32,7 +33,7 @@ class StoreMyDrawsW final : public Form {
     QLayout* MakeNumbers();
     QLayout* MakeBoxes();
     QLayout* MakeHeadings();
-    QPushButton* MakeCommand(const QString& name, const QString& icon, const QString& toolTip,
+    QPushButton* MakeCommand(const QString& name, Command command, const QString& toolTip,
                              Action action);
     QLayout* MakeRowCommands();
     QLayout* MakeActions();

@@ -9,6 +9,7 @@
 #include "entries/EntryGrid.h"
 #include "entries/StoreMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
@@ -126,29 +127,29 @@ QLayout* StoreMyDrawsW::MakeBoxes() {
     return row;
 }
 
-QPushButton* StoreMyDrawsW::MakeCommand(const QString& name, const QString& icon,
+QPushButton* StoreMyDrawsW::MakeCommand(const QString& name, Command command,
                                         const QString& toolTip, Action action) {
-    QPushButton* button = MakeIconButton(name, icon, toolTip);
+    QPushButton* button = MakeCommandButton(name, command, toolTip);
     connect(button, &QPushButton::clicked, this, [this, action] { (this->*action)(); });
     return button;
 }
 
 QLayout* StoreMyDrawsW::MakeRowCommands() {
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeCommand(QStringLiteral("Command4"), QStringLiteral("edit-delete"),
+    row->addWidget(MakeCommand(QStringLiteral("Command4"), Command::Delete,
                                tr(" Delete current row "), &StoreMyDrawsW::DeleteRow));
-    row->addWidget(MakeCommand(QStringLiteral("Command5"), QStringLiteral("go-up"),
-                               tr(" Move current row up "), &StoreMyDrawsW::MoveRowUp));
-    row->addWidget(MakeCommand(QStringLiteral("Command6"), QStringLiteral("go-down"),
+    row->addWidget(MakeCommand(QStringLiteral("Command5"), Command::Up, tr(" Move current row up "),
+                               &StoreMyDrawsW::MoveRowUp));
+    row->addWidget(MakeCommand(QStringLiteral("Command6"), Command::Down,
                                tr(" Move current row down "), &StoreMyDrawsW::MoveRowDown));
     return row;
 }
 
 QLayout* StoreMyDrawsW::MakeActions() {
     QPushButton* save =
-        MakeCommand(QStringLiteral("Command3"), QStringLiteral("document-save"),
+        MakeCommand(QStringLiteral("Command3"), Command::Save,
                     tr(" Save all lottery entries in the grid "), &StoreMyDrawsW::Save);
-    QPushButton* close = MakeCommand(QStringLiteral("Command1"), QStringLiteral("window-close"),
+    QPushButton* close = MakeCommand(QStringLiteral("Command1"), Command::Close,
                                      tr(" Close the window "), &StoreMyDrawsW::Close);
     SetCloseButton(close);
     QHBoxLayout* row = BuildActionRow({save}, {close});

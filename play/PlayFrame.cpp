@@ -13,6 +13,7 @@
 #include "platform/forms/InputDropper.h"
 #include "platform/forms/LinesGrid.h"
 #include "platform/forms/LotteryList.h"
+#include "platform/widgets/Commands.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
@@ -109,17 +110,14 @@ QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
 }
 
 QLayout* PlayFrame::BuildActions(const QString& helpName) {
-    QPushButton* generate =
-        MakeIconButton(QStringLiteral("Command2"), QStringLiteral("view-refresh"),
-                       tr("Generate another selection of lottery entries"));
-    QPushButton* print =
-        MakeIconButton(QStringLiteral("Command6"), QStringLiteral("document-print"),
-                       tr("Print out the lottery entries"));
-    QPushButton* save = MakeIconButton(QStringLiteral("Command7"), QStringLiteral("document-save"),
-                                       tr("Save these lottery entries to disk"));
+    QPushButton* generate = MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
+                                              tr("Generate another selection of lottery entries"));
+    QPushButton* print = MakeCommandButton(QStringLiteral("Command6"), Command::Print,
+                                           tr("Print out the lottery entries"));
+    QPushButton* save = MakeCommandButton(QStringLiteral("Command7"), Command::Save,
+                                          tr("Save these lottery entries to disk"));
     QPushButton* help = MakeHelpButton(helpName, tr(" Help "));
-    close_ =
-        MakeIconButton(QStringLiteral("Command1"), QStringLiteral("window-close"), tr(" Close "));
+    close_ = MakeCommandButton(QStringLiteral("Command1"), Command::Close, tr(" Close "));
     generate->setDefault(true);
     print->setEnabled(static_cast<bool>(services().printLines));
     connect(generate, &QPushButton::clicked, this, [this] { Generate(); });

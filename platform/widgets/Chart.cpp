@@ -15,6 +15,7 @@
 #include "core/failure.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/ChartPlot.h"
+#include "platform/widgets/Icons.h"
 #include "platform/widgets/Widgets.h"
 #include "platform/widgets/WindowShade.h"
 
@@ -152,9 +153,7 @@ void Chart::SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor&
 
 void Chart::SetAverage(std::optional<double> average) { figures_.average = average; }
 
-void Chart::SetRankedRows(const std::vector<int>& rows) {
-    figures_.ranked = rows;
-}
+void Chart::SetRankedRows(const std::vector<int>& rows) { figures_.ranked = rows; }
 
 void Chart::SetRange(double lowest, double highest) { figures_.range = {lowest, highest}; }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QIcon>
 #include <QString>
+
+#include "platform/widgets/IconButton.h"
 
 class QLabel;
 class QPushButton;
@@ -21,16 +22,12 @@ QString Member(const QString& array, int index);
 /// The caption with its "&" doubled, so that it is shown.
 QString ShownCaption(const QString& caption);
 
-/// The desktop's icon of that name; Breeze's where the desktop's theme has none, in the colour of
-/// the desktop's text.
-QIcon ThemeIcon(const QString& name);
-
 /// A push button with a caption.
 QPushButton* MakeButton(const QString& name, const QString& caption, QWidget* parent = nullptr);
 
 /// A push button with an icon and a tool-tip, which is its accessible name too.
-QPushButton* MakeIconButton(const QString& name, const QString& icon, const QString& toolTip,
-                            QWidget* parent = nullptr);
+IconButton* MakeIconButton(const QString& name, const QString& icon, const QString& toolTip,
+                           QWidget* parent = nullptr);
 
 /// A label; `title` labels are large.
 QLabel* MakeLabel(const QString& name, const QString& text, QWidget* parent = nullptr);

@@ -204,9 +204,9 @@ TEST_F(ShowingEntries, BearsTheCaptionsAndToolTipsOfItsCommands) {
         {sortByName, "By name", " Sort lottery entries by player name "},
         {sortByLottery, "By lottery", " Sort lottery entries by lottery name "},
         {checkButton, "Check", " See if you have won! "},
-        {saveButton, "", " Save the lottery entries "},
-        {printButton, "", " Print out lottery entries "},
-        {closeButton, "", " Close "}};
+        {saveButton, "Save", " Save the lottery entries "},
+        {printButton, "Print", " Print out lottery entries "},
+        {closeButton, "Close", " Close "}};
     for (const auto& [name, caption, toolTip] : commands) {
         const auto* button = Find<QPushButton>(*form_, name);
         EXPECT_EQ(button->text(), QString::fromLatin1(caption)) << name;
