@@ -58,6 +58,7 @@ void MainArea::CompletePainting() {
     toolbar_->LoadPictures();
     TakePicture();
     ShowWelcome(!panels_->Shown());
+    Q_EMIT completed();
 }
 
 void MainArea::ShowWelcome(bool shown) {

@@ -33,6 +33,9 @@ class MainArea final : public QWidget {
     void RenewWelcome();
 
   Q_SIGNALS:
+    /// Pictures and welcome are there.
+    void completed();
+
     /// Somebody takes a step that the welcome offers, told as the menu entry behind it.
     void stepChosen(const QString& menuEntry);
 

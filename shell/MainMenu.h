@@ -8,6 +8,7 @@
 #include "core/settings.h"
 
 class QAction;
+struct EntryText;
 
 /// The menu of the main window: every entry under its name, disabled until somebody answers it.
 class MainMenu final : public QMenuBar {
@@ -24,11 +25,14 @@ class MainMenu final : public QMenuBar {
     /// Enables the entry and runs `handler` on each choice of it.
     void Answer(const QString& name, const std::function<void()>& handler);
 
-    /// Captions and visibility of `LinksLink(0)` to `LinksLink(9)` as the settings tell.
+    /// Enables the entry, or greys it and says in its tool-tip why nobody can choose it.
+    void Allow(const QString& name, const QString& whyNot = {});
+
+    /// Captions, addresses and visibility of `LinksLink(0)` to `LinksLink(9)` as the settings tell.
     void ShowLinks(const State& state);
 
   private:
-    QAction* Add(QMenu* menu, const QString& name, const QString& caption);
+    void Add(QMenu* menu, const EntryText& text);
     void AddLinks(QMenu* menu);
 
     QHash<QString, QAction*> entries_;

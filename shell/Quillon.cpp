@@ -75,6 +75,8 @@ void Quillon::AnswerArea() {
     });
     connect(&area_->Pictures(), &Toolbar::chosen, this, &Quillon::Choose);
     area_->Pictures().DimPictures(*menu_);
+    connect(area_, &MainArea::completed, this,
+            [this] { area_->Pictures().GivePicturesTo(*menu_); });
     QAction* biorhythms = menu_->Entry(QStringLiteral("AnalyseBiorhythms"));
     BiochartPanel& biochart = area_->Panels().Biochart();
     biochart.SetMoreAvailable(biorhythms->isEnabled());
@@ -115,14 +117,16 @@ void Quillon::UpdateSyndicate() {
     const std::string& name = View(program_.state).Members(0, 10);
     const std::string& manager = View(program_.state).Members(0, 0);
     area_->Panels().ShowSyndicate(name, manager);
-    const bool open = !name.empty() && !manager.empty();
+    const QString whyNot =
+        !name.empty() && !manager.empty()
+            ? QString()
+            : tr("No syndicate is open: choose New syndicate or Open syndicate first.");
     const std::initializer_list<const char*> entries = {"SyndicateMembers", "SyndicatePayments",
                                                         "SyndicatesNotes", "SyndicateManager"};
     for (const char* entry : entries) {
         const QString entryName = QString::fromLatin1(entry);
         const CatalogueEntry* form = FindCatalogueEntry(entryName);
-        const bool exists = form != nullptr && form->make != nullptr;
-        menu_->Entry(entryName)->setEnabled(open && exists);
+        if (form != nullptr && form->make != nullptr) menu_->Allow(entryName, whyNot);
     }
 }
 
@@ -206,12 +210,4 @@ void Quillon::closeEvent(QCloseEvent* event) {
     SaveSettings(program_.state, program_.folder);
     event->accept();
     Q_EMIT ended();
-}
-
-void Quillon::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F1) {
-        menu_->Entry(QStringLiteral("HelpHelp"))->trigger();
-    } else {
-        QMainWindow::keyPressEvent(event);
-    }
 }

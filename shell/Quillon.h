@@ -30,7 +30,6 @@ class Quillon final : public QMainWindow {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void AnswerMenu();

@@ -89,6 +89,23 @@ void ToolbarPicture::focusOutEvent(QFocusEvent* event) {
     QToolButton::focusOutEvent(event);
 }
 
+void ToolbarPicture::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Home:
+        case Qt::Key_End:
+            event->ignore();  // the toolbar moves the focus
+            break;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            click();
+            break;
+        default:
+            QToolButton::keyPressEvent(event);
+    }
+}
+
 void ToolbarPicture::mouseMoveEvent(QMouseEvent* event) {
     QToolButton::mouseMoveEvent(event);
     // The move ends here: passed on, the background would take the border away again.
@@ -126,6 +143,7 @@ Toolbar::Toolbar(const Region& region, QWidget* parent)
         auto* picture = new ToolbarPicture(
             i, QCoreApplication::translate("Toolbar", pictureTexts.at(place).toolTip), this);
         pictures_.at(place) = picture;
+        picture->setFocusPolicy(i == current_ ? Qt::TabFocus : Qt::NoFocus);
         layout->addWidget(picture);
         connect(picture, &ToolbarPicture::mouseOver, this, [this, i] { MoveBorderTo(i); });
         connect(picture, &QToolButton::clicked, this, [this, i] { Q_EMIT chosen(EntryOf(i)); });
@@ -154,12 +172,39 @@ void Toolbar::DimPictures(const MainMenu& menu) {
     }
 }
 
+void Toolbar::GivePicturesTo(const MainMenu& menu) const {
+    for (int i = 0; i < pictureCount; ++i) menu.Entry(EntryOf(i))->setIcon(Picture(i)->icon());
+}
+
 void Toolbar::ClearBorders() {
     for (ToolbarPicture* picture : pictures_) picture->SetBordered(false);
 }
 
 void Toolbar::MoveBorderTo(int index) {
     for (int i = 0; i < pictureCount; ++i) Picture(i)->SetBordered(i == index);
+}
+
+void Toolbar::keyPressEvent(QKeyEvent* event) {
+    constexpr int last = pictureCount - 1;
+    switch (event->key()) {
+        case Qt::Key_Left:
+            return MoveFocusTo(qMax(current_ - 1, 0));
+        case Qt::Key_Right:
+            return MoveFocusTo(qMin(current_ + 1, last));
+        case Qt::Key_Home:
+            return MoveFocusTo(0);
+        case Qt::Key_End:
+            return MoveFocusTo(last);
+        default:
+            QLabel::keyPressEvent(event);
+    }
+}
+
+void Toolbar::MoveFocusTo(int index) {
+    Picture(current_)->setFocusPolicy(Qt::NoFocus);
+    current_ = index;
+    Picture(current_)->setFocusPolicy(Qt::TabFocus);
+    Picture(current_)->setFocus(Qt::TabFocusReason);
 }
 
 void Toolbar::leaveEvent(QEvent* event) {

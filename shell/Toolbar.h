@@ -31,6 +31,7 @@ class ToolbarPicture final : public QToolButton {
     void enterEvent(QEnterEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -40,7 +41,8 @@ class ToolbarPicture final : public QToolButton {
     bool focusVisible_ = false;
 };
 
-/// The row of sixteen pictures on their background.
+/// The row of sixteen pictures on their background. The Tab key stops at one of them, the one that
+/// had the focus last; the arrow keys, Home and End go to the others.
 class Toolbar final : public QLabel {
     Q_OBJECT
   public:
@@ -62,6 +64,9 @@ class Toolbar final : public QLabel {
     /// Dims the pictures whose entry the menu does not answer.
     void DimPictures(const MainMenu& menu);
 
+    /// Shows the pictures, once they are loaded, on the menu entries that they stand for.
+    void GivePicturesTo(const MainMenu& menu) const;
+
     /// Takes the border from every picture.
     void ClearBorders();
 
@@ -70,13 +75,16 @@ class Toolbar final : public QLabel {
     void chosen(const QString& menuEntry);
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     void MoveBorderTo(int index);
+    void MoveFocusTo(int index);
 
     std::array<ToolbarPicture*, pictureCount> pictures_{};
     QString download_;
+    int current_ = 0;  // at which the Tab key stops
 };

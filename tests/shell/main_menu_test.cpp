@@ -4,6 +4,8 @@
 #include <set>
 
 #include "core/settings.h"
+#include "shell/MainMenu.h"
+#include "shell/Toolbar.h"
 #include "shell/form_catalogue.h"
 #include "tests/shell/main_window.h"
 
@@ -239,6 +241,74 @@ TEST_F(MainMenuOfWindow, TheWebsiteIsTheAddressOfLinkZero) {
     Choose("HelpWebSite");
     EXPECT_EQ(program.pages,
               std::vector<QString>{QString::fromStdString(Setting(setting::LinkAddresses))});
+}
+
+TEST_F(MainMenuOfWindow, SaysInASentenceWhatEachEntryIsFor) {
+    Start();
+    for (const MenuOfTable& menu : Table()) {
+        EXPECT_TRUE(Find<QMenu>(*window, menu.name)->toolTipsVisible()) << menu.name;
+        if (std::string(menu.name) == "LinksMenu") continue;
+        for (const EntryOfTable& entry : menu.entries) {
+            const QString sentence = Entry(entry.name)->toolTip().section(QLatin1Char('\n'), 0, 0);
+            EXPECT_GT(sentence.size(), 15) << entry.name;
+            EXPECT_TRUE(sentence.endsWith(QLatin1Char('.'))) << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, SaysWhyAnEntryIsGrey) {
+    Start();
+    for (const MenuOfTable& menu : Table()) {
+        for (const EntryOfTable& entry : menu.entries) {
+            if (!Entry(entry.name)->isVisible()) continue;
+            EXPECT_EQ(Entry(entry.name)->toolTip().contains(QLatin1Char('\n')),
+                      !Entry(entry.name)->isEnabled())
+                << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, TakesTheReasonAwayOnceAnEntryIsAllowed) {
+    MainMenu menu;
+    const QString name = QStringLiteral("SyndicateMembers");
+    menu.Allow(name, QStringLiteral("No syndicate is open."));
+    EXPECT_FALSE(menu.Entry(name)->isEnabled());
+    EXPECT_TRUE(menu.Entry(name)->toolTip().endsWith(QStringLiteral(".\nNo syndicate is open.")));
+    menu.Allow(name);
+    EXPECT_TRUE(menu.Entry(name)->isEnabled());
+    EXPECT_FALSE(menu.Entry(name)->toolTip().contains(QLatin1Char('\n')));
+}
+
+TEST_F(MainMenuOfWindow, TellsTheAddressesOfTheLinks) {
+    Start();
+    EXPECT_EQ(Entry("LinksLink(3)")->toolTip(), QString::fromStdString(Setting(33)));
+}
+
+TEST_F(MainMenuOfWindow, ShowsTheToolbarsPicturesOnTheirEntries) {
+    Start();
+    std::set<std::string> pictured;
+    for (int i = 0; i < Toolbar::pictureCount; ++i) {
+        pictured.insert(Find<Toolbar>(*window, toolbarBackground)->EntryOf(i).toStdString());
+    }
+    for (const MenuOfTable& menu : Table()) {
+        for (const EntryOfTable& entry : menu.entries) {
+            EXPECT_EQ(!Entry(entry.name)->icon().isNull(), pictured.contains(entry.name))
+                << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, ShowsTheKeysThatItAnswers) {
+    Start();
+    EXPECT_EQ(Entry("FileExit")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Q));
+    EXPECT_EQ(Entry("HelpHelp")->shortcut(), QKeySequence(Qt::Key_F1));
+}
+
+TEST_F(MainMenuOfWindow, CtrlQQuits) {
+    Start();
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(timesEnded, 1);
+    EXPECT_TRUE(program.folder.Exists("Notes.txt"));
 }
 
 TEST_F(MainMenuOfWindow, F1OpensTheHelpPage) {

@@ -229,11 +229,33 @@ TEST_F(ToolbarOfWindow, OtherDatesMeanTheDownloadForTheUs) {
     }
 }
 
+TEST_F(ToolbarOfWindow, TheTabKeyStopsAtOnePictureAndArrowsGoToTheOthers) {
+    Start();
+    std::vector<int> stops;
+    for (int index = 0; index < 16; ++index) {
+        if ((Picture(index)->focusPolicy() & Qt::TabFocus) != 0) stops.push_back(index);
+    }
+    EXPECT_EQ(stops, std::vector{0});
+    const std::vector<std::pair<Qt::Key, int>> walk = {
+        {Qt::Key_Right, 1},  {Qt::Key_Right, 2}, {Qt::Key_Left, 1}, {Qt::Key_End, 15},
+        {Qt::Key_Right, 15}, {Qt::Key_Home, 0},  {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
+    Picture(0)->setFocus(Qt::TabFocusReason);
+    for (const auto& [key, place] : walk) {
+        QTest::keyClick(window->focusWidget(), key);
+        EXPECT_EQ(window->focusWidget(), Picture(place));
+    }
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(qobject_cast<ToolbarPicture*>(window->focusWidget()), nullptr);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(window->focusWidget(), Picture(1)) << "it comes back to where it was";
+}
+
 TEST_F(ToolbarOfWindow, ThePicturesAnswerTheKeyboard) {
     Start();
     Picture(14)->setFocus();
     QTest::keyClick(Picture(14), Qt::Key_Space);
-    EXPECT_EQ(program.pages, std::vector<QString>{QStringLiteral("help.html")});
+    QTest::keyClick(Picture(14), Qt::Key_Return);
+    EXPECT_EQ(program.pages, std::vector<QString>(2, QStringLiteral("help.html")));
 }
 
 }  // namespace
