@@ -39,6 +39,18 @@ QLayout* AtMost(int width, QLayout* inputs) {
     return row;
 }
 
+/// Such as "1 line taken out, 29 left".
+QString WhatWasTakenOut(int before, int left) {
+    const int taken = before - left;
+    if (before == 0) return PlayFrame::tr("There are no lines to filter");
+    if (taken == 0) return PlayFrame::tr("No line taken out, %1 left").arg(left);
+    const QString rest =
+        left == 0 ? PlayFrame::tr("none left") : PlayFrame::tr("%1 left").arg(left);
+    return (taken == 1 ? PlayFrame::tr("1 line taken out, ")
+                       : PlayFrame::tr("%1 lines taken out, ").arg(taken)) %
+           rest;
+}
+
 }  // namespace
 
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
@@ -101,11 +113,7 @@ QLayout* PlayFrame::BuildFilters(const PlayControlNames& names) {
 QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
                                     void (*prune)(State&)) {
     QPushButton* filter = MakeButton(name, caption);
-    connect(filter, &QPushButton::clicked, this, [this, prune] {
-        if (!Lets(busyRules_.filtersWait)) return;
-        prune(state());
-        ShowResult();
-    });
+    connect(filter, &QPushButton::clicked, this, [this, prune] { Filter(prune); });
     return filter;
 }
 
@@ -193,6 +201,14 @@ void PlayFrame::Generate() {
     }
     state().Busy = 0;
     if (closeWanted_) Unload();
+}
+
+void PlayFrame::Filter(void (*prune)(State&)) {
+    if (!Lets(busyRules_.filtersWait)) return;
+    const int before = LineCount(view());
+    prune(state());
+    ShowResult();
+    Say(WhatWasTakenOut(before, LineCount(view())));
 }
 
 void PlayFrame::PrintLines() {

@@ -104,6 +104,7 @@ class PlayFrame : public Form {
     QLayout* BuildFilters(const PlayControlNames& names);
     QPushButton* BuildFilter(const QString& name, const QString& caption, void (*prune)(State&));
     QLayout* BuildActions(const QString& helpName);
+    void Filter(void (*prune)(State&));
     void PrintLines();
     void SaveLines();
     void Close();

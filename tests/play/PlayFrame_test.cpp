@@ -153,4 +153,29 @@ TEST_F(ThePlayFrame, GivesTheRoomOfAWideWindowToTheSideOfTheGrid) {
     EXPECT_LE(filter->mapTo(form.get(), filter->rect().topRight()).x() - list->x(), 320);
 }
 
+TEST_F(ThePlayFrame, SaysHowManyLinesAFilterTookOut) {
+    form->show();
+    test.state.Settings(setting::LongRunStrength) = "2";
+    const auto filter = [this](const std::vector<int>& lines) {
+        // A line of 1, 2, 3, ... has too long a run, one of 2, 4, 6, ... has none.
+        int row = 1;
+        for (const int step : lines) {
+            for (int column = 1; column <= 6; ++column) {
+                test.state.Lines(row, column) = static_cast<std::int16_t>(step * column);
+            }
+            ++row;
+        }
+        test.state.Lines(row, 1) = 0;
+        Click(*form, usualFilters.longRuns);
+        return Find<QLabel>(*form, "Said")->text();
+    };
+    EXPECT_EQ(filter({2, 1, 2}), QStringLiteral("1 line taken out, 2 left"));
+    EXPECT_EQ(filter({1, 2, 1}), QStringLiteral("2 lines taken out, 1 left"));
+    EXPECT_EQ(filter({1}), QStringLiteral("1 line taken out, none left"));
+    EXPECT_EQ(filter({2, 2}), QStringLiteral("No line taken out, 2 left"));
+    EXPECT_EQ(filter({}), QStringLiteral("There are no lines to filter"));
+    Click(*form, generateButton);
+    EXPECT_EQ(Find<QLabel>(*form, "Said")->text(), QString());
+}
+
 }  // namespace
