@@ -77,7 +77,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
     layout->addSpacing(4);
     layout->addLayout(middle, 1);
     layout->addLayout(foot_);
-    layout->addLayout(BuildActions(names.help));
+    layout->addLayout(BuildActions(text, names));
     SetOpeningSize({sizeHint().width(), 600});
     SetHelpPage(helpPage);
 }
@@ -96,7 +96,7 @@ QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
     column->addSpacing(8);
     column->addLayout(column_);
     column->addSpacing(8);
-    column->addLayout(AtMost(widestInput, BuildFilters(names)));
+    if (!names.filters.isEmpty()) column->addLayout(AtMost(widestInput, BuildFilters(names)));
     return column;
 }
 
@@ -117,14 +117,15 @@ QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
     return filter;
 }
 
-QLayout* PlayFrame::BuildActions(const QString& helpName) {
-    QPushButton* generate = MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
-                                              tr("Generate another selection of lottery entries"));
+QLayout* PlayFrame::BuildActions(const PlayFormText& text, const PlayControlNames& names) {
+    const QString usualTip = tr("Generate another selection of lottery entries");
+    QPushButton* generate =
+        MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
+                          text.generateTip.isEmpty() ? usualTip : text.generateTip);
     QPushButton* print = MakeCommandButton(QStringLiteral("Command6"), Command::Print,
                                            tr("Print out the lottery entries"));
     QPushButton* save = MakeCommandButton(QStringLiteral("Command7"), Command::Save,
                                           tr("Save these lottery entries to disk"));
-    QPushButton* help = MakeHelpButton(helpName, tr(" Help "));
     close_ = MakeCommandButton(QStringLiteral("Command1"), Command::Close, tr(" Close "));
     generate->setDefault(true);
     print->setEnabled(static_cast<bool>(services().printLines));
@@ -133,7 +134,9 @@ QLayout* PlayFrame::BuildActions(const QString& helpName) {
     connect(save, &QPushButton::clicked, this, [this] { SaveLines(); });
     connect(close_, &QPushButton::clicked, this, [this] { Close(); });
     SetCloseButton(close_);
-    return BuildActionRow({generate, print, save}, {help, close_});
+    if (names.help.isEmpty()) return BuildActionRow({generate, print, save}, {close_});
+    return BuildActionRow({generate, print, save},
+                          {MakeHelpButton(names.help, tr(" Help ")), close_});
 }
 
 QPushButton* PlayFrame::MakeHelpButton(const QString& name, const QString& caption) {

@@ -13,10 +13,11 @@ class QVBoxLayout;
 
 /// The words in which one play form differs from another.
 struct PlayFormText {
-    QString name;     ///< The form's name.
-    QString caption;  ///< Its title.
-    QString heading;  ///< `Label7`.
-    QString body;     ///< `Label2`.
+    QString name;              ///< The form's name.
+    QString caption;           ///< Its title.
+    QString heading;           ///< `Label7`.
+    QString body;              ///< `Label2`.
+    QString generateTip = {};  ///< The tool-tip of the generate button; empty: the usual one.
 };
 
 /// The controls that bear other names in some forms.
@@ -25,8 +26,8 @@ struct PlayControlNames {
     QString highLow = QStringLiteral("Command14");
     QString longRuns = QStringLiteral("Command15");
     QString previousDraws = QStringLiteral("Command9");
-    QString help = QStringLiteral("Command8");
-    QString filters = QStringLiteral("Label6(1)");  ///< The heading of the filter buttons.
+    QString help = QStringLiteral("Command8");      ///< Empty where there is no such button.
+    QString filters = QStringLiteral("Label6(1)");  ///< The filter buttons' heading; empty: none.
     QString conditions = QStringLiteral("Label6");  ///< The heading of the condition boxes.
     QString explain = QStringLiteral("Command3");   ///< Their "?"; empty where there is none.
     QString status = QStringLiteral("Label5");      ///< The tries and the time.
@@ -103,7 +104,7 @@ class PlayFrame : public Form {
     QLayout* BuildInputs(const PlayControlNames& names);
     QLayout* BuildFilters(const PlayControlNames& names);
     QPushButton* BuildFilter(const QString& name, const QString& caption, void (*prune)(State&));
-    QLayout* BuildActions(const QString& helpName);
+    QLayout* BuildActions(const PlayFormText& text, const PlayControlNames& names);
     void Filter(void (*prune)(State&));
     void PrintLines();
     void SaveLines();

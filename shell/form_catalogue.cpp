@@ -17,6 +17,8 @@
 #include "play/PFullSel.h"
 #include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
+#include "play/PLuckyNumbers.h"
+#include "play/PStarSign.h"
 #include "wheels/PWheel2.h"
 #include "wheels/PWheel3.h"
 
@@ -100,8 +102,8 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "PlayWheel49", .form = "Wheel49"},
     {.menuEntry = "PlayWheel2", .form = "PWheel2", .make = Make<PWheel2>},
     {.menuEntry = "PlayWheel3", .form = "PWheel3", .make = Make<PWheel3>},
-    {.menuEntry = "PlayStarSign", .form = "PStarSign"},
-    {.menuEntry = "PlayLucky", .form = "PLuckyNumbers"},
+    {.menuEntry = "PlayStarSign", .form = "PStarSign", .make = Make<PStarSign>},
+    {.menuEntry = "PlayLucky", .form = "PLuckyNumbers", .make = Make<PLuckyNumbers>},
 
     {.menuEntry = "SyndicateNew", .form = "NewSyndicate", .changesSyndicate = true},
     {.menuEntry = "SyndicateOpen", .form = "OpenSyndicate", .changesSyndicate = true},
