@@ -27,7 +27,9 @@ SavedEntry EntryInGrid(const Grid& grid, int row) {
 
 int EntryCount(const Grid& grid) {
     int count = 0;
-    while (!grid.Cell(count + 1, entry_column::date).isEmpty()) ++count;
+    while (count + 1 < grid.RowCount() && !grid.Cell(count + 1, entry_column::date).isEmpty()) {
+        ++count;
+    }
     return count;
 }
 

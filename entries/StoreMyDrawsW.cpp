@@ -56,7 +56,7 @@ void StoreMyDrawsW::ChooseLottery() {
     const Hourglass hourglass;
     LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
     ShowBoxes();
-    grid_->SetCurrentCell(parkingRow, 0);
+    GoToRow(parkingRow);
     add_->setEnabled(true);
 }
 
@@ -86,21 +86,15 @@ bool StoreMyDrawsW::NumbersAreValid() const {
     return state().MaxPball <= 0 || valid(extraBallBox);
 }
 
-int StoreMyDrawsW::FirstEmptyRow() const {
-    int row = 1;
-    while (!grid_->Cell(row, 0).isEmpty()) ++row;
-    return row;
-}
-
 void StoreMyDrawsW::Add() {
     if (!NumbersAreValid()) {
         ShowTip(services(), this, 6);
         return;
     }
-    const int row = FirstEmptyRow();
+    const int row = EntryCount(*grid_) + 1;
     grid_->ScrollToRow(row);
     WriteEntry(row);
-    grid_->MarkRow(row);
+    GoToRow(row);
     for (NumberBox* box : boxes_) box->clear();
     Box(1)->setFocus();
 }
@@ -127,25 +121,51 @@ void StoreMyDrawsW::Save() {
     Unload();
 }
 
+bool StoreMyDrawsW::EntryIsChosen() const {
+    const int row = grid_->CurrentRow();
+    return row != parkingRow && !grid_->Cell(row, entry_column::date).isEmpty();
+}
+
+bool StoreMyDrawsW::RowCanMoveUp() const {
+    const int row = grid_->CurrentRow();
+    return row != 1 && !grid_->Cell(row, entry_column::date).isEmpty();
+}
+
+bool StoreMyDrawsW::RowCanMoveDown() const {
+    const int row = grid_->CurrentRow();
+    return row < parkingRow - 1 && !grid_->Cell(row + 1, 1).isEmpty();
+}
+
+void StoreMyDrawsW::GoToRow(int row) {
+    grid_->MarkRow(row);
+    grid_->SetRowsInUse(EntryCount(*grid_));
+    Offer(*deleteRow_, EntryIsChosen());
+    Offer(*moveUp_, RowCanMoveUp());
+    Offer(*moveDown_, RowCanMoveDown());
+}
+
+// Who has just pressed the button would press the next one without meaning it.
+void StoreMyDrawsW::Offer(QPushButton& command, bool possible) {
+    if (!possible && focusWidget() == &command) grid_->setFocus();
+    command.setEnabled(possible);
+}
+
 void StoreMyDrawsW::DeleteRow() {
     const int row = grid_->CurrentRow();
-    if (row == parkingRow) return;
     DeleteGridRow(*grid_, row, lastMovedColumn);
-    grid_->MarkRow(row);
+    GoToRow(row);
 }
 
 void StoreMyDrawsW::MoveRowUp() {
     const int row = grid_->CurrentRow();
-    if (row == 1 || grid_->Cell(row, 0).isEmpty()) return;
     SwapGridRows(*grid_, row, row - 1, lastMovedColumn);
-    grid_->MarkRow(row - 1);
+    GoToRow(row - 1);
 }
 
 void StoreMyDrawsW::MoveRowDown() {
     const int row = grid_->CurrentRow();
-    if (row >= parkingRow - 1 || grid_->Cell(row + 1, 1).isEmpty()) return;
     SwapGridRows(*grid_, row, row + 1, lastMovedColumn);
-    grid_->MarkRow(row + 1);
+    GoToRow(row + 1);
 }
 
 void StoreMyDrawsW::Close() {

@@ -43,9 +43,15 @@ class StoreMyDrawsW final : public Form {
 
     void Add();
     bool NumbersAreValid() const;
-    int FirstEmptyRow() const;
     void WriteEntry(int row);
 
+    /// Makes the row current and marks it; the row commands are offered where they do something.
+    void GoToRow(int row);
+    void Offer(QPushButton& command, bool possible);
+
+    bool EntryIsChosen() const;
+    bool RowCanMoveUp() const;
+    bool RowCanMoveDown() const;
     void DeleteRow();
     void MoveRowUp();
     void MoveRowDown();
@@ -62,4 +68,7 @@ class StoreMyDrawsW final : public Form {
     QLabel* extraBallTitle_;
     QPushButton* add_;
     Grid* grid_;
+    QPushButton* deleteRow_;
+    QPushButton* moveUp_;
+    QPushButton* moveDown_;
 };

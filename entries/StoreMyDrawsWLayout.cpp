@@ -35,6 +35,7 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
     layout->addWidget(grid_, 1);
     layout->addLayout(MakeActions());
     SetOpeningSize({sizeHint().width(), 620});
+    GoToRow(grid_->CurrentRow());
 }
 
 void StoreMyDrawsW::MakeGrid() {
@@ -47,7 +48,7 @@ void StoreMyDrawsW::MakeGrid() {
     grid_->SetColumnWidths({date, number, number, number, number, number, number, number, number,
                             22 * digit, 18 * digit, 16 * digit});
     grid_->SetParkingRow(rowCount - 1);
-    connect(grid_, &Grid::cellClicked, this, [this](int row) { grid_->MarkRow(row); });
+    connect(grid_, &Grid::cellClicked, this, [this](int row) { GoToRow(row); });
 }
 
 QLayout* StoreMyDrawsW::MakeTop() {
@@ -135,13 +136,14 @@ QPushButton* StoreMyDrawsW::MakeCommand(const QString& name, Command command,
 }
 
 QLayout* StoreMyDrawsW::MakeRowCommands() {
+    deleteRow_ = MakeCommand(QStringLiteral("Command4"), Command::Delete,
+                             tr(" Delete current row "), &StoreMyDrawsW::DeleteRow);
+    moveUp_ = MakeCommand(QStringLiteral("Command5"), Command::Up, tr(" Move current row up "),
+                          &StoreMyDrawsW::MoveRowUp);
+    moveDown_ = MakeCommand(QStringLiteral("Command6"), Command::Down,
+                            tr(" Move current row down "), &StoreMyDrawsW::MoveRowDown);
     auto* row = new QHBoxLayout;
-    row->addWidget(MakeCommand(QStringLiteral("Command4"), Command::Delete,
-                               tr(" Delete current row "), &StoreMyDrawsW::DeleteRow));
-    row->addWidget(MakeCommand(QStringLiteral("Command5"), Command::Up, tr(" Move current row up "),
-                               &StoreMyDrawsW::MoveRowUp));
-    row->addWidget(MakeCommand(QStringLiteral("Command6"), Command::Down,
-                               tr(" Move current row down "), &StoreMyDrawsW::MoveRowDown));
+    for (QPushButton* command : {deleteRow_, moveUp_, moveDown_}) row->addWidget(command);
     return row;
 }
 

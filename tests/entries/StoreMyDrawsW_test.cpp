@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
@@ -431,6 +432,73 @@ TEST_F(StoringEntries, RowCommandsDoNothingWhileNoRowIsChosen) {
     EXPECT_FALSE(Entries().currentIndex().isValid());
     for (const char* command : {deleteRowButton, upButton, downButton}) Click(*form_, command);
     EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,,UK Lotto,,dbase100.txt");
+}
+
+TEST_F(StoringEntries, OffersRowCommandsWhereTheyDoSomething) {
+    Open();
+    const auto offered = [this] {
+        std::string commands;
+        for (const char* command : {deleteRowButton, upButton, downButton}) {
+            commands += Find<QPushButton>(*form_, command)->isEnabled() ? "x" : "-";
+        }
+        return commands;
+    };
+    EXPECT_EQ(offered(), "---");
+    Add({1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(offered(), "x--");
+    Add({7, 8, 9, 10, 11, 12});
+    EXPECT_EQ(offered(), "xx-");
+    ClickRow(1);
+    EXPECT_EQ(offered(), "x-x");
+    ClickRow(5);
+    EXPECT_EQ(offered(), "---");
+    ClickRow(1);
+    Click(*form_, downButton);
+    EXPECT_EQ(offered(), "xx-");
+    Click(*form_, deleteRowButton);
+    EXPECT_EQ(offered(), "---") << "the row is empty now";
+    ClickRow(1);
+    ChooseLottery(1);
+    EXPECT_EQ(offered(), "---") << "no row is chosen";
+}
+
+TEST_F(StoringEntries, OffersRowCommandsAsTheKeysMoveOn) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    QTest::keyClick(&Entries(), Qt::Key_Up);
+    EXPECT_FALSE(Find<QPushButton>(*form_, upButton)->isEnabled());
+    EXPECT_TRUE(Find<QPushButton>(*form_, downButton)->isEnabled());
+}
+
+TEST_F(StoringEntries, TheNextPressOfAKeyDoesNothingElse) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    auto* up = Find<QPushButton>(*form_, upButton);
+    up->setFocus();
+    QTest::keyClick(up, Qt::Key_Space);
+    EXPECT_FALSE(up->isEnabled());
+    EXPECT_EQ(form_->focusWidget(), &Entries());
+}
+
+TEST_F(StoringEntries, RowsBehindTheLastEntryAreNotInUse) {
+    Open();
+    EXPECT_FALSE(Entries().InUse(1, 0));
+    Add({1, 2, 3, 4, 5, 6});
+    EXPECT_TRUE(Entries().InUse(1, 0));
+    EXPECT_FALSE(Entries().InUse(2, 0));
+    Click(*form_, deleteRowButton);
+    EXPECT_FALSE(Entries().InUse(1, 0));
+}
+
+TEST_F(StoringEntries, AFullGridIsSaved) {
+    Open();
+    for (int entry = 1; entry <= 99; ++entry) Add({1, 2, 3, 4, 5, 6});
+    test_.messages.Expect(entriesSaved);
+    Click(*form_, saveButton);
+    const std::string saved = test_.folder.Read("MyLottery.txt");
+    EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 99);
 }
 
 TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
