@@ -23,8 +23,6 @@
 
 namespace {
 
-// The last grid row is the parking place of the current row: there, no row is chosen.
-constexpr int parkingRow = 99;
 constexpr int boxCount = 8;
 constexpr int extraBallBox = 8;
 

@@ -28,6 +28,9 @@ class StoreMyDrawsW final : public Form {
   private:
     using Action = void (StoreMyDrawsW::*)();
 
+    // The last row of the grid is the parking place of the current row: there, no row is chosen.
+    static constexpr int parkingRow = 99;
+
     void MakeGrid();
     QLayout* MakeTop();
     QLayout* MakeNumbers();

@@ -19,7 +19,6 @@
 
 namespace {
 
-constexpr int rowCount = 100;
 constexpr int columnCount = 12;
 
 }  // namespace
@@ -39,7 +38,7 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
 }
 
 void StoreMyDrawsW::MakeGrid() {
-    grid_ = Named(new Grid(rowCount, columnCount), QStringLiteral("MSFlexGrid1"));
+    grid_ = Named(new Grid(parkingRow + 1, columnCount), QStringLiteral("MSFlexGrid1"));
     grid_->setAccessibleName(tr("Entries to save"));
     SetEntryHeadings(*grid_);
     const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
@@ -47,7 +46,7 @@ void StoreMyDrawsW::MakeGrid() {
     const int number = 7 * digit;
     grid_->SetColumnWidths({date, number, number, number, number, number, number, number, number,
                             22 * digit, 18 * digit, 16 * digit});
-    grid_->SetParkingRow(rowCount - 1);
+    grid_->SetParkingRow(parkingRow);
     connect(grid_, &Grid::cellClicked, this, [this](int row) { GoToRow(row); });
 }
 
