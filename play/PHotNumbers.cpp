@@ -28,12 +28,9 @@ PlayFormText Words() {
 }
 
 PlayControlNames Names() {
-    return {.oddEven = QStringLiteral("Command8"),
-            .highLow = QStringLiteral("Command9"),
-            .longRuns = QStringLiteral("Command10"),
-            .previousDraws = QStringLiteral("Command11"),
-            .help = QStringLiteral("Command4"),
-            .filters = QStringLiteral("Label6")};
+    PlayControlNames names = PlayControlNames::FromCommand8();
+    names.filters = QStringLiteral("Label6");
+    return names;
 }
 
 }  // namespace

@@ -53,6 +53,16 @@ QString WhatWasTakenOut(int before, int left) {
 
 }  // namespace
 
+PlayControlNames PlayControlNames::FromCommand8() {
+    PlayControlNames names;
+    names.oddEven = QStringLiteral("Command8");
+    names.highLow = QStringLiteral("Command9");
+    names.longRuns = QStringLiteral("Command10");
+    names.previousDraws = QStringLiteral("Command11");
+    names.help = QStringLiteral("Command4");
+    return names;
+}
+
 PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayControlNames& names,
                      int mostLines, QWidget* parent)
     : Form(program, text.name, text.caption, parent),

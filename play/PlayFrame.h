@@ -31,6 +31,9 @@ struct PlayControlNames {
     QString conditions = QStringLiteral("Label6");  ///< The heading of the condition boxes.
     QString explain = QStringLiteral("Command3");   ///< Their "?"; empty where there is none.
     QString status = QStringLiteral("Label5");      ///< The tries and the time.
+
+    /// The names of the forms whose filter buttons begin at `Command8`.
+    static PlayControlNames FromCommand8();
 };
 
 /// What all forms that make lines have in common: lottery list, filter buttons, grid, and the

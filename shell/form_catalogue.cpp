@@ -14,6 +14,7 @@
 #include "entries/SaveEntries.h"
 #include "entries/ShowMyDrawsW.h"
 #include "entries/StoreMyDrawsW.h"
+#include "play/PAverage.h"
 #include "play/PFullSel.h"
 #include "play/PHotNumbers.h"
 #include "play/PLuckyDip.h"
@@ -78,7 +79,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm"},
     {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
 
-    {.menuEntry = "PlayAverages", .form = "PAverage"},
+    {.menuEntry = "PlayAverages", .form = "PAverage", .make = Make<PAverage>},
     {.menuEntry = "PlayFullSel", .form = "PFullSel", .make = Make<PFullSel>},
     {.menuEntry = "PlayColdNums",
      .form = "PHotNumbers",

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "core/settings.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/sample_lotteries.h"
 
 TryingFormTest::TryingFormTest() {
@@ -25,6 +26,13 @@ void TryingFormTest::AddFirstLottery(const std::string& name, const std::string&
 void TryingFormTest::LeaveOnlyLotto(const std::vector<std::string>& draws) {
     for (const std::string& file : test_.folder.Find("dbase*.txt")) test_.folder.Delete(file);
     AddLottery(test_.folder, "dbase100.txt", "UK Lotto", "6,49,0,0,1", draws);
+}
+
+void TryingFormTest::ClickLottery(int index) {
+    auto* list = Find<ListBox>(*form_, lotteryList);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualItemRect(list->item(index)).center());
+    EXPECT_EQ(list->Index(), index);
 }
 
 bool TryingFormTest::SaysLinesFail() {

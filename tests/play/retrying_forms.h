@@ -27,6 +27,9 @@ class TryingFormTest : public LinesFormTest {
     /// Leaves nothing but one lottery of 6 of 49 with these draws.
     void LeaveOnlyLotto(const std::vector<std::string>& draws);
 
+    /// A click on the lottery, also on the one that is chosen.
+    void ClickLottery(int index);
+
     QString Status() { return Text(statusLine); }
 
     /// Whether the status line tells that the ten seconds were not enough.
