@@ -14,6 +14,7 @@
 #include "entries/SaveEntries.h"
 #include "entries/ShowMyDrawsW.h"
 #include "entries/StoreMyDrawsW.h"
+#include "play/KeyNumbersForm.h"
 #include "play/PAverage.h"
 #include "play/PFullSel.h"
 #include "play/PHotNumbers.h"
@@ -87,9 +88,9 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .prepare = SelectSecondOption},
     {.menuEntry = "PlayHot", .form = "PHotNumbers", .make = Make<PHotNumbers>},
     {.menuEntry = "PlayLuckyDip", .form = "PLuckyDip", .make = Make<PLuckyDip>},
-    {.menuEntry = "Play1Key", .form = "P1Key"},
-    {.menuEntry = "Play2Key", .form = "P2KeyNum"},
-    {.menuEntry = "Play3Key", .form = "P3KeyNum"},
+    {.menuEntry = "Play1Key", .form = "P1Key", .make = Make<P1Key>},
+    {.menuEntry = "Play2Key", .form = "P2KeyNum", .make = Make<P2KeyNum>},
+    {.menuEntry = "Play3Key", .form = "P3KeyNum", .make = Make<P3KeyNum>},
     {.menuEntry = "PlayBudgetWheels", .form = "PBudgetWheel"},
     {.menuEntry = "PlayColdWheels", .form = "PHotWheels", .prepare = SelectSecondOption},
     {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels"},

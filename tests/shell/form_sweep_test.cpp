@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <algorithm>
+#include <cctype>
 #include <map>
 #include <set>
 
@@ -48,7 +49,8 @@ std::string PictureOf(const std::string& form) {
         {"ShowMyDrawsW", "SkinDatabases.jpg"}};
     const auto found = byForm.find(form);
     if (found != byForm.end()) return found->second;
-    const bool ofFamily = form.size() > 1 && form[1] >= 'A' && form[1] <= 'Z';
+    const auto second = static_cast<unsigned char>(form.size() > 1 ? form[1] : 'a');
+    const bool ofFamily = std::isupper(second) != 0 || std::isdigit(second) != 0;
     if (ofFamily && form[0] == 'P') return "SkinPlay.jpg";
     if (ofFamily && form[0] == 'A') return "SkinAnalyse.jpg";
     if (ofFamily && form[0] == 'S') return "SkinSyndicates.jpg";
