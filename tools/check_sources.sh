@@ -41,4 +41,36 @@ grep -nE '\b(TODO|FIXME|XXX)\b' "${sources[@]}" /dev/null | Report 'What is not 
 printf '%s\n' "${product[@]}" | grep '\.cpp$' | xargs wc -l |
     awk '$2 != "total" && $1 > 300' | Report 'A file has at most 300 lines'
 
+# Prints the files that name a class of the precompiled headers and neither include it nor anything
+# of ours that does.
+UsedWithoutInclude() {
+    sed -n '/HEADERS/,/LIBRARIES/p' cmake/strict.cmake tests/CMakeLists.txt | grep -oE '\bQ\w+' |
+        awk '
+            function Reaches(file, class, seen,    i) {
+                if ((file, class) in included) return 1
+                seen[file] = 1
+                for (i = 1; i <= count[file]; i++) {
+                    if (!(ours[file, i] in seen) && Reaches(ours[file, i], class, seen)) return 1
+                }
+                return 0
+            }
+            FILENAME == "-" { precompiled[$1]; next }
+            { sub(/\/\/.*/, "") }
+            /^#include </ { gsub(/[<>]/, ""); included[FILENAME, $2]; next }
+            /^#include "/ { gsub(/"/, ""); ours[FILENAME, ++count[FILENAME]] = $2; next }
+            {
+                words = split($0, word, /[^A-Za-z0-9_]+/)
+                for (i = 1; i <= words; i++) if (word[i] in precompiled) named[FILENAME, word[i]]
+            }
+            END {
+                for (use in named) {
+                    split(use, part, SUBSEP)
+                    split("", seen)
+                    if (part[1] ~ /\.cpp$/ && !Reaches(part[1], part[2], seen)) print part[1] ": " part[2]
+                }
+            }
+        ' - "${sources[@]}"
+}
+UsedWithoutInclude | Report 'A file includes what it names, precompiled or not'
+
 [[ $breaches -eq 0 ]]

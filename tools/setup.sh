@@ -10,8 +10,12 @@ packages=(
     breeze-icon-theme fonts-dejavu-core xdg-utils
 )
 
-# Builds of several presets share what they can, where ccache is there.
-if command -v ccache >/dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+# Builds of several presets share what they can, where ccache is there; precompiled headers are
+# cached only where it is told to trust them.
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+fi
 
 Fail() {
     printf '%s: %s\n' "${0##*/}" "$*" >&2
