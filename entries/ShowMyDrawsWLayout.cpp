@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of ShowMyDrawsW and where they stand.
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -12,6 +13,7 @@
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Widgets.h"
 
@@ -19,6 +21,12 @@ namespace {
 
 constexpr int rowCount = 501;
 constexpr int columnCount = 12;
+
+/// Keeps the room of so many lines, which a layout does not count in a wrapped text's smallest
+/// height.
+void KeepLines(QLabel& text, int lines) {
+    text.setMinimumHeight(lines * text.fontMetrics().lineSpacing());
+}
 
 }  // namespace
 
@@ -29,13 +37,13 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
                  tr("To play the same lottery entry in future draw, select the row and update the "
                     "draw date below. Numbers and names can be changed too. Click any item and use "
                     "the edit box below."));
-    // Two lines, which a layout does not count in its smallest height.
-    explanation->setMinimumHeight(2 * explanation->fontMetrics().lineSpacing());
+    KeepLines(*explanation, 2);
     QLabel* title = MakeLabel(QStringLiteral("Label5"), tr("   Your lottery entries"));
     auto* body = new QVBoxLayout;
     body->setSpacing(8);
     body->addWidget(title);
     body->addWidget(MakeGrid(*title), 3);
+    body->addWidget(checkSummary_ = Named(new ElidingLabel, QStringLiteral("CheckSummary")));
     body->addWidget(MakeBelow(), 2);
     LayOutForm(this, MakeTitle(QStringLiteral("Label8"), tr("Stored lottery entries")), explanation,
                body, MakeActions());
@@ -68,7 +76,7 @@ QWidget* ShowMyDrawsW::MakeGrid(const QLabel& title) {
                             number, number, number, widthOf("--------LOTTERY NAME---------"),
                             widthOf("-----PLAYER NAME---------"), widthOf("----dbase000.txt----")});
     grid_->ShowEditedCell();
-    grid_->setMinimumHeight(140);
+    grid_->setMinimumHeight(6 * grid_->verticalHeader()->defaultSectionSize());
     // A click or Enter leads to the edit box; the arrow keys stay in the grid.
     connect(grid_, &Grid::cellClicked, this, [this] { ShowCurrentCell(); });
     connect(grid_, &Grid::clicked, this, [this] { EditCurrentCell(); });
@@ -160,16 +168,15 @@ QLayout* ShowMyDrawsW::MakeCheck() {
     check->addWidget(MakeCommand(QStringLiteral("Command2"), tr("Check"),
                                  tr(" See if you have won! "), &ShowMyDrawsW::Check),
                      0, Qt::AlignLeft);
-    check->addWidget(
+    QLabel* explanation =
         MakeBody(QStringLiteral("Label9"),
                  tr("The Check button tells you if you have won anything. Each lottery entry is "
                     "checked with the lottery draw result on the date specified. Any numbers "
-                    "matched are highlighted.")));
+                    "matched are highlighted."));
+    KeepLines(*explanation, 4);
+    check->addWidget(explanation);
     check->addWidget(MakeColourKey());
-    checkSummary_ = MakeBody(QStringLiteral("CheckSummary"), QString());
-    checkSummary_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    checkSummary_->setMinimumHeight(4 * checkSummary_->fontMetrics().lineSpacing());
-    check->addWidget(checkSummary_, 1);
+    check->addStretch(1);
     return check;
 }
 
