@@ -55,6 +55,7 @@ QLayout* SaveEntries::BuildInputs() {
              MakeBody(QStringLiteral("Label6"),
                       tr("It is essential that you set the lottery draw date. It is used when "
                          "checking entries.")));
+    grid->setRowStretch(row, 1);
     return grid;
 }
 
