@@ -67,7 +67,7 @@ void BiochartPanel::LabelChart() {
     }
     chart_->SetRange(-highest, highest);
     chart_->setAccessibleName(tr("Biochart"));
-    chart_->setMinimumSize(320, 110);
+    chart_->setMinimumSize(280, 110);
 }
 
 void BiochartPanel::ShowBirthDate() {

@@ -21,7 +21,6 @@ ChecklistPanel::ChecklistPanel(QWidget* parent)
     BuildItems();
     BuildAdding();
     Sheet()->setColumnStretch(0, 1);
-    Sheet()->setColumnMinimumWidth(0, 170);
     Sheet()->setVerticalSpacing(2);
 
     const std::array<QString, 8> firstCaptions = {tr("Analyse lottery draws"),
@@ -33,13 +32,17 @@ ChecklistPanel::ChecklistPanel(QWidget* parent)
                                                   {},
                                                   {}};
     for (std::size_t i = 0; i < items_.size(); ++i) SetCaption(i, firstCaptions.at(i));
+    // The first items are read whole in every size of letters; longer ones are cut rather than that
+    // they widen the window.
+    const auto width = [](const QCheckBox* item) { return item->sizeHint().width(); };
+    const QCheckBox* widest = *std::ranges::max_element(items_, {}, width);
+    Sheet()->setColumnMinimumWidth(0, width(widest));
 }
 
 void ChecklistPanel::BuildItems() {
     for (std::size_t i = 0; i < items_.size(); ++i) {
         const int row = static_cast<int>(i);
         items_.at(i) = Named(new QCheckBox(this), Member(QStringLiteral("Check1"), row));
-        // A long item is cut rather than that it widens the window.
         items_.at(i)->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         clear_.at(i) = MakeButton(Member(QStringLiteral("Command4"), row), tr("Clear"), this);
         clear_.at(i)->setMinimumHeight(0);

@@ -4,13 +4,24 @@
 #include <QPainter>
 #include <QWidget>
 
+#include "platform/widgets/Contrast.h"
+
+namespace {
+
+/// Nobody's desktop comes near to black on white but one that is set so for eyes that need it.
+constexpr double extremeContrast = 19;
+
+}  // namespace
+
 void PaintSheet(QWidget& widget, int radius) {
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
     QColor background = widget.palette().color(QPalette::Window);
-    background.setAlpha(238);
     QColor edge = widget.palette().color(QPalette::WindowText);
-    edge.setAlpha(45);
+    if (Contrast(background, edge) < extremeContrast) {
+        background.setAlpha(238);
+        edge.setAlpha(60);
+    }
     painter.setPen(edge);
     painter.setBrush(background);
     painter.drawRoundedRect(QRectF(widget.rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);

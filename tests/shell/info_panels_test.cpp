@@ -432,6 +432,18 @@ TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
     EXPECT_LE(window->height(), 768);
 }
 
+TEST_F(InfoPanelsOfWindow, TheSuppliedItemsAreReadWholeInLargeLetters) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPointSize(12);
+    QApplication::setFont(large);
+    StartShown();
+    window->resize(window->minimumSizeHint());
+    QApplication::processEvents();
+    for (int i = 0; i < itemCount; ++i) EXPECT_GE(Item(i)->width(), Item(i)->sizeHint().width());
+    QApplication::setFont(usual);
+}
+
 TEST_F(InfoPanelsOfWindow, ALongItemOrNameDoesNotWidenTheWindow) {
     StartShown();
     const int width = window->minimumSizeHint().width();

@@ -94,6 +94,20 @@ TEST_F(MainSkin, ShowsAnotherPictureAfterTheSettings) {
     EXPECT_EQ(Background(), QColor(Qt::blue));
 }
 
+TEST_F(MainSkin, PanelsAtExtremeContrastHaveAnEdgeInTheColourOfTheirWordsAndNoPicture) {
+    WritePicture(Qt::red);
+    Start();
+    Choose("FileNotes");
+    QPalette palette(Qt::white, Qt::black);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    window->setPalette(palette);
+    QWidget* panel = Find<QWidget>(*window, checklistHeading)->parentWidget();
+    const QPoint top(panel->mapTo(window.get(), QPoint(panel->width() / 2, 0)));
+    const QImage picture = window->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(top), QColor(Qt::white));
+    EXPECT_EQ(picture.pixelColor(top + QPoint(0, 3)), QColor(Qt::black));
+}
+
 TEST_F(MainSkin, StaysAsItIsWherePicturesAreOnAndTheFileIsGone) {
     WritePicture(Qt::red);
     Start();
