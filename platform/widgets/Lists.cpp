@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/widgets/Lists.h"
 
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <QToolTip>
 #include <string>
 #include <utility>
 
@@ -17,9 +20,21 @@ void CheckEntry(const QObject& list, int index, int count) {
                   " entries, counted from 0");
 }
 
+/// Rows with some air, as wide as the list: no bar to move them sideways takes the last one's room.
+class RowDelegate final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+        constexpr int air = 8;
+        return {0, option.fontMetrics.height() + air};
+    }
+};
+
 }  // namespace
 
 ListBox::ListBox(QWidget* parent) : QListWidget(parent) {
+    setItemDelegate(new RowDelegate(this));
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -47,6 +62,23 @@ void ListBox::FollowSelection() {
     if (!now.isValid()) return;
     changedByThisPress_ = true;
     Q_EMIT clicked();
+}
+
+bool ListBox::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QListWidget::viewportEvent(event);
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    const QModelIndex index = indexAt(help.pos());
+    const QString tip = index.isValid() ? TipOf(index) : QString();
+    QToolTip::showText(help.globalPos(), tip, viewport(), visualRect(index));
+    return true;
+}
+
+QString ListBox::TipOf(const QModelIndex& index) const {
+    if (tips_) return tips_(index.row());
+    const QString text = index.data().toString();
+    const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
+    const bool cut = fontMetrics().horizontalAdvance(text) + margin > visualRect(index).width();
+    return cut ? text : QString();
 }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {

@@ -4,9 +4,11 @@
 #include <QComboBox>
 #include <QListWidget>
 #include <QPersistentModelIndex>
+#include <functional>
+#include <utility>
 
 /// A list box whose `clicked` runs once for each change of selection, by mouse, keyboard or code,
-/// and once for a click on the entry already chosen.
+/// and once for a click on the entry already chosen. What is too long for a row ends in dots.
 class ListBox final : public QListWidget {
     Q_OBJECT
   public:
@@ -19,10 +21,14 @@ class ListBox final : public QListWidget {
     /// click. An entry that the list does not have is a `Failure`.
     void SetIndex(int index);
 
+    /// What the tip over a row says; without this it is the row's text where that is cut.
+    void SetTips(std::function<QString(int row)> tips) { tips_ = std::move(tips); }
+
   Q_SIGNALS:
     void clicked();
 
   protected:
+    bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -33,7 +39,9 @@ class ListBox final : public QListWidget {
 
   private:
     void FollowSelection();
+    QString TipOf(const QModelIndex& index) const;
 
+    std::function<QString(int row)> tips_;
     QPersistentModelIndex chosen_;
     QPersistentModelIndex pressed_;
     bool changedByThisPress_ = false;

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
@@ -24,6 +27,14 @@ struct AListBox : testing::Test {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, keys, Place(row));
     }
 
+    ~AListBox() override { QToolTip::hideText(); }
+
+    QString TipOver(int row) {
+        QHelpEvent help(QEvent::ToolTip, Place(row), list.viewport()->mapToGlobal(Place(row)));
+        QApplication::sendEvent(list.viewport(), &help);
+        return QToolTip::text();
+    }
+
     ListBox list;
     QSignalSpy clicks{&list, &ListBox::clicked};
 };
@@ -31,6 +42,25 @@ struct AListBox : testing::Test {
 TEST_F(AListBox, HasNothingChosenAtFirst) {
     EXPECT_EQ(list.Index(), -1);
     EXPECT_EQ(clicks.count(), 0);
+}
+
+TEST_F(AListBox, HasRowsWithSomeAir) {
+    EXPECT_EQ(list.visualItemRect(list.item(0)).height(), list.fontMetrics().height() + 8);
+}
+
+TEST_F(AListBox, CutsALongNameAndTellsItInATip) {
+    const QString longName = QStringLiteral("A lottery of a long name ").repeated(20);
+    list.addItem(longName);
+    QApplication::processEvents();
+    EXPECT_FALSE(list.horizontalScrollBar()->isVisible());
+    EXPECT_EQ(list.visualItemRect(list.item(3)).width(), list.viewport()->width());
+    EXPECT_EQ(TipOver(0), QString());
+    EXPECT_EQ(TipOver(3), longName);
+}
+
+TEST_F(AListBox, TellsTheTipsThatItWasGiven) {
+    list.SetTips([](int row) { return QStringLiteral("row %1").arg(row); });
+    EXPECT_EQ(TipOver(1), QStringLiteral("row 1"));
 }
 
 TEST_F(AListBox, RunsItsClickOnceWhenCodeChooses) {
