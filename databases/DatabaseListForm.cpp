@@ -5,30 +5,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core/text.h"
-#include "databases/database_summary.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/LotteryList.h"
-#include "platform/system/TextConversion.h"
 #include "platform/widgets/ElidingLabel.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Widgets.h"
-
-namespace {
-
-QString DrawsInWords(int draws) {
-    if (draws == 0) return DatabaseListForm::tr("no draws");
-    if (draws == 1) return DatabaseListForm::tr("1 draw");
-    return DatabaseListForm::tr("%1 draws").arg(ToQString(GroupedDigits(draws)));
-}
-
-QString Period(Date oldest, Date newest) {
-    const QString end = ToQString(DrawDate(newest));
-    if (oldest == newest) return end;
-    return DatabaseListForm::tr("%1 to %2").arg(ToQString(DrawDate(oldest)), end);
-}
-
-}  // namespace
 
 DatabaseListForm::DatabaseListForm(Program& program, const QString& name, const QString& caption,
                                    QPushButton* act, const QString& closeCaption, QWidget* parent)
@@ -64,10 +45,5 @@ void DatabaseListForm::DescribeChosen() {
         contents_->clear();
         return;
     }
-    const std::string& file = view().DbaseFiles(chosen);
-    const DatabaseSummary summary =
-        SummaryOf(folder(), file, {.region = services().region, .today = services().today()});
-    QStringList words = {ToQString(summary.lottery), ToQString(file), DrawsInWords(summary.draws)};
-    if (summary.oldest && summary.newest) words += Period(*summary.oldest, *summary.newest);
-    contents_->setText(words.join(QStringLiteral(", ")));
+    contents_->setText(DatabaseInWords(program(), view().DbaseFiles(chosen)));
 }

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core/database_summary.h"
 #include "core/draw_database.h"
 #include "core/failure.h"
 #include "databases/draw_records.h"
@@ -139,10 +140,11 @@ void DbaseUpdateW::ChooseLottery() {
 void DbaseUpdateW::ReadDraws() {
     const std::string content = folder().Read(state().DbaseFile);
     const std::vector<std::string_view> draws = DrawLines(content);
-    const DateRules rules{.region = services().region, .today = services().today()};
+    const Date today = services().today();
     takenDates_.clear();
     for (const std::string_view draw : draws) {
-        if (const auto date = DateOfLine(draw, rules)) takenDates_.push_back(*date);
+        if (const auto date = DateOfLine(draw, services().region, today))
+            takenDates_.push_back(*date);
     }
     ShowWhetherDateIsTaken();
     ShowNewestDraws(draws);

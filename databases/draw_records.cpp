@@ -92,21 +92,6 @@ std::vector<std::string> StoredDates(const State& state, const ProgramFolder& fo
     return dates;
 }
 
-std::vector<std::string_view> DrawLines(std::string_view content) {
-    constexpr int headingLines = 3;
-    FieldReader reader(content, {});
-    std::vector<std::string_view> lines;
-    for (int line = 0; !reader.AtEnd(); ++line) {
-        const std::string_view text = reader.ReadLine("a draw");
-        if (line >= headingLines) lines.push_back(text);
-    }
-    return lines;
-}
-
-std::optional<Date> DateOfLine(std::string_view line, const DateRules& rules) {
-    return ReadDate(line.substr(0, line.find(',')), rules.region, rules.today);
-}
-
 std::string NumbersInWords(std::string_view line, const std::string& lastTitle) {
     FieldReader reader(line, {});
     std::string words;

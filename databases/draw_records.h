@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,13 +39,6 @@ NewestDraw ReadNewestDraw(const State& state, const ProgramFolder& folder);
 
 /// The dates of all draws of `state.DbaseFile` as stored, the newest first.
 std::vector<std::string> StoredDates(const State& state, const ProgramFolder& folder);
-
-/// The lines below the heading in the content of a draw database, as they stand there; each is a
-/// draw where the database is sound.
-std::vector<std::string_view> DrawLines(std::string_view content);
-
-/// The date that a draw's line begins with; none where it cannot be read.
-std::optional<Date> DateOfLine(std::string_view line, const DateRules& rules);
 
 /// The numbers in a draw's line, as they are read out: "3, 17, 22, 34, 41, 48, Bonus 9". The eighth
 /// stands behind `lastTitle` and is left out where that is empty.

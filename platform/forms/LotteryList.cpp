@@ -1,15 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/forms/LotteryList.h"
 
+#include <QCoreApplication>
+
+#include "core/database_summary.h"
 #include "core/draw_database.h"
 #include "core/failure.h"
+#include "core/text.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
+
+namespace {
+
+QString tr(const char* text) { return QCoreApplication::translate("LotteryList", text); }
+
+QString DrawsInWords(int draws) {
+    if (draws == 0) return tr("no draws");
+    if (draws == 1) return tr("1 draw");
+    return tr("%1 draws").arg(ToQString(GroupedDigits(draws)));
+}
+
+QString Period(Date oldest, Date newest) {
+    const QString end = ToQString(DrawDate(newest));
+    if (oldest == newest) return end;
+    return tr("%1 to %2").arg(ToQString(DrawDate(oldest)), end);
+}
+
+}  // namespace
+
+QString DatabaseInWords(const Program& program, const std::string& file) {
+    if (!program.folder.Exists(file)) return ToQString(file);
+    const Services& services = program.services;
+    const DatabaseSummary summary =
+        SummaryOf(program.folder, file, services.region, services.today());
+    QStringList words = {ToQString(summary.lottery), ToQString(file), DrawsInWords(summary.draws)};
+    if (summary.oldest && summary.newest) words += Period(*summary.oldest, *summary.newest);
+    return words.join(QStringLiteral(", "));
+}
 
 void ListDatabases(Program& program, ListBox& list) {
     for (const std::string& name : ListDatabases(program.state, program.folder)) {
         list.addItem(ToQString(name));
     }
+    list.SetTips([&program](int row) {
+        return DatabaseInWords(program, View(program.state).DbaseFiles(row));
+    });
     list.SetIndex(-1);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "databases/database_summary.h"
+#include "core/database_summary.h"
 
 #include <gtest/gtest.h>
 
@@ -11,10 +11,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
+const Date today = 2005y / 6 / 1;
+const std::string heading = "Lotto\r\nhttp://one.example\r\n6,49,0,0,1\r\n";
+
 class ASummary : public testing::Test {
   protected:
     DatabaseSummary Of(const std::string& file) const {
-        return SummaryOf(folder_, file, {.region = {}, .today = 2005y / 6 / 1});
+        return SummaryOf(folder_, file, {}, today);
     }
 
     MemoryFolder folder_;
@@ -38,7 +41,7 @@ TEST_F(ASummary, OfADatabaseWithoutDrawsHasNoDates) {
 }
 
 TEST_F(ASummary, OfADamagedFileTellsWhatCanBeRead) {
-    folder_.Write("dbase1.txt", "Mine\r\n\r\n6,49\r\nsomeday,1,2\r\n25-May-2005");
+    folder_.Write("dbase1.txt", "Mine\r\n\r\n6,49,0,0,1\r\nsomeday,1,2\r\n25-May-2005");
     const DatabaseSummary summary = Of("dbase1.txt");
     EXPECT_EQ(summary.draws, 2);
     EXPECT_FALSE(summary.newest);
@@ -52,6 +55,24 @@ TEST_F(ASummary, OfADamagedFileTellsWhatCanBeRead) {
 
 TEST_F(ASummary, OfAMissingFileIsAFailure) {
     EXPECT_NE(FailureOf([&] { Of("dbase1.txt"); }).find("dbase1.txt"), std::string::npos);
+}
+
+TEST(TheLinesOfADatabase, AreTheDrawsBelowItsHeading) {
+    const std::string content = heading + "28 May 05,3,17,22,34,41,48,0,9\r\ncut";
+    EXPECT_EQ(DrawLines(content),
+              (std::vector<std::string_view>{"28 May 05,3,17,22,34,41,48,0,9", "cut"}));
+    EXPECT_EQ(DrawLines("Lotto\r\n\r\n6,49,0\r\n0,1\r\nfirst\r\n"),
+              std::vector<std::string_view>{"first"});
+    EXPECT_TRUE(DrawLines(heading).empty());
+    EXPECT_TRUE(DrawLines("Lotto").empty());
+    EXPECT_TRUE(DrawLines("").empty());
+}
+
+TEST(TheLineOfADraw, BeginsWithItsDate) {
+    EXPECT_EQ(DateOfLine("28 May 05,3,17", {}, today), 2005y / 5 / 28);
+    EXPECT_EQ(DateOfLine("25-May-2005", {}, today), 2005y / 5 / 25);
+    EXPECT_EQ(DateOfLine("someday,3,17", {}, today), std::nullopt);
+    EXPECT_EQ(DateOfLine("", {}, today), std::nullopt);
 }
 
 }  // namespace

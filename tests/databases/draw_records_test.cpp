@@ -222,23 +222,6 @@ TEST_F(DrawRecords, DatesAreToldAsStored) {
     EXPECT_TRUE(StoredDates(state, folder).empty());
 }
 
-TEST(TheLinesOfADatabase, AreTheDrawsBelowItsHeading) {
-    const std::string content = heading + may28 + "cut";
-    EXPECT_EQ(DrawLines(content),
-              (std::vector<std::string_view>{"28 May 05,3,17,22,34,41,48,0,9", "cut"}));
-    EXPECT_TRUE(DrawLines(heading).empty());
-    EXPECT_TRUE(DrawLines("Lotto").empty());
-    EXPECT_TRUE(DrawLines("").empty());
-}
-
-TEST(TheLineOfADraw, BeginsWithItsDate) {
-    const DateRules rules{.region = {}, .today = year(2005) / 6 / 1};
-    EXPECT_EQ(DateOfLine("28 May 05,3,17", rules), year(2005) / 5 / 28);
-    EXPECT_EQ(DateOfLine("25-May-2005", rules), year(2005) / 5 / 25);
-    EXPECT_EQ(DateOfLine("someday,3,17", rules), std::nullopt);
-    EXPECT_EQ(DateOfLine("", rules), std::nullopt);
-}
-
 TEST(TheNumbersOfADraw, AreReadOutWithTheLastBehindItsTitle) {
     EXPECT_EQ(NumbersInWords("28 May 05,3,17,22,34,41,48,0,9", "Bonus"),
               "3, 17, 22, 34, 41, 48, Bonus 9");

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The two small forms that act on a whole draw database.
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolTip>
 
 #include "databases/DeleteDbaseW.h"
 #include "databases/OpenDbase.h"
@@ -113,6 +115,16 @@ TEST_F(OpeningADatabase, EnterOpensNothingBeforeALotteryIsChosen) {
     EXPECT_TRUE(Find<QPushButton>(*form_, openButton)->isDefault());
 }
 
+TEST_F(OpeningADatabase, TellsOfEachFileInATip) {
+    const QPoint place = Lotteries().visualItemRect(Lotteries().item(1)).center();
+    QHelpEvent help(QEvent::ToolTip, place, Lotteries().viewport()->mapToGlobal(place));
+    QApplication::sendEvent(Lotteries().viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("UK Thunderball, dbase101.txt, 1 draw, 28 May 05"));
+    test_.folder.Delete("dbase101.txt");
+    QApplication::sendEvent(Lotteries().viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("dbase101.txt"));
+}
+
 TEST_F(OpeningADatabase, SaysWhatTheChosenFileHolds) {
     EXPECT_EQ(Contents(), QString());
     Lotteries().SetIndex(0);
@@ -160,7 +172,7 @@ TEST_F(DeletingADatabase, SaysWhatWouldGo) {
 }
 
 TEST_F(DeletingADatabase, ADatabaseOfWhichLittleCanBeReadIsDeletedToo) {
-    test_.folder.Write("dbase100.txt", "UK Lotto\r\n\r\n6,49\r\nsomeday,1\r\n");
+    test_.folder.Write("dbase100.txt", "UK Lotto\r\n\r\n6,49,0,0,1\r\nsomeday,1\r\n");
     Lotteries().SetIndex(0);
     EXPECT_EQ(Contents(), QStringLiteral("UK Lotto, dbase100.txt, 1 draw"));
     test_.messages.Expect(areYouSure, Answer::Yes);
