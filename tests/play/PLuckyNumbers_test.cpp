@@ -2,7 +2,6 @@
 #include "play/PLuckyNumbers.h"
 
 #include <QLineEdit>
-#include <set>
 
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Lists.h"
@@ -202,18 +201,7 @@ TEST_F(NumerologyForm, MakesLinesOnAllRealHistories) {
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no real histories here";
     Open();
     EnterName("Ann Other");
-    auto* lotteries = Find<ListBox>(*form_, lotteryList);
-    for (int index = 0; index < lotteries->count(); ++index) {
-        ChooseLottery(index);
-        Generate();
-        ASSERT_EQ(ShownLines(), 5) << index;
-        for (const std::vector<int>& line : Rows(test_.state.Picks)) {
-            const std::set<int> numbers(line.begin(), line.end());
-            EXPECT_EQ(numbers.size(), line.size());
-            EXPECT_GE(*numbers.begin(), 1);
-            EXPECT_LE(*numbers.rbegin(), test_.state.MaxNum);
-        }
-    }
+    ExpectProperLinesOfEveryLottery();
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PStarSign.h"
 
-#include <set>
-
 #include "core/settings.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
@@ -168,18 +166,7 @@ TEST_F(AstrologyForm, SavesItsLinesAndOpensTheHelpPageByF1) {
 TEST_F(AstrologyForm, MakesLinesOnAllRealHistories) {
     if (!AddRealHistories(test_.folder)) GTEST_SKIP() << "no real histories here";
     Open();
-    auto* lotteries = Find<ListBox>(*form_, lotteryList);
-    for (int index = 0; index < lotteries->count(); ++index) {
-        ChooseLottery(index);
-        Generate();
-        ASSERT_EQ(ShownLines(), 5) << index;
-        for (const std::vector<int>& line : Rows(test_.state.Picks)) {
-            const std::set<int> numbers(line.begin(), line.end());
-            EXPECT_EQ(numbers.size(), line.size());
-            EXPECT_GE(*numbers.begin(), 1);
-            EXPECT_LE(*numbers.rbegin(), test_.state.MaxNum);
-        }
-    }
+    ExpectProperLinesOfEveryLottery();
 }
 
 }  // namespace

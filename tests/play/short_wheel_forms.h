@@ -3,8 +3,9 @@
 
 #include <QPushButton>
 #include <QRadioButton>
+#include <set>
 
-#include "core/text.h"
+#include "platform/widgets/Lists.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -59,5 +60,22 @@ class ShortWheelFormTest : public LinesFormTest {
         const QString words = QStringLiteral(" Your lucky numbers:");
         EXPECT_TRUE(Text(luckyNumbers).startsWith(words));
         return Text(luckyNumbers).mid(words.size()).split(QStringLiteral(","));
+    }
+
+    /// With the second wheel each lottery of the list gets five lines of distinct numbers that it
+    /// has.
+    void ExpectProperLinesOfEveryLottery() {
+        auto* lotteries = Find<ListBox>(*form_, lotteryList);
+        for (int index = 0; index < lotteries->count(); ++index) {
+            ChooseLottery(index);
+            Generate();
+            ASSERT_EQ(ShownLines(), 5) << index;
+            for (const std::vector<int>& line : Rows(test_.state.Picks)) {
+                const std::set<int> numbers(line.begin(), line.end());
+                EXPECT_EQ(numbers.size(), line.size());
+                EXPECT_GE(*numbers.begin(), 1);
+                EXPECT_LE(*numbers.rbegin(), test_.state.MaxNum);
+            }
+        }
     }
 };
