@@ -103,7 +103,7 @@ void HistoryW::MakeEditPanel() {
 QLayout* HistoryW::MakeEditCommands() {
     auto* update = MakeButton(QStringLiteral("Command3"), tr("Update Draw"));
     update->setToolTip(tr(" Update selected draw "));
-    auto* deleteDraw = MakeButton(QStringLiteral("Command2"), tr("Delete Draw"));
+    auto* deleteDraw = MakeDeletingButton(QStringLiteral("Command2"), tr("Delete Draw"));
     deleteDraw->setToolTip(tr(" Delete selected draw "));
     connect(update, &QPushButton::clicked, this, [this] { UpdateChosenDraw(); });
     connect(deleteDraw, &QPushButton::clicked, this, [this] { DeleteChosenDraw(); });
@@ -113,10 +113,9 @@ QLayout* HistoryW::MakeEditCommands() {
     }
 
     auto* commands = new QHBoxLayout;
-    for (QPushButton* command : {update, deleteDraw}) {
-        command->setMinimumWidth(commandWidth);
-        commands->addWidget(command);
-    }
+    for (QPushButton* command : {update, deleteDraw}) command->setMinimumWidth(commandWidth);
+    commands->addWidget(update);
+    AddApart(*commands, deleteDraw);
     commands->addStretch(1);
     return commands;
 }

@@ -369,4 +369,12 @@ TEST_F(DrawsHistory, RealHistoriesStandInTheGridAsInTheirFiles) {
     }
 }
 
+TEST_F(DrawsHistory, SetsTheDeletingButtonApart) {
+    Open();
+    const auto* update = Find<QPushButton>(*form_, updateButton);
+    const auto* deleteDraw = Find<QPushButton>(*form_, deleteButton);
+    EXPECT_FALSE(deleteDraw->icon().isNull());
+    EXPECT_GE(deleteDraw->x() - update->geometry().right(), 24);
+}
+
 }  // namespace
