@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <array>
 #include <functional>
 
 #include "core/date.h"
@@ -12,6 +13,17 @@
 class Form;
 class Grid;
 class MessageBoxes;
+class Printers;
+
+/// What a printed diary has around its rows, as it stands in the boxes of its form.
+struct DiaryFrame {
+    QString syndicate;
+    QString manager;
+    std::array<QString, 4> address;
+    QString phone;
+    QString email;
+    QString total;
+};
 
 /// The world outside the program, built once in `main()`; tests bring their own.
 struct Services {
@@ -28,6 +40,12 @@ struct Services {
     std::function<void(Form*, Grid&)> printDraws = {};  ///< Prints draws; none: not yet.
     std::function<void(Form&)> printForm = {};          ///< Prints a form as it stands, landscape;
                                                         ///< none: not available yet.
+    std::function<void(Form*, Grid&)> printStats = {};  ///< Prints the statistics of numbers.
+    std::function<void(Form*, Grid&)> printEntries = {};   ///< Prints saved entries.
+    std::function<void(Form*)> printMembers = {};          ///< Prints the members of the syndicate.
+    std::function<void(Form*, Grid&)> printPayments = {};  ///< Prints the members' payments.
+    std::function<void(Form*, Grid&, const DiaryFrame&)> printDiary = {};  ///< Prints the diary.
+    Printers* printers = nullptr;  ///< The printers; none: nothing is ever printed.
 };
 
 /// What every form is given.

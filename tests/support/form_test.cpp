@@ -115,7 +115,8 @@ TestProgram::TestProgram()
                .messages = messages,
                .openPage = [this](const QString& page) { pages.push_back(page); },
                .saveLines = {},
-               .printLines = {}},
+               .printLines = {},
+               .printers = &printers},
       program{.state = state, .folder = folder, .services = services} {
     state.Crlf = "\r\n";
 }

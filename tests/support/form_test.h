@@ -17,6 +17,7 @@
 #include "platform/forms/Form.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/Services.h"
+#include "tests/support/fake_printers.h"
 
 /// Answers to the messages that a test expects, in their order. A message that nobody prepared and
 /// an answer left over both fail the test, and so does a question of deleting or losing something
@@ -47,6 +48,7 @@ struct TestProgram {
     std::uint64_t seed = 1;
     Random random;
     FakeMessages messages;
+    FakePrinters printers;
     std::vector<QString> pages;
     Services services;
     Program program;
