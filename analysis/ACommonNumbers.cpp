@@ -105,7 +105,8 @@ void ACommonNumbers::DrawChart(const NumberCounts& counts) {
 void ACommonNumbers::DrawMainChart(const Counts& counts) {
     const bool cold = Cold();
     const HotColdColours colours = ColoursOfMode(cold);
-    mainChart_->SetPattern(cold ? Qt::HorPattern : Qt::BDiagPattern, colours.pattern, colours.bars);
+    const QBrush pattern(colours.pattern, cold ? Qt::HorPattern : Qt::BDiagPattern);
+    mainChart_->SetSeriesLook(1, {.fill = colours.bars, .pattern = pattern});
     ShowCounts(*mainChart_, counts, state().MaxNum);
 }
 

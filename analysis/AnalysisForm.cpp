@@ -26,6 +26,7 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
     : Form(program, text.name, text.caption, parent),
       heading_(MakeTitle(names.heading, text.heading)),
       explanation_(MakeBody(names.explanation, text.explanation)),
+      explanations_(names.explanation),
       top_(new QHBoxLayout),
       choices_(new QVBoxLayout),
       results_(new QHBoxLayout),
@@ -74,9 +75,14 @@ QLabel* AnalysisForm::AddPrompt(const QString& name, const QString& text) {
     return MakeLabel(name, text, this);
 }
 
+QLabel* AnalysisForm::AddExplanation(const QString& name, const QString& text) {
+    explanations_ += name;
+    return MakeBody(name, text, this);
+}
+
 void AnalysisForm::ApplySkin() {
     Skinning(QStringLiteral("SkinAnalyse.jpg"), {.title = {heading_->objectName()},
-                                                 .body = {explanation_->objectName()},
+                                                 .body = explanations_,
                                                  .small = prompts_,
                                                  .status = {}});
 }

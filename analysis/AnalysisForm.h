@@ -56,6 +56,9 @@ class AnalysisForm : public Form {
     /// A small label before an input; it takes the skin's colour of small labels.
     QLabel* AddPrompt(const QString& name, const QString& text);
 
+    /// A further text that explains what is shown; it takes the skin's colour of texts.
+    QLabel* AddExplanation(const QString& name, const QString& text);
+
     QLabel& Heading() { return *heading_; }
     QLabel& Explanation() { return *explanation_; }
 
@@ -69,6 +72,7 @@ class AnalysisForm : public Form {
     ListBox* lotteries_ = nullptr;
     QLabel* heading_;
     QLabel* explanation_;
+    QStringList explanations_;
     QStringList prompts_;
     QHBoxLayout* top_;
     QVBoxLayout* choices_;

@@ -114,18 +114,26 @@ double Chart::value(int row, int column) const {
 QStringList Chart::shownLabels() { return Plot().ShownLabels(); }
 
 QColor Chart::patternColour() const {
-    return figures_.pattern ? figures_.pattern->color() : fillColour();
+    const QBrush& pattern = figures_.looks.front().pattern;
+    return pattern.style() == Qt::NoBrush ? fillColour() : pattern.color();
 }
 
-QColor Chart::fillColour() const { return figures_.colours.front(); }
+QColor Chart::fillColour() const { return figures_.looks.front().fill; }
 
 void Chart::SetTitle(const QString& title) { figures_.title = title; }
+
+void Chart::SetCaption(const QString& caption) { figures_.caption = caption; }
 
 void Chart::SetRowCount(int rowCount) { figures_.SetRowCount(rowCount); }
 
 void Chart::SetRowLabel(int row, const QString& label) {
     CheckRow(row);
     figures_.RowLabel(row) = label;
+}
+
+void Chart::SetRowName(int row, const QString& name) {
+    CheckRow(row);
+    figures_.RowName(row) = name;
 }
 
 void Chart::SetColumnLabel(int column, const QString& label) {
@@ -143,12 +151,17 @@ void Chart::SetKind(ChartKind kind) { figures_.kind = kind; }
 
 void Chart::SetSeriesColour(int column, const QColor& colour) {
     CheckColumn(column);
-    figures_.colours[static_cast<std::size_t>(column - 1)] = colour;
+    figures_.looks[static_cast<std::size_t>(column - 1)].fill = colour;
 }
 
-void Chart::SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor& fill) {
-    figures_.pattern = QBrush(colour, style);
-    SetSeriesColour(1, fill);
+void Chart::SetSeriesLook(int column, const BarLook& look) {
+    CheckColumn(column);
+    figures_.looks[static_cast<std::size_t>(column - 1)] = look;
+}
+
+void Chart::SetRowLook(int row, const BarLook& look) {
+    CheckRow(row);
+    figures_.SetRowLook(row, look);
 }
 
 void Chart::SetAverage(std::optional<double> average) { figures_.average = average; }

@@ -49,10 +49,17 @@ class Chart final : public QWidget {
 
     void SetTitle(const QString& title);
 
+    /// A line below the labels of the rows that says what they count; none where it is empty.
+    void SetCaption(const QString& caption);
+
     /// Rows that stay keep their figures; new ones have the figure 0 and no label.
     void SetRowCount(int rowCount);
 
     void SetRowLabel(int row, const QString& label);
+
+    /// What a row is called under the mouse, by screen readers and in the copied table, where its
+    /// label is too short to tell.
+    void SetRowName(int row, const QString& name);
 
     /// Names a series; the names of several stand below the title.
     void SetColumnLabel(int column, const QString& label);
@@ -62,8 +69,11 @@ class Chart final : public QWidget {
     void SetKind(ChartKind kind);
     void SetSeriesColour(int column, const QColor& colour);
 
-    /// Draws the bars of the first series in `fill` with a pattern in `colour` over it.
-    void SetPattern(Qt::BrushStyle style, const QColor& colour, const QColor& fill);
+    /// The look of a series' bars, in the legend too.
+    void SetSeriesLook(int column, const BarLook& look);
+
+    /// The look of the bars of one row, whatever that of their series.
+    void SetRowLook(int row, const BarLook& look);
 
     /// Draws a thin line with the words "average 367" across the chart, or none.
     void SetAverage(std::optional<double> average);

@@ -20,7 +20,7 @@ QColor DefaultColour(std::size_t column) {
 ChartFigures::ChartFigures(int rowCount, int columnCount)
     : columnLabels(static_cast<std::size_t>(columnCount)), rows_(0) {
     for (std::size_t column = 0; column < columnLabels.size(); ++column) {
-        colours.push_back(DefaultColour(column));
+        looks.push_back({.fill = DefaultColour(column)});
     }
     SetRowCount(rowCount);
 }
@@ -29,11 +29,23 @@ void ChartFigures::SetRowCount(int rowCount) {
     rows_ = std::max(rowCount, 0);
     const auto rows = static_cast<std::size_t>(rows_);
     rowLabels_.resize(rows);
+    rowNames_.resize(rows);
+    rowLooks_.resize(rows);
     values_.resize(rows * columnLabels.size());
 }
 
 const QString& ChartFigures::PlaceLabel(int place) const {
     return ColumnsAreApart() ? ColumnLabel(place) : RowLabel(place);
+}
+
+const BarLook& ChartFigures::Look(int row, int column) const {
+    const std::optional<BarLook>& own = rowLooks_[Index(row)];
+    return own ? *own : looks[Index(column)];
+}
+
+const QString& ChartFigures::NameOf(int row) const {
+    const QString& name = rowNames_[Index(row)];
+    return name.isEmpty() ? RowLabel(row) : name;
 }
 
 std::pair<double, double> ChartFigures::Extent() const {
@@ -50,7 +62,7 @@ bool ChartFigures::AllWhole() const {
 }
 
 QString ChartFigures::PlaceText(int place) const {
-    const QString label = PlaceLabel(place);
+    const QString& label = ColumnsAreApart() ? ColumnLabel(place) : NameOf(place);
     const QString start = label.isEmpty() ? QString() : QString(label + QStringLiteral(": "));
     if (ColumnsAreApart()) return start + Shown(Value(1, place));
     QStringList texts;
@@ -76,7 +88,7 @@ QString ChartFigures::Table() const {
     }
     text += QLatin1Char('\n');
     for (int row = 1; row <= Rows(); ++row) {
-        text += RowLabel(row);
+        text += NameOf(row);
         for (int column = 1; column <= Columns(); ++column) {
             text += QLatin1Char('\t') + Shown(Value(row, column));
         }

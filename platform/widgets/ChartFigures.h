@@ -12,6 +12,12 @@
 /// How a chart shows its series.
 enum class ChartKind { Bars, Lines };
 
+/// How bars look: a colour, and a pattern over it where colours alone would not tell them apart.
+struct BarLook {
+    QColor fill;
+    QBrush pattern = {};
+};
+
 /// What a chart shows: its title, the labels and figures of its rows and columns, its looks.
 ///
 /// A column is a series. With one row of several columns each column has its own place on the
@@ -30,6 +36,9 @@ class ChartFigures {
     double Value(int row, int column) const { return values_[Entry(row, column)]; }
     QString& RowLabel(int row) { return rowLabels_[Index(row)]; }
     const QString& RowLabel(int row) const { return rowLabels_[Index(row)]; }
+
+    /// What a row is called in words, where its label does not tell it.
+    QString& RowName(int row) { return rowNames_[Index(row)]; }
     QString& ColumnLabel(int column) { return columnLabels[Index(column)]; }
     const QString& ColumnLabel(int column) const { return columnLabels[Index(column)]; }
 
@@ -38,11 +47,16 @@ class ChartFigures {
     int Places() const { return ColumnsAreApart() ? Columns() : rows_; }
     const QString& PlaceLabel(int place) const;
 
+    /// The look of a bar: its row's own, else that of its series.
+    const BarLook& Look(int row, int column) const;
+    void SetRowLook(int row, const BarLook& look) { rowLooks_[Index(row)] = look; }
+
     /// Lowest and highest of all figures and of 0.
     std::pair<double, double> Extent() const;
     bool AllWhole() const;
 
-    /// "17: 204", or "May: odd 7, even 3" where a place has several series.
+    /// "17: 204", or "May: odd 7, even 3" where a place has several series; the row's name stands
+    /// for its label where it has one.
     QString PlaceText(int place) const;
 
     /// All places, for screen readers.
@@ -52,11 +66,11 @@ class ChartFigures {
     QString Table() const;
 
     QString title;
+    QString caption;                                 ///< Below the labels of the rows.
     std::optional<std::pair<double, double>> range;  ///< Of the vertical axis.
     ChartKind kind = ChartKind::Bars;
     std::vector<QString> columnLabels;
-    std::vector<QColor> colours;    ///< Of the series.
-    std::optional<QBrush> pattern;  ///< Drawn over the bars' colour.
+    std::vector<BarLook> looks;     ///< Of the series.
     std::optional<double> average;  ///< Where a line across the bars is drawn.
     std::vector<int> ranked;        ///< Rows whose bars bear their figure.
 
@@ -66,7 +80,11 @@ class ChartFigures {
         return Index(row) * columnLabels.size() + Index(column);
     }
 
+    const QString& NameOf(int row) const;
+
     int rows_;
     std::vector<QString> rowLabels_;
+    std::vector<QString> rowNames_;
+    std::vector<std::optional<BarLook>> rowLooks_;
     std::vector<double> values_;
 };

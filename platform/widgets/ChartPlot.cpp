@@ -63,9 +63,14 @@ void ChartPlot::TakeColours(bool dark) {
     plot_->yAxis->grid()->setZeroLinePen(QPen(shades.axis, 1.2));
 }
 
-QColor ChartPlot::SeriesColour(int column) const {
-    const QColor told = figures_.colours[static_cast<std::size_t>(column - 1)];
+QColor ChartPlot::Shown(const QColor& told) const {
     return drawnDark_ && told.lightness() < readableOnDark ? OnDark(told) : told;
+}
+
+BarLook ChartPlot::ShownLook(int row, int column) const {
+    BarLook look = figures_.Look(row, column);
+    look.fill = Shown(look.fill);
+    return look;
 }
 
 void ChartPlot::Draw() {
@@ -143,6 +148,9 @@ void ChartPlot::DrawAxes() {
         plot_->yAxis->setRange(lowest < 0 ? lowest - air : 0, highest > 0 ? highest + air : 0);
     }
     plot_->yAxis->setTickLabelFont(plot_->font());
+    plot_->xAxis->setLabel(figures_.caption);
+    plot_->xAxis->setLabelFont(SmallFont(plot_->font()));
+    plot_->xAxis->setLabelColor(ShadesOf(drawnDark_).text);
     DrawTicks();
 }
 
@@ -168,17 +176,14 @@ void ChartPlot::DrawBars(int column) {
     const double width = (dense ? roomForDenseBars : roomForBars) / besides;
     bars->setName(figures_.ColumnLabel(column));
     bars->setWidth(besides == 1 ? width : width * 0.9);
-    bars->setPen(Qt::NoPen);
-    bars->setBrush(SeriesColour(column));
     bars->setAntialiasedFill(true);
-    if (figures_.pattern) bars->SetPattern(*figures_.pattern);
     if (figures_.ColumnsAreApart()) {
-        bars->addData(column, figures_.Value(1, column));
+        bars->AddBar(column, figures_.Value(1, column), ShownLook(1, column));
         return;
     }
     const double offset = (column - (besides + 1) / 2.0) * width;
     for (int row = 1; row <= figures_.Rows(); ++row) {
-        bars->addData(row + offset, figures_.Value(row, column));
+        bars->AddBar(row + offset, figures_.Value(row, column), ShownLook(row, column));
     }
 }
 
@@ -188,7 +193,7 @@ void ChartPlot::DrawLine(int column) {
     QCPGraph* line = plot_->addGraph();
     const auto series = static_cast<std::size_t>(column - 1);
     line->setName(figures_.ColumnLabel(column));
-    line->setPen(QPen(SeriesColour(column), 2, strokes[series % strokes.size()]));
+    line->setPen(QPen(Shown(figures_.looks[series].fill), 2, strokes[series % strokes.size()]));
     for (int row = 1; row <= figures_.Rows(); ++row) {
         line->addData(row, figures_.Value(row, column));
     }

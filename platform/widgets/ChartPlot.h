@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class ChartFigures;
+struct BarLook;
 class QCPLegend;
 class QCPTextElement;
 class QCustomPlot;
@@ -44,7 +45,8 @@ class ChartPlot {
   private:
     void SetUp();
     void TakeColours(bool dark);
-    QColor SeriesColour(int column) const;
+    QColor Shown(const QColor& told) const;
+    BarLook ShownLook(int row, int column) const;
     void DrawAll();
     void DrawAverage();
     void DrawRankedFigures();

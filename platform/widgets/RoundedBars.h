@@ -10,28 +10,44 @@
 
 #include <algorithm>
 
-/// Bars with softened corners, and with a pattern over their colour where one is set.
+#include "platform/widgets/ChartFigures.h"
+
+/// Bars with softened corners, each with a look of its own, and with the same in the legend.
 class RoundedBars final : public QCPBars {
   public:
     using QCPBars::QCPBars;
 
-    void SetPattern(const QBrush& pattern) { pattern_ = pattern; }
+    /// Adds the next bar, further right than all before; the legend shows the first one's look.
+    void AddBar(double place, double value, const BarLook& look) {
+        addData(place, value);
+        looks_.push_back(look);
+    }
 
   protected:
     void draw(QCPPainter* painter) override {
-        applyFillAntialiasingHint(painter);
-        painter->setPen(Qt::NoPen);
+        auto look = looks_.begin();
         for (const QCPBarsData& bar : *data()) {
-            const QRectF rectangle = getBarRect(bar.key, bar.value).normalized();
-            const double radius = std::min({2.5, rectangle.width() / 4, rectangle.height() / 2});
-            for (const QBrush& layer : {brush(), pattern_}) {
-                if (layer.style() == Qt::NoBrush) continue;
-                painter->setBrush(layer);
-                painter->drawRoundedRect(rectangle, radius, radius);
-            }
+            DrawBar(painter, getBarRect(bar.key, bar.value).normalized(), *look++);
         }
     }
 
+    void drawLegendIcon(QCPPainter* painter, const QRectF& place) const override {
+        const QRectF square(place.center().x() - place.height() / 2, place.top(), place.height(),
+                            place.height());
+        if (!looks_.empty()) DrawBar(painter, square.adjusted(2, 2, -2, -2), looks_.front());
+    }
+
   private:
-    QBrush pattern_;
+    void DrawBar(QCPPainter* painter, const QRectF& rectangle, const BarLook& look) const {
+        applyFillAntialiasingHint(painter);
+        painter->setPen(Qt::NoPen);
+        const double radius = std::min({2.5, rectangle.width() / 4, rectangle.height() / 2});
+        for (const QBrush& layer : {QBrush(look.fill), look.pattern}) {
+            if (layer.style() == Qt::NoBrush) continue;
+            painter->setBrush(layer);
+            painter->drawRoundedRect(rectangle, radius, radius);
+        }
+    }
+
+    std::vector<BarLook> looks_;
 };

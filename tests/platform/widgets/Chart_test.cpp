@@ -370,7 +370,8 @@ TEST(AChart, KeepsTheSeriesOfARowTogetherWhenRowsAreAdded) {
 
 TEST(AChart, DrawsBarsInTheTwoColoursOfAPattern) {
     const auto chart = FrequencyChart(6);
-    chart->SetPattern(Qt::BDiagPattern, QColor(255, 0, 0), QColor(128, 0, 0));
+    chart->SetSeriesLook(
+        1, {.fill = QColor(128, 0, 0), .pattern = QBrush(QColor(255, 0, 0), Qt::BDiagPattern)});
     chart->Refresh();
     QApplication::processEvents();
     EXPECT_EQ(chart->patternColour(), QColor(255, 0, 0));
@@ -393,6 +394,121 @@ TEST(AChart, OfOneSeriesHasOneColourWithoutAPattern) {
     EXPECT_EQ(chart.patternColour(), chart.fillColour());
     chart.SetSeriesColour(1, QColor(1, 2, 3));
     EXPECT_EQ(chart.fillColour(), QColor(1, 2, 3));
+}
+
+/// How many pixels of the chart have exactly this colour, in the part of it that `area` is.
+int PixelsOf(const QColor& colour, Chart& chart, const QRect& area) {
+    const QImage image = chart.grab().toImage().copy(area);
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) count += image.pixelColor(x, y) == colour;
+    }
+    return count;
+}
+
+/// Two series of two rows: the first plain, the second with a pattern.
+struct AChartOfTwoSeries : testing::Test {
+    AChartOfTwoSeries() {
+        chart.SetSeriesLook(1, {.fill = plain});
+        chart.SetSeriesLook(2, {.fill = ground, .pattern = QBrush(lines, Qt::HorPattern)});
+        for (int row = 1; row <= 2; ++row) {
+            chart.SetValue(row, 1, 10);
+            chart.SetValue(row, 2, 10);
+        }
+        chart.SetRange(0, 20);
+        chart.resize(500, 300);
+        Show();
+    }
+
+    void Show() {
+        chart.Refresh();
+        chart.show();
+        QApplication::processEvents();
+    }
+
+    int Pixels(const QColor& colour, const QRect& area) { return PixelsOf(colour, chart, area); }
+
+    const QColor plain{0, 0, 200};
+    const QColor ground{0, 200, 0};
+    const QColor lines{0, 90, 0};
+    const QRect top{0, 0, 500, 24};
+    const QRect all{0, 0, 500, 300};
+    Chart chart{2, 2};
+};
+
+TEST_F(AChartOfTwoSeries, DrawsEachInItsOwnLook) {
+    EXPECT_GT(Pixels(plain, all), 5000);
+    EXPECT_GT(Pixels(ground, all), 3000);
+    EXPECT_GT(Pixels(lines, all), 500);
+    chart.SetSeriesLook(2, {.fill = ground});
+    Show();
+    EXPECT_EQ(Pixels(lines, all), 0) << "the first series has no pattern";
+}
+
+TEST_F(AChartOfTwoSeries, ShowsTheSameLooksInTheLegend) {
+    EXPECT_EQ(Pixels(plain, top), 0) << "no names, no legend";
+    chart.SetColumnLabel(1, QStringLiteral("Odd"));
+    chart.SetColumnLabel(2, QStringLiteral("Even"));
+    Show();
+    EXPECT_GT(Pixels(plain, top), 50);
+    EXPECT_GT(Pixels(ground, top), 30);
+    EXPECT_GT(Pixels(lines, top), 10);
+}
+
+TEST_F(AChartOfTwoSeries, MayGiveTheBarsOfARowALookOfTheirOwn) {
+    const QColor own(200, 0, 0);
+    chart.SetRowLook(2, {.fill = own});
+    Show();
+    const QRect left(0, 0, 250, 300);
+    const QRect right(250, 0, 250, 300);
+    EXPECT_EQ(Pixels(own, left), 0);
+    EXPECT_GT(Pixels(own, right), 10000);
+    EXPECT_EQ(Pixels(plain, right) + Pixels(ground, right), 0);
+    EXPECT_THROW(chart.SetRowLook(3, {}), Failure);
+    EXPECT_THROW(chart.SetSeriesLook(3, {}), Failure);
+}
+
+TEST_F(AChartOfTwoSeries, CallsARowByItsNameWhereItsLabelIsTooShort) {
+    chart.SetRowLabel(1, QStringLiteral("1"));
+    chart.SetRowLabel(2, QStringLiteral("2"));
+    chart.SetRowName(1, QStringLiteral("draw 1, the newest"));
+    chart.SetColumnLabel(1, QStringLiteral("Odd"));
+    chart.SetColumnLabel(2, QStringLiteral("Even"));
+    Show();
+    EXPECT_EQ(chart.rowLabel(1), QStringLiteral("1"));
+    EXPECT_EQ(chart.shownLabels(), (QStringList{QStringLiteral("1"), QStringLiteral("2")}));
+    EXPECT_EQ(chart.accessibleDescription(),
+              QStringLiteral("draw 1, the newest: Odd 10, Even 10; 2: Odd 10, Even 10"));
+    QWidget* plot = chart.findChild<QWidget*>();
+    const QPoint place(plot->width() / 4, plot->height() / 2);
+    QHelpEvent help(QEvent::ToolTip, place, plot->mapToGlobal(place));
+    QApplication::sendEvent(plot, &help);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("draw 1, the newest: Odd 10, Even 10"));
+    chart.findChild<QAction*>(QStringLiteral("CopyTable"))->trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(),
+              QStringLiteral("\tOdd\tEven\ndraw 1, the newest\t10\t10\n2\t10\t10\n"));
+    EXPECT_THROW(chart.SetRowName(3, QString()), Failure);
+}
+
+TEST_F(AChartOfTwoSeries, SaysBelowTheRowsWhatTheyCount) {
+    const auto lettersAtTheBottom = [this] {
+        const QImage image = chart.grab().toImage();
+        int dark = 0;
+        for (int y = image.height() - 36; y < image.height() - 2; ++y) {
+            for (int x = 5; x < image.width() - 5; ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                dark += !IsInk(colour) && colour.lightness() < 140;
+            }
+        }
+        return dark;
+    };
+    const int without = lettersAtTheBottom();
+    chart.SetCaption(QStringLiteral("draws, the newest first"));
+    Show();
+    EXPECT_GT(lettersAtTheBottom(), without + 50);
+    chart.SetCaption(QString());
+    Show();
+    EXPECT_EQ(lettersAtTheBottom(), without);
 }
 
 TEST(AChart, DrawsALineForEachSeriesInItsColour) {
