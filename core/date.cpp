@@ -160,6 +160,12 @@ std::string DrawDate(Date date) {
            " " + YearDigits(date).substr(2);
 }
 
+std::string FullDate(Date date) {
+    std::string text = MediumDate(date);
+    std::replace(text.begin(), text.end(), '-', ' ');
+    return text;
+}
+
 int WeekdayNumber(Date date) { return static_cast<int>(weekday(sys_days(date)).c_encoding()) + 1; }
 
 int DaysBetween(Date from, Date to) {

@@ -27,6 +27,9 @@ std::string MediumDate(Date date);
 /// The form of the draw files, "dd MMM yy", with English month names.
 std::string DrawDate(Date date);
 
+/// The form "dd MMM yyyy", with English month names.
+std::string FullDate(Date date);
+
 /// Sunday is 1, Saturday is 7.
 int WeekdayNumber(Date date);
 

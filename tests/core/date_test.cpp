@@ -172,6 +172,11 @@ TEST(MediumDate, HasTheEnglishMonthAndFourDigits) {
     EXPECT_EQ(MediumDate(Day(320, 6, 1)), "01-Jun-0320");
 }
 
+TEST(FullDate, HasTheEnglishMonthFourDigitsAndBlanks) {
+    EXPECT_EQ(FullDate(Day(1985, 7, 23)), "23 Jul 1985");
+    EXPECT_EQ(FullDate(Day(320, 6, 1)), "01 Jun 0320");
+}
+
 TEST(DrawDate, HasTheEnglishMonthAndTwoDigits) {
     EXPECT_EQ(DrawDate(Day(1994, 11, 19)), "19 Nov 94");
     EXPECT_EQ(DrawDate(Day(2005, 6, 1)), "01 Jun 05");
