@@ -7,7 +7,7 @@
 #include "core/settings.h"
 #include "core/text.h"
 #include "entries/SaveEntries.h"
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/forms/Form.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Grid.h"

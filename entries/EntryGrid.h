@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 
 class Grid;
 

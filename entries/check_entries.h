@@ -10,7 +10,7 @@
 #include "core/program_folder.h"
 #include "core/state.h"
 #include "entries/check_summary.h"
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 
 /// How the check paints a cell of an entry.
 enum class Mark {

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/forms/Skin.h"
 #include "shell/InfoPanels.h"
 #include "shell/Toolbar.h"

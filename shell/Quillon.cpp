@@ -8,7 +8,7 @@
 #include "core/draw_database.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/Skin.h"
 #include "platform/system/MessageBoxes.h"

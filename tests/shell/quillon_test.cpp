@@ -5,7 +5,7 @@
 
 #include "core/failure.h"
 #include "core/settings.h"
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/widgets/Lists.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"

@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/widgets/Lists.h"
 #include "tests/shell/main_window.h"
 #include "tests/support/sample_lotteries.h"

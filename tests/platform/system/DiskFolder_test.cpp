@@ -18,7 +18,7 @@
 #include <sstream>
 
 #include "core/settings.h"
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 #include "platform/system/TextConversion.h"
 #include "shell/notes_file.h"
 #include "tests/core/failures.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 
+#include <span>
 #include <string_view>
 
 #include "core/field_reader.h"
@@ -21,8 +22,11 @@ std::string Records(const std::vector<SavedEntry>& entries) {
 
 }  // namespace
 
-void ReadEntry(FieldReader& reader, std::string* cells) {
-    for (const std::string_view field : expectedFields) *cells++ = reader.ReadField(field);
+void ReadEntry(FieldReader& reader, std::string* cells, int count) {
+    for (const std::string_view field :
+         std::span(expectedFields).first(static_cast<std::size_t>(count))) {
+        *cells++ = reader.ReadField(field);
+    }
 }
 
 // Kept on purpose: a comma in a name is written as it stands, and shifts the fields behind it.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "entries/saved_entries.h"
+#include "core/saved_entries.h"
 
 #include <gtest/gtest.h>
 
@@ -80,4 +80,14 @@ TEST(SavedEntriesFile, IsReadAsItWasWritten) {
     ReadEntry(reader, read.data());
     EXPECT_EQ(read, lottoEntry);
     EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(SavedEntriesFile, IsReadAsFarAsAnEntryIsAskedFor) {
+    const std::string record = SavedEntryRecord(lottoEntry);
+    FieldReader reader(record, "MyLottery.txt");
+    SavedEntry read;
+    ReadEntry(reader, read.data(), 10);
+    EXPECT_EQ(read[9], "UK Lotto");
+    EXPECT_EQ(read[10], "");
+    EXPECT_EQ(reader.ReadLine("the rest of an entry"), "Ann,dbase100.txt");
 }

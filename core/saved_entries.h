@@ -27,9 +27,9 @@ inline constexpr int database = 11;
 inline constexpr int last = database;
 }  // namespace entry_column
 
-/// Reads the next entry of the file into twelve cells, one after the other. An entry that the end
-/// of the file cuts short is a `Failure`.
-void ReadEntry(FieldReader& reader, std::string* cells);
+/// Reads the next entry of the file into twelve cells, one after the other, or its first `count`
+/// fields only. An entry that the end of the file cuts short is a `Failure`.
+void ReadEntry(FieldReader& reader, std::string* cells, int count = entry_column::last + 1);
 
 /// The record of an entry: its fields with a comma between, and a line end. Nothing is quoted.
 std::string SavedEntryRecord(const SavedEntry& entry);
