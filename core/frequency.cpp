@@ -14,16 +14,6 @@ constexpr int highestNumber = static_cast<int>(Counts::Count()) - 1;
 constexpr int extraColumn = 8;
 constexpr int headerLines = 3;
 
-void CountOne(Counts& counts, const State& state, int row, int column) {
-    const int number = state.Draws(row, column);
-    if (number < 0 || number > highestNumber) {
-        throw FailureInFile(state.DbaseFile, headerLines + row,
-                            "expected numbers from 0 to " + PlainDigits(highestNumber) + ", but " +
-                                PlainDigits(number) + " stands there");
-    }
-    ++counts(number);
-}
-
 // Four tables in turn, so that a number that comes again soon need not wait for its last count to
 // be stored; 128 entries each, so that no number is looked up outside before it has been checked.
 class Tally {
@@ -64,6 +54,16 @@ bool Ranks(const Counts& counts, int highest) {
 }
 
 }  // namespace
+
+void CountNumberAt(Counts& counts, const State& state, int row, int column) {
+    const int number = state.Draws(row, column);
+    if (number < 0 || number > highestNumber) {
+        throw FailureInFile(state.DbaseFile, headerLines + row,
+                            "expected numbers from 0 to " + PlainDigits(highestNumber) + ", but " +
+                                PlainDigits(number) + " stands there");
+    }
+    ++counts(number);
+}
 
 void CountNumbers(const State& state, NumberCounts& counts) {
     if (state.Picks > extraColumn) return plain::CountNumbers(state, counts);
@@ -136,9 +136,9 @@ void plain::CountNumbers(const State& state, NumberCounts& counts) {
     counts.ExtraCount.Fill(0);
     for (int row = 1; state.Draws(row, 1) >= 1; ++row) {
         for (int column = 1; column <= state.Picks; ++column) {
-            CountOne(counts.MainCount, state, row, column);
+            CountNumberAt(counts.MainCount, state, row, column);
         }
-        CountOne(counts.ExtraCount, state, row, extraColumn);
+        CountNumberAt(counts.ExtraCount, state, row, extraColumn);
     }
 }
 

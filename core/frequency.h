@@ -29,6 +29,10 @@ using TenNumbers = std::array<int, 10>;
 /// so is a history without an empty row behind it.
 void CountNumbers(const State& state, NumberCounts& counts);
 
+/// Counts the number that stands at a place of the draw history. One outside 0 to 70 is a `Failure`
+/// that says in which line of the database it stands.
+void CountNumberAt(Counts& counts, const State& state, int row, int column);
+
 /// Turns a count into a measure of coldness: each of 1 to `highest` becomes the highest count less
 /// its own, so that the least drawn number holds the most and a hottest one 0.
 void ReverseCounts(Counts& counts, int highest);
