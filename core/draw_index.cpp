@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int extraPlace = 7;  // behind the seven main numbers
+
 using Word = std::uint64_t;
 using BitRows = std::array<const Word*, 7>;
 
@@ -89,10 +91,12 @@ void DrawIndex::Update(const State& state) {
     picks_ = state.Picks;
     maxNum_ = state.MaxNum;
     drawCount_ = 0;
+    repeatingRows_.clear();
     repeatingDraws_.clear();
     usable_ = picks_ >= 1 && picks_ <= 7 && maxNum_ >= 0 && maxNum_ <= largestField;
     if (!usable_) return;
     rows_.assign(static_cast<std::size_t>(maxNum_) + 1, BitRow{});
+    extraRows_.assign(largestField + 1, BitRow{});
     constexpr int lastRow = static_cast<int>(decltype(state.Draws)::RowCount()) - 1;
     while (drawCount_ < lastRow && state.Draws(drawCount_ + 1, 1) != 0) {
         AddDraw(state.Draws.Row(drawCount_ + 1) + 1, drawCount_);
@@ -111,7 +115,12 @@ void DrawIndex::AddDraw(const std::int16_t* numbers, int draw) {
         before |= bits & bit;
         bits |= bit;
     }
+    const int extra = numbers[extraPlace];
+    if (extra >= 0 && extra <= largestField) {
+        extraRows_[static_cast<std::size_t>(extra)].bits[word] |= bit;
+    }
     if (before == 0) return;
+    repeatingRows_.push_back(draw + 1);
     Draw& repeating = repeatingDraws_.emplace_back();
     std::copy_n(numbers, picks_, repeating.begin());
 }

@@ -27,19 +27,35 @@ class DrawIndex {
     /// to `MaxNum`.
     bool Covers(const std::int16_t* numbers) const;
 
+    /// A bit for each draw that has the number, from 0 to `MaxNum`, in columns 1 to `Picks`, and
+    /// for each whose column 8 is the number, from 0 to `largestField`: draw r is bit (r - 1) % 64
+    /// of word (r - 1) / 64. There are 48 words, those behind the last draw 0.
+    ///
+    /// A draw that holds a number twice has one bit for it all the same.
+    const std::uint64_t* Draws(int number) const { return Bits(rows_, number); }
+    const std::uint64_t* DrawsWithExtra(int number) const { return Bits(extraRows_, number); }
+
+    /// The rows of the draws that hold a number of the field twice.
+    const std::vector<int>& RepeatingRows() const { return repeatingRows_; }
+
     /// Whether some draw has at least `matches` of the line's numbers in columns 1 to `Picks`.
     ///
     /// The index is usable and covers the line, which the caller has checked. The answer is that of
     /// comparing every pair, also for draws that hold repeats, zeros or numbers outside the field.
     bool AnyDrawMatches(const std::int16_t* numbers, long long matches) const;
 
-  private:
     static constexpr int largestField = 120;
+
+  private:
     static constexpr int words = 48;  // 3,072 draws, an even number of words for pairwise loops
     struct alignas(16) BitRow {
         std::array<std::uint64_t, words> bits{};
     };
     using Draw = std::array<std::int16_t, 7>;
+
+    static const std::uint64_t* Bits(const std::vector<BitRow>& rows, int number) {
+        return rows.at(static_cast<std::size_t>(number)).bits.data();
+    }
 
     void AddDraw(const std::int16_t* numbers, int draw);
     bool AnyRepeatingDrawMatches(const std::int16_t* numbers, long long matches) const;
@@ -51,5 +67,7 @@ class DrawIndex {
     bool built_ = false;
     bool usable_ = false;
     std::vector<BitRow> rows_;          // by number, from 0
+    std::vector<BitRow> extraRows_;     // the same for column 8
+    std::vector<int> repeatingRows_;    // of the draws below
     std::vector<Draw> repeatingDraws_;  // hold a number of the field twice
 };
