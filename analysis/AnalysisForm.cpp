@@ -28,6 +28,7 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
       explanation_(MakeBody(names.explanation, text.explanation)),
       explanations_(names.explanation),
       top_(new QHBoxLayout),
+      texts_(new QVBoxLayout),
       choices_(new QVBoxLayout),
       results_(new QHBoxLayout),
       foot_(new QVBoxLayout) {
@@ -35,7 +36,8 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
     top_->setSpacing(20);
     choices_->setSpacing(columnSpacing);
     top_->addLayout(choices_);
-    top_->addWidget(explanation_, 1);
+    top_->addLayout(texts_, 1);
+    texts_->addWidget(explanation_);
     results_->setSpacing(10);
     QVBoxLayout* layout = MakeFormLayout(this);
     layout->addWidget(heading_);
@@ -43,25 +45,30 @@ AnalysisForm::AnalysisForm(Program& program, const AnalysisFormText& text,
     layout->addSpacing(4);
     layout->addLayout(results_, 1);
     layout->addLayout(foot_);
-    layout->addLayout(BuildActions(names));
+    layout->addLayout(BuildActions(text, names));
 }
 
-QLayout* AnalysisForm::BuildActions(const AnalysisNames& names) {
-    QPushButton* print = MakeCommandButton(names.print, Command::Print, tr(" Print form "), this);
-    QPushButton* close = MakeCommandButton(names.close, Command::Close, tr(" Close "), this);
-    print->setEnabled(static_cast<bool>(services().printForm));
-    connect(print, &QPushButton::clicked, this, [this] { services().printForm(*this); });
+QLayout* AnalysisForm::BuildActions(const AnalysisFormText& text, const AnalysisNames& names) {
+    QPushButton* close = MakeCommandButton(names.close, Command::Close, text.closeTip, this);
     connect(close, &QPushButton::clicked, this, [this] { Unload(); });
     SetCloseButton(close);
-    return BuildActionRow({print}, {close});
+    if (names.print.isEmpty()) return BuildActionRow({}, {close});
+    return BuildActionRow({BuildPrintButton(text, names)}, {close});
 }
 
-void AnalysisForm::AddLotteryList() {
+QPushButton* AnalysisForm::BuildPrintButton(const AnalysisFormText& text,
+                                            const AnalysisNames& names) {
+    print_ = MakeCommandButton(names.print, Command::Print, text.printTip, this);
+    connect(print_, &QPushButton::clicked, this, [this] { Print(); });
+    return print_;
+}
+
+void AnalysisForm::AddLotteryList(const QString& promptName, const QString& prompt) {
     auto* column = new QVBoxLayout;
     column->setSpacing(columnSpacing);
     lotteries_ = Named(new ListBox(this), QStringLiteral("List1"));
     lotteries_->setFixedSize(listWidth, listHeight);
-    QLabel* title = AddPrompt(QStringLiteral("Label1"), tr("Select a lottery:"));
+    QLabel* title = AddPrompt(promptName, prompt);
     lotteries_->setAccessibleName(title->text());
     column->addWidget(title);
     column->addWidget(lotteries_);
@@ -87,9 +94,14 @@ void AnalysisForm::ApplySkin() {
                                                  .status = {}});
 }
 
-void AnalysisForm::Load() {
+void AnalysisForm::Prepare() {
     TabInReadingOrder();
     ApplySkin();
+    if (print_ != nullptr) print_->setEnabled(CanPrint());
+}
+
+void AnalysisForm::Load() {
+    Prepare();
     if (lotteries_ == nullptr) return;
     ListDatabases(program(), *lotteries_);
     ChooseFirstLottery(*lotteries_);
