@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/state.h"
+#include "core/wide_registers.h"
 
 namespace {
 
@@ -16,8 +17,8 @@ using BitRows = std::array<const Word*, 7>;
 
 // Draws that have all the numbers.
 template <std::size_t... Pick>
-bool AnyHasAll(const BitRows& rows, int words, int, std::index_sequence<Pick...>) {
-    const std::array row{std::assume_aligned<16>(rows[Pick])...};
+INLINED inline bool AnyHasAll(const BitRows& rows, int words, std::index_sequence<Pick...>) {
+    const std::array row{std::assume_aligned<32>(rows[Pick])...};
     Word found = 0;
     for (int word = 0; word < words; ++word) found |= (row[Pick][word] & ...);
     return found != 0;
@@ -25,13 +26,17 @@ bool AnyHasAll(const BitRows& rows, int words, int, std::index_sequence<Pick...>
 
 // Draws that have all the numbers or all but one.
 template <std::size_t... Pick>
-bool AnyMissesOne(const BitRows& rows, int words, int, std::index_sequence<Pick...>) {
-    const std::array row{std::assume_aligned<16>(rows[Pick])...};
+INLINED inline bool AnyMissesOne(const BitRows& rows, int words, std::index_sequence<Pick...>) {
+    const std::array row{std::assume_aligned<32>(rows[Pick])...};
     Word found = 0;
     for (int word = 0; word < words; ++word) {
-        Word all = ~Word{0};
+        Word all = row[0][word];
         Word allButOne = ~Word{0};
-        ((allButOne = (allButOne & row[Pick][word]) | all, all &= row[Pick][word]), ...);
+        for (std::size_t pick = 1; pick < row.size(); ++pick) {
+            const Word bits = row[pick][word];
+            allButOne = (allButOne & bits) | all;
+            all &= bits;
+        }
         found |= allButOne;
     }
     return found != 0;
@@ -40,8 +45,9 @@ bool AnyMissesOne(const BitRows& rows, int words, int, std::index_sequence<Pick.
 // Draws that have at least `matches` of the numbers: a sum of three bits for each draw, compared
 // with `matches` from the highest bit down.
 template <std::size_t... Pick>
-bool AnyHasSome(const BitRows& rows, int words, int matches, std::index_sequence<Pick...>) {
-    const std::array row{std::assume_aligned<16>(rows[Pick])...};
+INLINED inline bool AnyHasSome(const BitRows& rows, int words, int matches,
+                               std::index_sequence<Pick...>) {
+    const std::array row{std::assume_aligned<32>(rows[Pick])...};
     const auto mask = [matches](int bit) { return (matches >> bit & 1) != 0 ? ~Word{0} : Word{0}; };
     const std::array masks{mask(0), mask(1), mask(2)};
     Word found = 0;
@@ -68,16 +74,76 @@ bool AnyHasSome(const BitRows& rows, int words, int matches, std::index_sequence
 }
 
 template <std::size_t Picks>
-bool AnyMatch(const BitRows& rows, int words, int matches) {
+INLINED inline bool AnyMatch(const BitRows& rows, int words, int matches) {
     constexpr auto picks = std::make_index_sequence<Picks>{};
     const int missing = static_cast<int>(Picks) - matches;
-    if (missing == 0) return AnyHasAll(rows, words, matches, picks);
-    if (missing == 1) return AnyMissesOne(rows, words, matches, picks);
+    if (missing == 0) return AnyHasAll(rows, words, picks);
+    if (missing == 1) return AnyMissesOne(rows, words, picks);
     return AnyHasSome(rows, words, matches, picks);
 }
 
-constexpr std::array anyMatchByPicks{AnyMatch<1>, AnyMatch<2>, AnyMatch<3>, AnyMatch<4>,
-                                     AnyMatch<5>, AnyMatch<6>, AnyMatch<7>};
+// Whether the numbers are distinct and from 1 to `maxNum`. No branch, and no table in memory: the
+// loops of a generator ask this for every line of a try.
+INLINED inline bool AreDistinctInField(const std::int16_t* numbers, int picks, int maxNum) {
+    Word low = 0;
+    Word high = 0;
+    Word repeated = 0;
+    bool inField = true;
+    for (int pick = 0; pick < picks; ++pick) {
+        inField &= numbers[pick] >= 1 && numbers[pick] <= maxNum;
+        const auto number = static_cast<unsigned>(numbers[pick]) % 128;
+        const Word bit = Word{1} << (number % 64);
+        const Word lowBit = bit & (Word{number / 64} - 1);
+        const Word highBit = bit ^ lowBit;
+        repeated |= (low & lowBit) | (high & highBit);
+        low |= lowBit;
+        high |= highBit;
+    }
+    return inField && repeated == 0;
+}
+
+// The rows of bits by number, and what is asked of them.
+struct Question {
+    const Word* rows = nullptr;
+    int rowWords = 0;
+    int usedBlocks = 0;  // of four words, so that a register of 256 bits leaves no rest
+    int maxNum = 0;
+    int matches = 0;
+};
+
+template <std::size_t Picks>
+INLINED inline int LinesThatPass(const Question& question, const std::int16_t* numbers, int stride,
+                                 int count) {
+    for (int line = 0; line < count; ++line, numbers += stride) {
+        if (!AreDistinctInField(numbers, Picks, question.maxNum)) return line;
+        BitRows rows{};
+        for (std::size_t pick = 0; pick < Picks; ++pick) {
+            rows[pick] = question.rows + std::ptrdiff_t{numbers[pick]} * question.rowWords;
+        }
+        if (AnyMatch<Picks>(rows, 4 * question.usedBlocks, question.matches)) return line;
+    }
+    return count;
+}
+
+IN_WIDE_REGISTERS_TOO int LinesThatPass(int picks, const Question& question,
+                                        const std::int16_t* numbers, int stride, int count) {
+    switch (picks) {
+        case 1:
+            return LinesThatPass<1>(question, numbers, stride, count);
+        case 2:
+            return LinesThatPass<2>(question, numbers, stride, count);
+        case 3:
+            return LinesThatPass<3>(question, numbers, stride, count);
+        case 4:
+            return LinesThatPass<4>(question, numbers, stride, count);
+        case 5:
+            return LinesThatPass<5>(question, numbers, stride, count);
+        case 6:
+            return LinesThatPass<6>(question, numbers, stride, count);
+        default:
+            return LinesThatPass<7>(question, numbers, stride, count);
+    }
+}
 
 }  // namespace
 
@@ -126,29 +192,30 @@ void DrawIndex::AddDraw(const std::int16_t* numbers, int draw) {
 }
 
 bool DrawIndex::Covers(const std::int16_t* numbers) const {
-    std::array<std::uint64_t, 2> seen{};
-    for (int pick = 0; pick < picks_; ++pick) {
-        if (numbers[pick] < 1 || numbers[pick] > maxNum_) return false;
-        const auto number = static_cast<unsigned>(numbers[pick]);
-        const std::uint64_t bit = std::uint64_t{1} << (number % 64);
-        if ((seen[number / 64] & bit) != 0) return false;
-        seen[number / 64] |= bit;
+    return AreDistinctInField(numbers, picks_, maxNum_);
+}
+
+int DrawIndex::LinesBeforeMatch(const std::int16_t* numbers, int stride, int count,
+                                long long matches) const {
+    if (count == 0) return 0;
+    if (matches <= 0) return drawCount_ > 0 ? 0 : count;
+    if (matches > picks_) {
+        int line = 0;
+        while (line < count && Covers(numbers + std::ptrdiff_t{line} * stride)) ++line;
+        return line;
     }
-    return true;
+    const Question question{rows_.front().bits.data(), words, (drawCount_ + 255) / 256, maxNum_,
+                            static_cast<int>(matches)};
+    const int passing = LinesThatPass(picks_, question, numbers, stride, count);
+    if (repeatingDraws_.empty()) return passing;
+    for (int line = 0; line < passing; ++line) {
+        if (AnyRepeatingDrawMatches(numbers + std::ptrdiff_t{line} * stride, matches)) return line;
+    }
+    return passing;
 }
 
 bool DrawIndex::AnyDrawMatches(const std::int16_t* numbers, long long matches) const {
-    if (matches <= 0) return drawCount_ > 0;
-    if (matches > picks_) return false;
-    BitRows rows{};
-    for (int pick = 0; pick < picks_; ++pick) {
-        const auto place = static_cast<std::size_t>(pick);
-        rows[place] = rows_[static_cast<std::size_t>(numbers[pick])].bits.data();
-    }
-    const int usedWords = (drawCount_ + 127) / 128 * 2;
-    const auto anyMatch = anyMatchByPicks[static_cast<std::size_t>(picks_) - 1];
-    return anyMatch(rows, usedWords, static_cast<int>(matches)) ||
-           AnyRepeatingDrawMatches(numbers, matches);
+    return LinesBeforeMatch(numbers, 0, 1, matches) == 0;
 }
 
 // The rows of bits count a number that a draw holds twice once only, so these draws are compared

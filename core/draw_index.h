@@ -44,11 +44,17 @@ class DrawIndex {
     /// comparing every pair, also for draws that hold repeats, zeros or numbers outside the field.
     bool AnyDrawMatches(const std::int16_t* numbers, long long matches) const;
 
+    /// How many of `count` lines stand before the first that the index does not cover or of which
+    /// some draw has at least `matches` numbers; `count` where there is none. A line's numbers
+    /// begin `stride` places behind those of the line before. The index is usable.
+    int LinesBeforeMatch(const std::int16_t* numbers, int stride, int count,
+                         long long matches) const;
+
     static constexpr int largestField = 120;
 
   private:
-    static constexpr int words = 48;  // 3,072 draws, an even number of words for pairwise loops
-    struct alignas(16) BitRow {
+    static constexpr int words = 48;  // 3,072 draws
+    struct alignas(32) BitRow {
         std::array<std::uint64_t, words> bits{};
     };
     using Draw = std::array<std::int16_t, 7>;

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int lastLine = static_cast<int>(decltype(State::Lines)::RowCount()) - 1;
+constexpr int lineWidth = static_cast<int>(decltype(State::Lines)::ColumnCount());
 
 int Strength(const State& state, setting::Slot slot) { return LeadingWhole(state.Settings(slot)); }
 
@@ -152,8 +153,11 @@ bool HistoryPasses(State& state) {
     state.drawIndex.Update(state);
     if (lineCount == noEndMark || !state.drawIndex.Usable()) return plain::HistoryPasses(state);
     const int strength = Strength(state, setting::HistoryStrength);
+    const long long matches = static_cast<long long>(state.Picks) - strength + 1;
     for (int row = 1; row <= lineCount; ++row) {
-        if (RepeatsDraw(state, row, strength)) return false;
+        row += state.drawIndex.LinesBeforeMatch(View(state).Lines.Row(row) + 1, lineWidth,
+                                                lineCount - row + 1, matches);
+        if (row <= lineCount && RepeatsDraw(state, row, strength)) return false;
     }
     return true;
 }

@@ -1,14 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/mersenne_twister.h"
 
-// A version for registers of 256 bits, which takes little more than half the time, and one for all
-// processors; which of them runs is found out when the program starts. Sanitizers are not ready for
-// that so early.
-#if defined(__x86_64__) && !defined(__clang__) && !defined(QUILLON_SANITIZE)
-#define IN_WIDE_REGISTERS_TOO __attribute__((target_clones("avx2", "default")))
-#else
-#define IN_WIDE_REGISTERS_TOO
-#endif
+#include "core/wide_registers.h"
 
 namespace {
 

@@ -78,6 +78,27 @@ TEST(History, LastOf2999DrawsCounts) {
     EXPECT_EQ(HistoryOK(*state, true), passed);
 }
 
+// A line with a number twice is compared pair by pair, and the lines behind it are not forgotten.
+TEST(History, ALineBehindOneWithARepeatIsComparedToo) {
+    const auto state = Lottery(6, 49);
+    FillRows(state->Lines, {{1, 2, 3, 4, 5, 6}, {7, 7, 8, 9, 10, 11}, {9, 8, 7, 6, 5, 4}});
+    FillRows(state->Draws, {{30, 31, 32, 33, 34, 35}, {4, 5, 6, 7, 8, 9}});
+    state->Settings(setting::HistoryStrength) = "1";
+    EXPECT_EQ(HistoryOK(*state, true), notPassed);
+    state->Draws(2, 6) = 10;
+    EXPECT_EQ(HistoryOK(*state, true), passed);
+}
+
+TEST(History, ALineWithARepeatCanHaveMoreMatchesThanPicks) {
+    const auto state = Lottery(6, 49);
+    FillRows(state->Lines, {{1, 2, 3, 4, 5, 6}, {7, 7, 7, 7, 7, 7}});
+    FillRows(state->Draws, {{7, 7, 30, 31, 32, 33}});
+    state->Settings(setting::HistoryStrength) = "-5";
+    EXPECT_EQ(HistoryOK(*state, true), notPassed);
+    state->Draws(1, 2) = 34;
+    EXPECT_EQ(HistoryOK(*state, true), passed);
+}
+
 TEST(History, FollowsAChangeOfTheDrawsOrOfTheLottery) {
     const auto state = Lottery(6, 49);
     FillRows(state->Lines, {{1, 2, 3, 4, 5, 6}});
