@@ -219,9 +219,13 @@ void PlayFrame::Generate() {
 void PlayFrame::Filter(void (*prune)(State&)) {
     if (!Lets(busyRules_.filtersWait)) return;
     const int before = LineCount(view());
+    Prune(prune);
+    Say(WhatWasTakenOut(before, LineCount(view())));
+}
+
+void PlayFrame::Prune(void (*prune)(State&)) {
     prune(state());
     ShowResult();
-    Say(WhatWasTakenOut(before, LineCount(view())));
 }
 
 void PlayFrame::PrintLines() {

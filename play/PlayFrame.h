@@ -69,6 +69,9 @@ class PlayFrame : public Form {
     /// What follows a choice of lottery once it is loaded: a first set of lines.
     virtual void LotteryChosen() { Generate(); }
 
+    /// Takes the lines out that fail a filter, at a click on its button, and shows the rest.
+    virtual void Prune(void (*prune)(State&));
+
     /// The labels that take the skin's colours.
     virtual SkinLabels SkinnedLabels() const;
 

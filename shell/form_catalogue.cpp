@@ -21,6 +21,7 @@
 #include "play/PLuckyDip.h"
 #include "play/PLuckyNumbers.h"
 #include "play/PStarSign.h"
+#include "wheels/PBudgetWheel.h"
 #include "wheels/PWheel2.h"
 #include "wheels/PWheel3.h"
 
@@ -91,7 +92,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "Play1Key", .form = "P1Key", .make = Make<P1Key>},
     {.menuEntry = "Play2Key", .form = "P2KeyNum", .make = Make<P2KeyNum>},
     {.menuEntry = "Play3Key", .form = "P3KeyNum", .make = Make<P3KeyNum>},
-    {.menuEntry = "PlayBudgetWheels", .form = "PBudgetWheel"},
+    {.menuEntry = "PlayBudgetWheels", .form = "PBudgetWheel", .make = Make<PBudgetWheel>},
     {.menuEntry = "PlayColdWheels", .form = "PHotWheels", .prepare = SelectSecondOption},
     {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels"},
     {.menuEntry = "PlayGuarantee3", .form = "PThreeMatch"},

@@ -145,7 +145,8 @@ void Use(Form& form, bool hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Check3"))->click();
         Find<QScrollBar>(form, QStringLiteral("HScroll1"))->setValue(12);
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
-    } else if (name == QLatin1String("PWheel2") || name == QLatin1String("PWheel3")) {
+    } else if (name == QLatin1String("PWheel2") || name == QLatin1String("PWheel3") ||
+               name == QLatin1String("PBudgetWheel")) {
         Find<QAbstractButton>(form, QStringLiteral("Option1(2)"))->click();
         Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();

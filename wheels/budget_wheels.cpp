@@ -2,12 +2,31 @@
 #include "wheels/budget_wheels.h"
 
 #include "core/lines.h"
+#include "core/text.h"
+#include "wheels/patterns.h"
 
 using wheels::CopyFromPool;
 using wheels::Outcome;
 using wheels::ZeroBasedPosition;
 
 namespace budget_wheels {
+namespace {
+
+const wheels::WheelFamily& Family() { return wheels::FamilyOf(wheels::WheelList::Budget); }
+
+const wheels::Wheel& WheelOf(int option) {
+    return wheels::WheelAt(wheels::WheelList::Budget, option);
+}
+
+}  // namespace
+
+int NumberCount(int option) { return WheelOf(option).numbers; }
+
+std::string OptionCaption(int option) {
+    const wheels::Wheel& wheel = WheelOf(option);
+    return "Wheel " + wheels::InColumn(wheel.numbers) + " numbers in " + PlainDigits(wheel.lines) +
+           " lines";
+}
 
 Outcome Do_Wheel7(State& state, Random& random, std::string_view pattern, int count) {
     for (int row = 1; !pattern.empty(); pattern.remove_prefix(2), ++row) {
@@ -44,6 +63,22 @@ Outcome Do_Wheel5(State& state, Random& random, std::string_view pattern) {
     }
     SortLines(state, state.Picks);
     return Outcome::Done;
+}
+
+bool HasTooFewPicks(const State& state) { return state.Picks < Family().lowestPicks; }
+
+bool Prepare(State& state, const wheels::Boxes& boxes) {
+    ClearLines(state);
+    return wheels::EachInUseHasNumber(boxes);
+}
+
+Outcome Generate(State& state, Random& random, int option, const wheels::Boxes& boxes) {
+    if (HasTooFewPicks(state) || state.Picks > Family().highestPicks) return Outcome::Refused;
+    wheels::ReadAll(state, boxes);
+    const wheels::Wheel& wheel = WheelOf(option);
+    if (state.Picks == 7) return Do_Wheel7(state, random, wheel.pattern, wheel.numbers);
+    if (state.Picks == 6) return Do_Wheel6(state, random, wheel.pattern);
+    return Do_Wheel5(state, random, wheel.pattern);
 }
 
 }  // namespace budget_wheels

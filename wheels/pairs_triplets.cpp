@@ -87,9 +87,8 @@ int NumberCount(int option) { return 3 * option + 9; }
 
 std::string OptionCaption(int option) {
     const wheels::Wheel& wheel = WheelAt(WheelList::Triplets, option);
-    // Two blanks take the place of a missing digit, so that the captions stand in columns.
-    const auto aligned = [](int number) { return (number < 10 ? "  " : "") + PlainDigits(number); };
-    return "Wheel " + aligned(wheel.numbers) + " numbers in " + aligned(wheel.lines) + " lines";
+    return "Wheel " + wheels::InColumn(wheel.numbers) + " numbers in " +
+           wheels::InColumn(wheel.lines) + " lines";
 }
 
 std::string Prompt(int option) {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/failure.h"
+#include "core/text.h"
 #include "wheels/pattern_tables.h"
 
 namespace wheels {
@@ -34,5 +35,7 @@ const Wheel& WheelAt(WheelList list, int item) {
     }
     return family.items[static_cast<std::size_t>(item)];
 }
+
+std::string InColumn(int number) { return (number < 10 ? "  " : "") + PlainDigits(number); }
 
 }  // namespace wheels

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace wheels {
@@ -51,5 +52,9 @@ const WheelFamily& FamilyOf(WheelList list);
 
 /// The wheel of an item, counted from 0; an item that the list does not have is a `Failure`.
 const Wheel& WheelAt(WheelList list, int item);
+
+/// A number as the captions of sizes show it: two blanks take the place of a missing digit, so that
+/// the captions stand in columns.
+std::string InColumn(int number);
 
 }  // namespace wheels
