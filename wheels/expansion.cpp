@@ -66,6 +66,16 @@ void DrawExtraBall(State& state, Random& random, int row) {
     state.Lines(row, 8) = static_cast<std::int16_t>(random.OneTo(state.MaxPball));
 }
 
+bool FitToPicks(State& state, Random& random, int row) {
+    if (state.Picks == 5) state.Lines(row, 6) = 0;
+    if (state.Picks == 7 && !DrawOtherNumber(state, random, row, 7)) {
+        ClearLines(state);
+        return false;
+    }
+    DrawExtraBall(state, random, row);
+    return true;
+}
+
 Outcome ExpandSixLetters(State& state, Random& random, std::string_view pattern, int first) {
     int row = 1;
     for (; !pattern.empty(); pattern.remove_prefix(6), ++row) {
@@ -73,12 +83,7 @@ Outcome ExpandSixLetters(State& state, Random& random, std::string_view pattern,
             const int position = ZeroBasedPosition(pattern[static_cast<std::size_t>(column - 1)]);
             CopyFromPool(state, row, column, position + first, 1);
         }
-        if (state.Picks == 5) state.Lines(row, 6) = 0;
-        if (state.Picks == 7 && !DrawOtherNumber(state, random, row, 7)) {
-            ClearLines(state);
-            return Outcome::NoOtherNumber;
-        }
-        DrawExtraBall(state, random, row);
+        if (!FitToPicks(state, random, row)) return Outcome::NoOtherNumber;
     }
     state.Lines(row, 1) = 0;
     return Outcome::Done;

@@ -38,9 +38,14 @@ bool DrawOtherFromPool(State& state, Random& random, int row, int column, int co
 /// Draws the extra ball of a row into column 8 where the lottery has one.
 void DrawExtraBall(State& state, Random& random, int row);
 
+/// Makes what the lottery plays of a row of six numbers: for five picks the sixth column goes back
+/// to 0, for seven a random number joins, and an extra ball where there is one. Where no seventh
+/// number is left, `Lines` is cleared and the result is false.
+bool FitToPicks(State& state, Random& random, int row);
+
 /// Fills `Lines` from a pattern of six letters a line and one number a letter, "A" standing for
-/// `Pool(first)`: for five picks the sixth column goes back to 0, for seven a random number joins.
-/// Writes the end mark and does not sort. Where a line finds no seventh number, `Lines` is cleared.
+/// `Pool(first)`, and fits each line to the lottery. Writes the end mark and does not sort. Where a
+/// line finds no seventh number, `Lines` is cleared.
 Outcome ExpandSixLetters(State& state, Random& random, std::string_view pattern, int first);
 
 }  // namespace wheels

@@ -7,7 +7,7 @@
 #include "core/text.h"
 #include "wheels/budget_wheels.h"
 #include "wheels/pairs_triplets.h"
-#include "wheels/six_letter_wheels.h"
+#include "wheels/match_wheels.h"
 
 namespace wheels {
 namespace {

@@ -15,7 +15,8 @@
 #include "wheels/budget_wheels.h"
 #include "wheels/pairs_triplets.h"
 #include "wheels/patterns.h"
-#include "wheels/six_letter_wheels.h"
+#include "wheels/guaranteed_wheels.h"
+#include "wheels/match_wheels.h"
 
 namespace {
 

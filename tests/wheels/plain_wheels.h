@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/random.h"
@@ -121,8 +122,36 @@ struct PlainWheel {
         lines[row][1] = 0;
     }
 
+    /// A try of guaranteed wheels: one swap after the other, then the letters.
+    void Guaranteed(Random& random, std::string_view pattern, int numbers) {
+        Mix(random, numbers);
+        SixLetters(random, pattern, 64);
+    }
+
+    /// A try of the wheel of 49 with the table as its file holds it, place 1 first.
+    void Wheel49(Random& random, const std::vector<int>& table) {
+        Mix(random, 49);
+        std::size_t place = 0;
+        for (std::size_t row = 1; row <= 175; ++row) {
+            auto& line = lines[row];
+            for (std::size_t column = 1; column <= 6; ++column) line[column] = Pool(table[place++]);
+            if (picks == 5) line[6] = 0;
+            if (picks == 7) DrawUntilNew(random, line, 7);
+            ExtraBall(random, line);
+        }
+        lines[176][1] = 0;
+        Sort();
+    }
+
   private:
     using Line = std::array<int, 15>;
+
+    void Mix(Random& random, int count) {
+        for (int i = 1; i <= count; ++i) {
+            const int j = static_cast<int>(count * random.Next()) + 1;
+            std::swap(pool[static_cast<std::size_t>(i)], pool[static_cast<std::size_t>(j)]);
+        }
+    }
 
     int Pool(int index) const { return pool.at(static_cast<std::size_t>(index)); }
 
