@@ -23,6 +23,7 @@ constexpr std::array<std::string_view, lastColumn + 1> expectedFields = {
     "the number in column 8 of a draw"};
 
 std::int16_t ReadNumber(FieldReader& reader, std::string_view expected) {
+    if (const auto number = reader.ReadShortNumber()) return *number;
     const std::string_view field = reader.ReadField(expected);
     if (const auto number = LeadingInt16(field)) return *number;
     throw reader.Unexpected(std::string(expected) + " (-32768 to 32767)", field);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/field_reader.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/text.h"
@@ -31,14 +32,24 @@ std::string_view FieldReader::ReadField(std::string_view expected) {
     std::size_t first = quoted ? start + 1 : start;
     std::size_t last = quoted ? quote : position_;
     while (!quoted && last > first && content_[last - 1] == ' ') --last;
-    const bool comma = position_ < content_.size() && content_[position_] == ',';
-    if (comma) {
-        ++position_;
-    } else {
-        PassLineEnd();
-    }
-    fieldPending_ = comma && position_ == content_.size();
+    PassFieldEnd();
     return content_.substr(first, last - first);
+}
+
+std::optional<std::int16_t> FieldReader::ReadShortNumber() {
+    constexpr std::size_t mostDigits = 4;
+    const std::size_t longest = std::min(content_.size(), position_ + mostDigits + 1);
+    std::size_t end = position_;
+    int number = 0;
+    while (end < longest && content_[end] >= '0' && content_[end] <= '9') {
+        number = 10 * number + (content_[end++] - '0');
+    }
+    if (end == position_ || end == longest) return std::nullopt;
+    if (content_[end] != ',' && !IsLineEnd(content_[end])) return std::nullopt;
+    line_ = nextLine_;
+    position_ = end;
+    PassFieldEnd();
+    return static_cast<std::int16_t>(number);
 }
 
 std::string_view FieldReader::ReadLine(std::string_view expected) {
@@ -93,6 +104,16 @@ std::size_t FieldReader::ClosingQuote(std::size_t start) {
     }
     noneCloses_ = i;
     return none;
+}
+
+void FieldReader::PassFieldEnd() {
+    const bool comma = position_ < content_.size() && content_[position_] == ',';
+    if (comma) {
+        ++position_;
+    } else {
+        PassLineEnd();
+    }
+    fieldPending_ = comma && position_ == content_.size();
 }
 
 void FieldReader::PassLineEnd() {

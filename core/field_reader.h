@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -31,6 +33,10 @@ class FieldReader {
     /// `expected`, such as "the number in column 3 of a draw".
     std::string_view ReadField(std::string_view expected);
 
+    /// The next field where it is one to four digits right up to the comma or line end behind it,
+    /// as nearly all fields of a draw database are; else nothing, and nothing is read.
+    std::optional<std::int16_t> ReadShortNumber();
+
     /// The rest of the current line. Throws like `ReadField` at the end of the file.
     std::string_view ReadLine(std::string_view expected);
 
@@ -50,6 +56,7 @@ class FieldReader {
     bool EndsField(std::size_t position) const;
     std::size_t FieldEnd(std::size_t start) const;
     std::size_t ClosingQuote(std::size_t start);
+    void PassFieldEnd();
     void PassLineEnd();
 
     std::string_view content_;

@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "core/text.h"
 #include "tests/core/failures.h"
 
 namespace {
@@ -148,6 +149,29 @@ TEST(FieldReader, ReadsAnEmptyLineBehindACommaAtTheVeryEnd) {
     reader.ReadField("a field");
     EXPECT_EQ(reader.ReadLine("a line"), "");
     EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, ReadsAShortNumberRightUpToItsEnd) {
+    FieldReader reader("7,2000\r\n0\n49,", "a.txt");
+    EXPECT_EQ(reader.ReadShortNumber(), 7);
+    EXPECT_EQ(reader.ReadShortNumber(), 2000);
+    EXPECT_EQ(reader.Line(), 1);
+    EXPECT_EQ(reader.ReadShortNumber(), 0);
+    EXPECT_EQ(reader.Line(), 2);
+    EXPECT_EQ(reader.ReadShortNumber(), 49);
+    EXPECT_EQ(reader.ReadShortNumber(), std::nullopt);
+    EXPECT_EQ(reader.ReadField("more"), "");
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_EQ(reader.Line(), 3);
+}
+
+TEST(FieldReader, LeavesWhatIsNoShortNumberToBeRead) {
+    for (const char* const field : {"12345", " 7", "7 ", "-7", "7.5", "7x", "", "\"7\"", "7"}) {
+        const std::string content = field == std::string("7") ? "7" : field + std::string(",8\r\n");
+        FieldReader reader(content, "a.txt");
+        EXPECT_EQ(reader.ReadShortNumber(), std::nullopt) << content;
+        EXPECT_EQ(reader.ReadField("it"), Trim(field)) << content;
+    }
 }
 
 TEST(FieldReader, GivesAllThatIsLeftAsItStands) {
