@@ -5,7 +5,7 @@
 
 #include "core/date.h"
 
-/// What the locale says about dates, for the core.
+/// What the locale says about dates and money, for the core.
 Region RegionOf(const QLocale& locale);
 
 QDate ToQDate(Date date);

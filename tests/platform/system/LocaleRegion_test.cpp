@@ -5,6 +5,8 @@
 
 #include <QDate>
 
+#include "core/money.h"
+
 namespace {
 
 using Order = Region::Order;
@@ -45,6 +47,37 @@ TEST(RegionOf, ReadsTheFilesOfOtherRegionsInEveryLocale) {
             EXPECT_EQ(ReadDate(DrawDate(date), region, today), date) << locale.name().toStdString();
         }
         EXPECT_EQ(ReadDate("01/01/1970", region, today), std::chrono::January / 1 / 1970);
+    }
+}
+
+TEST(RegionOf, TellsHowMoneyIsWritten) {
+    const auto fiveLost = [](QLocale::Language language, QLocale::Country country) {
+        return CurrencyText(Money::OfPennies(-123450), In(language, country).currency);
+    };
+    EXPECT_EQ(fiveLost(QLocale::English, QLocale::UnitedKingdom),
+              "-\xA3"
+              "1,234.50");
+    EXPECT_EQ(fiveLost(QLocale::English, QLocale::UnitedStates), "-$1,234.50");
+    EXPECT_EQ(fiveLost(QLocale::German, QLocale::Germany), "-1.234,50 \x80");
+    EXPECT_EQ(fiveLost(QLocale::Swedish, QLocale::Sweden), "-1 234,50 kr");
+    EXPECT_EQ(fiveLost(QLocale::French, QLocale::France), "-1 234,50 \x80");
+    EXPECT_EQ(fiveLost(QLocale::Danish, QLocale::Denmark), "-1.234,50 kr");
+    EXPECT_EQ(fiveLost(QLocale::Polish, QLocale::Poland), "-1 234,50 PLN");
+}
+
+TEST(RegionOf, WritesMoneyThatReadsBackInEveryLocale) {
+    for (const QLocale& locale :
+         QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+        const CurrencyForm form = RegionOf(locale).currency;
+        EXPECT_NE(form.decimalPoint, form.groupSeparator) << locale.name().toStdString();
+        for (const std::int64_t pennies : {0, 5, 1250, 99999, -5, -1250}) {
+            const std::string text = CurrencyText(Money::OfPennies(pennies), form);
+            EXPECT_EQ(MoneyInCell(text, form), Money::OfPennies(pennies))
+                << locale.name().toStdString() << " " << text;
+            EXPECT_EQ(text.find('?'), std::string::npos) << locale.name().toStdString();
+            EXPECT_EQ(TypedMoney(WithoutSymbol(text, form), form), Money::OfPennies(pennies))
+                << locale.name().toStdString() << " " << text;
+        }
     }
 }
 
