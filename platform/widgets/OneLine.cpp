@@ -12,34 +12,44 @@ bool EndsLine(QChar character) {
            character == QChar::ParagraphSeparator;
 }
 
+/// The text on one line; `position` moves with what stands before it.
+QString Joined(const QString& input, int& position) {
+    QString line;
+    int newPosition = position;
+    bool ended = false;  // a line end was met and nothing behind it yet
+    for (qsizetype i = 0; i < input.size(); ++i) {
+        if (EndsLine(input[i])) {
+            ended = true;
+            if (i < position) --newPosition;
+            continue;
+        }
+        if (std::exchange(ended, false) && !line.isEmpty()) {
+            line += QLatin1Char(' ');
+            if (i < position) ++newPosition;
+        }
+        line += input[i];
+    }
+    position = newPosition;
+    return line;
+}
+
 /// A text box asks its validator whatever the text comes from: keys, clipboard or mouse.
 class OneLine final : public QValidator {
   public:
     using QValidator::QValidator;
 
     State validate(QString& input, int& position) const override {
-        QString line;
-        int newPosition = position;
-        bool ended = false;  // a line end was met and nothing behind it yet
-        for (qsizetype i = 0; i < input.size(); ++i) {
-            if (EndsLine(input[i])) {
-                ended = true;
-                if (i < position) --newPosition;
-                continue;
-            }
-            if (std::exchange(ended, false) && !line.isEmpty()) {
-                line += QLatin1Char(' ');
-                if (i < position) ++newPosition;
-            }
-            line += input[i];
-        }
-        input = line;
-        position = newPosition;
+        input = Joined(input, position);
         return Acceptable;
     }
 };
 
 }  // namespace
+
+QString OnOneLine(const QString& text) {
+    int position = 0;
+    return Joined(text, position);
+}
 
 void KeepTextBoxesToOneLine(const QWidget& parent) {
     const auto boxes = parent.findChildren<QLineEdit*>();
