@@ -92,6 +92,10 @@ void Grid::SetCellMatch(int row, int column, Match match) { model_->SetMatch(row
 
 Match Grid::CellMatch(int row, int column) const { return model_->MatchOf(row, column); }
 
+void Grid::SetColumnAlignment(int column, Qt::Alignment alignment) {
+    model_->SetAlignment(column, alignment);
+}
+
 void Grid::SetRowsInUse(int rows) {
     if (rowsInUse_ == rows) return;
     rowsInUse_ = rows;

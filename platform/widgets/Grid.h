@@ -67,6 +67,9 @@ class Grid final : public QTableView {
     bool IsDark() const;
     QColor UnusedColour() const;
 
+    /// Where the texts of a column stand, its heading's too; centred where nothing is told.
+    void SetColumnAlignment(int column, Qt::Alignment alignment);
+
     /// Every column as wide as the text "00000000", the grid as wide as told above.
     void SizeColumns();
 

@@ -18,6 +18,7 @@ class GridModel final : public QAbstractTableModel {
     GridModel(int rowCount, int columnCount, QObject* parent)
         : QAbstractTableModel(parent), rows_(rowCount), columns_(columnCount) {
         cells_.resize(Count());
+        alignments_.resize(static_cast<std::size_t>(columnCount), Qt::AlignCenter);
     }
 
     int GridRows() const { return rows_; }
@@ -28,11 +29,11 @@ class GridModel final : public QAbstractTableModel {
         return parent.isValid() ? 0 : columns_;
     }
     QVariant data(const QModelIndex& index, int role) const override {
-        return index.isValid() ? Answer(At(index.row() + 1, index.column()), role) : QVariant();
+        return index.isValid() ? Answer(index.row() + 1, index.column(), role) : QVariant();
     }
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         if (orientation != Qt::Horizontal || section < 0 || section >= columns_) return {};
-        return Answer(At(0, section), role);
+        return Answer(0, section, role);
     }
 
     const QString& Text(int row, int column) const { return At(row, column).text; }
@@ -57,6 +58,11 @@ class GridModel final : public QAbstractTableModel {
         if (cell.match == match) return;
         cell.match = match;
         Changed(row, column, row, column);
+    }
+    void SetAlignment(int column, Qt::Alignment alignment) {
+        static_cast<void>(At(0, column));  // a column outside the grid is a failure
+        alignments_[static_cast<std::size_t>(column)] = alignment | Qt::AlignVCenter;
+        Changed(0, column, rows_ - 1, column);
     }
     void Clear() {
         const auto body = cells_.begin() + std::min<std::ptrdiff_t>(columns_, std::ssize(cells_));
@@ -105,7 +111,8 @@ class GridModel final : public QAbstractTableModel {
     Cell& At(int row, int column) { return cells_[Place(row, column)]; }
     const Cell& At(int row, int column) const { return cells_[Place(row, column)]; }
 
-    static QVariant Answer(const Cell& cell, int role) {
+    QVariant Answer(int row, int column, int role) const {
+        const Cell& cell = At(row, column);
         switch (role) {
             case Qt::DisplayRole:
                 return cell.text;
@@ -116,7 +123,7 @@ class GridModel final : public QAbstractTableModel {
             case Qt::AccessibleTextRole:
                 return SpokenText(cell);
             case Qt::TextAlignmentRole:
-                return QVariant::fromValue(Qt::Alignment(Qt::AlignCenter));
+                return QVariant::fromValue(alignments_[static_cast<std::size_t>(column)]);
             default:
                 return {};
         }
@@ -147,5 +154,6 @@ class GridModel final : public QAbstractTableModel {
     int rows_;
     int columns_;
     std::vector<Cell> cells_;
-    QRect changed_;  // x is the column, y the row
+    std::vector<Qt::Alignment> alignments_;  // by column
+    QRect changed_;                          // x is the column, y the row
 };
