@@ -3,15 +3,16 @@
 
 #include <QItemSelectionModel>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 #include "core/text.h"
 #include "entries/EntryGrid.h"
+#include "platform/forms/GridEditor.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/FilteredBox.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/NumberColours.h"
 
@@ -34,7 +35,7 @@ QString NotSavedYet(int changes) {
 }  // namespace
 
 void ShowMyDrawsW::Load() {
-    entriesChanged_ = 0;
+    entriesChanged_.Clear();
     Skinning(
         QStringLiteral("SkinDatabases.jpg"),
         {.title = {QStringLiteral("Label8")},
@@ -62,19 +63,9 @@ void ShowMyDrawsW::DisplayMyDraws() {
 void ShowMyDrawsW::ShowRowsInUse() { grid_->SetRowsInUse(EntryCount(*grid_)); }
 
 void ShowMyDrawsW::GoToFirstCell() {
-    grid_->SetCurrentCell(1, 1);
+    editor_->GoTo(1, 1);
     grid_->ScrollToTop();
-    EditCurrentCell();
-}
-
-void ShowMyDrawsW::ShowCurrentCell() {
-    item_->setText(grid_->currentIndex().data().toString());
-    item_->selectAll();
-}
-
-void ShowMyDrawsW::EditCurrentCell() {
-    ShowCurrentCell();
-    item_->setFocus();
+    editor_->EditCell();
 }
 
 void ShowMyDrawsW::ToggleButtons() {
@@ -82,7 +73,7 @@ void ShowMyDrawsW::ToggleButtons() {
 }
 
 void ShowMyDrawsW::MarkChanged() {
-    entriesChanged_ = -1;
+    entriesChanged_.Set();
     if (!checkSummary_->text().isEmpty()) TellCheck(tr("Changed since the check"));
 }
 
@@ -210,23 +201,19 @@ void ShowMyDrawsW::Save() {
     } else if (folder().Exists(savedEntriesFile)) {
         folder().Delete(savedEntriesFile);
     }
-    grid_->SetCurrentCell(1, 1);
-    EditCurrentCell();
+    editor_->GoTo(1, 1);
+    editor_->EditCell();
     // Kept on purpose: an empty table is not counted as saved.
-    if (!entries.empty()) entriesChanged_ = 0;
+    if (!entries.empty()) entriesChanged_.Clear();
     Say(Counted(EntryCount(*grid_), tr("There are no entries left to save"), tr("1 entry saved"),
                 tr("%1 entries saved")));
 }
 
 void ShowMyDrawsW::Close() {
-    if (entriesChanged_ != 0) {
-        const Answer answer =
-            services().messages.Show(this, {.title = tr("Close window"),
-                                            .text = tr("Close without saving changes?    "),
-                                            .sign = Sign::Question,
-                                            .buttons = Buttons::YesNo,
-                                            .discards = true});
-        if (answer == Answer::No) return;
-    }
-    Unload();
+    const Message question{.title = tr("Close window"),
+                           .text = tr("Close without saving changes?    "),
+                           .sign = Sign::Question,
+                           .buttons = Buttons::YesNo,
+                           .discards = true};
+    if (entriesChanged_.MayClose(services().messages, this, question)) Unload();
 }

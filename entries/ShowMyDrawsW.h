@@ -5,14 +5,16 @@
 
 #include "entries/check_entries.h"
 #include "entries/entry_table.h"
+#include "platform/forms/Dirty.h"
 #include "platform/forms/Form.h"
 
 enum class Command;
 class DatePicker;
+class FilteredBox;
 class Grid;
+class GridEditor;
 class QLabel;
 class QLayout;
-class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
@@ -53,8 +55,6 @@ class ShowMyDrawsW final : public Form {
     void DisplayMyDraws();
     void ShowRowsInUse();
     void GoToFirstCell();
-    void ShowCurrentCell();
-    void EditCurrentCell();
     void MarkChanged();
 
     void ChangeItem();
@@ -84,11 +84,12 @@ class ShowMyDrawsW final : public Form {
     void Close();
 
     EntryTable entryTable_{"saved entries"};
-    int entriesChanged_ = 0;  // 0 or -1
+    Dirty entriesChanged_;
     double nextMessages_ = 0;
 
     Grid* grid_;
-    QLineEdit* item_;
+    FilteredBox* item_;
+    GridEditor* editor_;
     DatePicker* date_;
     QPlainTextEdit* report_;
     QWidget* colourKey_;

@@ -3,7 +3,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -11,9 +10,11 @@
 #include "entries/MatchLooks.h"
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/forms/GridEditor.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
+#include "platform/widgets/FilteredBox.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Widgets.h"
 
@@ -75,12 +76,7 @@ QWidget* ShowMyDrawsW::MakeGrid(const QLabel& title) {
     grid_->SetColumnWidths({widthOf("------DATE--------"), number, number, number, number, number,
                             number, number, number, widthOf("--------LOTTERY NAME---------"),
                             widthOf("-----PLAYER NAME---------"), widthOf("----dbase000.txt----")});
-    grid_->ShowEditedCell();
     grid_->setMinimumHeight(6 * grid_->verticalHeader()->defaultSectionSize());
-    // A click or Enter leads to the edit box; the arrow keys stay in the grid.
-    connect(grid_, &Grid::cellClicked, this, [this] { ShowCurrentCell(); });
-    connect(grid_, &Grid::clicked, this, [this] { EditCurrentCell(); });
-    connect(grid_, &Grid::activated, this, [this] { EditCurrentCell(); });
     return grid_;
 }
 
@@ -122,10 +118,13 @@ QLayout* ShowMyDrawsW::MakeCommands() {
 
 std::vector<QWidget*> ShowMyDrawsW::MakeItemRow() {
     QLabel* title = MakeLabel(QStringLiteral("Label2"), tr("Item:"));
-    item_ = Titled(title, Named(new QLineEdit, QStringLiteral("Text1")));
+    item_ = Titled(title, Named(new FilteredBox, QStringLiteral("Text1")));
     QPushButton* enter = MakeCommand(QStringLiteral("Command10"), tr("Enter"),
                                      tr(" Change cell value "), &ShowMyDrawsW::ChangeItem);
-    connect(item_, &QLineEdit::returnPressed, enter, &QPushButton::click);
+    // A click or Enter leads to the edit box; the arrow keys stay in the grid.
+    editor_ = new GridEditor(*grid_, *item_, *enter);
+    connect(editor_, &GridEditor::cellChanged, this, [this] { editor_->ShowCell(); });
+    connect(editor_, &GridEditor::editRequested, this, [this] { editor_->EditCell(); });
     return {title, item_, enter};
 }
 
