@@ -7,7 +7,8 @@ packages=(
     g++ cmake ninja-build
     qt6-base-dev qt6-svg-dev qt6-qpa-plugins libqcustomplot-dev
     libgtest-dev librapidcheck-dev libbenchmark-dev
-    breeze-icon-theme fonts-dejavu-core xdg-utils
+    breeze-icon-theme fonts-dejavu-core fonts-liberation xdg-utils
+    poppler-utils  # tests read printed pages back with it
 )
 
 # Builds of several presets share what they can, where ccache is there; precompiled headers are
