@@ -51,32 +51,6 @@ QColor SettingColour(const State& state, setting::Slot slot) {
 
 bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
 
-/// All of a form's colours from its background, so that inputs and buttons fit to it whatever the
-/// desktop's theme.
-QPalette PaletteOn(const QColor& background) {
-    const bool dark = IsDark(background);
-    const QColor text = dark ? QColor(0xf2, 0xf2, 0xf2) : QColor(0x1a, 0x1a, 0x1a);
-    const QColor base = dark ? background.darker(130) : QColor(Qt::white);
-    QPalette palette(background, background);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        palette.setColor(role, text);
-        QColor faint = text;
-        faint.setAlpha(120);
-        palette.setColor(QPalette::Disabled, role, faint);
-    }
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, background);
-    palette.setColor(QPalette::Disabled, QPalette::Base, background);
-    palette.setColor(QPalette::BrightText, text);
-    QColor placeholder = text;
-    placeholder.setAlpha(140);
-    palette.setColor(QPalette::PlaceholderText, placeholder);
-    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x6f, 0xb8));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x1b, 0x5e, 0xa8));
-    return palette;
-}
-
 QLabel& LabelOf(const QWidget& form, const QString& name) {
     auto* label = form.findChild<QLabel*>(name);
     if (label == nullptr) {
@@ -111,6 +85,30 @@ QPixmap Covering(const QPixmap& picture, const QSize& size, qreal ratio, const Q
 }
 
 }  // namespace
+
+QPalette PaletteOn(const QColor& background) {
+    const bool dark = IsDark(background);
+    const QColor text = dark ? QColor(0xf2, 0xf2, 0xf2) : QColor(0x1a, 0x1a, 0x1a);
+    const QColor base = dark ? background.darker(130) : QColor(Qt::white);
+    QPalette palette(background, background);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, text);
+        QColor faint = text;
+        faint.setAlpha(120);
+        palette.setColor(QPalette::Disabled, role, faint);
+    }
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, background);
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
+    palette.setColor(QPalette::BrightText, text);
+    QColor placeholder = text;
+    placeholder.setAlpha(140);
+    palette.setColor(QPalette::PlaceholderText, placeholder);
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x6f, 0xb8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, dark ? QColor(0x8a, 0xbf, 0xff) : QColor(0x1b, 0x5e, 0xa8));
+    return palette;
+}
 
 QColor ToQColor(Colour colour) {
     const auto known = Known(colour);

@@ -26,6 +26,10 @@ SkinChoice SkinChoiceOf(const State& state);
 /// holds no picture is a `Failure`.
 QPixmap SkinPicture(const State& state, const ProgramFolder& folder, const QString& pictureFile);
 
+/// All of a form's colours from its background, so that inputs and buttons fit to it whatever the
+/// desktop's theme.
+QPalette PaletteOn(const QColor& background);
+
 /// Gives the form's palette the background colour of the settings, with text that can be read on
 /// it, and the labels theirs; or takes both back where colours are switched off. A label that the
 /// form does not have is a `Failure`.

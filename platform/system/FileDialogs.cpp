@@ -2,6 +2,7 @@
 #include "platform/system/FileDialogs.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>

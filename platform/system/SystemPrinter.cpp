@@ -2,6 +2,7 @@
 #include "platform/system/SystemPrinter.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QLibrary>
 #include <QPageLayout>
 #include <QPrintDialog>
