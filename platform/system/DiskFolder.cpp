@@ -65,24 +65,34 @@ std::vector<std::array<std::string, 2>> TellableNames(const std::string& folder)
 
 std::string BytesOnDisk(const QString& name) { return QFile::encodeName(name).toStdString(); }
 
-bool IsThere(const std::string& path) {
-    const QFileInfo info(QFile::decodeName(path.c_str()));
-    return info.exists() || info.isSymLink();
-}
-
-bool IsDirectory(const std::string& path) {
-    return QFileInfo(QFile::decodeName(path.c_str())).isDir();
-}
+bool IsDirectory(const std::string& path) { return EntryAt(path) == Entry::Folder; }
 
 // The path of an entry as it is spelled, or of one that differs from it in case only.
 std::string EntryPath(const std::string& folder, std::string_view name) {
     const std::string spelled = folder + '/' + BytesOnDisk(ToQString(name));
-    if (IsThere(spelled) || !IsDirectory(folder)) return spelled;
+    if (HasEntry(spelled) || !IsDirectory(folder)) return spelled;
     const std::string wanted = LowerCase(name);
     for (const auto& [told, onDisk] : TellableNames(folder)) {
         if (LowerCase(told) == wanted) return folder + '/' + onDisk;
     }
     return spelled;
+}
+
+std::vector<std::string> FilesLike(const std::string& root, std::string_view pattern) {
+    const NameParts parts = PartsOf(pattern);
+    const std::string folder = parts.folder.empty() ? root : EntryPath(root, parts.folder);
+    std::vector<std::string> found;
+    if (!IsDirectory(folder)) return found;
+    for (const auto& [name, onDisk] : TellableNames(folder)) {
+        if (!NameMatches(name, parts.file) || IsUnfinishedFile(name)) continue;
+        if (EntryAt(folder + '/' + onDisk) != Entry::File) continue;
+        found.push_back((parts.folder.empty() ? "" : std::string(parts.folder) + '/') + name);
+    }
+    std::stable_sort(found.begin(), found.end(),
+                     [](const std::string& one, const std::string& other) {
+                         return LowerCase(one) < LowerCase(other);
+                     });
+    return found;
 }
 
 void ClearUnfinishedFiles(const std::string& folder) {
@@ -107,8 +117,8 @@ std::string DiskFolder::PathOf(std::string_view name) const {
 
 bool DiskFolder::Exists(std::string_view name) const {
     if (!IsWithin(name)) return false;
-    const std::string path = Try(name, "looked for", [&] { return PathOf(name); });
-    return QFileInfo::exists(QFile::decodeName(path.c_str())) && !IsDirectory(path);
+    const Entry entry = Try(name, "looked for", [&] { return EntryAt(PathOf(name)); });
+    return entry != Entry::None && entry != Entry::Folder;
 }
 
 std::string DiskFolder::Read(std::string_view name) const {
@@ -124,22 +134,7 @@ void DiskFolder::Append(std::string_view name, std::string_view records) {
 }
 
 std::vector<std::string> DiskFolder::Find(std::string_view pattern) const {
-    const NameParts parts = PartsOf(pattern);
-    const std::string root = BytesOnDisk(path_);
-    const std::string folder = parts.folder.empty() ? root : EntryPath(root, parts.folder);
-    std::vector<std::string> found;
-    if (!IsDirectory(folder)) return found;
-    const auto names = Try(pattern, "looked for", [&] { return TellableNames(folder); });
-    for (const auto& [name, onDisk] : names) {
-        if (!NameMatches(name, parts.file) || IsUnfinishedFile(name)) continue;
-        if (!QFileInfo(QFile::decodeName((folder + '/' + onDisk).c_str())).isFile()) continue;
-        found.push_back((parts.folder.empty() ? "" : std::string(parts.folder) + '/') + name);
-    }
-    std::stable_sort(found.begin(), found.end(),
-                     [](const std::string& one, const std::string& other) {
-                         return LowerCase(one) < LowerCase(other);
-                     });
-    return found;
+    return Try(pattern, "looked for", [&] { return FilesLike(BytesOnDisk(path_), pattern); });
 }
 
 void DiskFolder::Copy(std::string_view from, std::string_view to) {

@@ -29,6 +29,17 @@ void Check(int result) {
     if (result == -1) Fail(errno);
 }
 
+using Look = int (*)(const char* path, struct stat* status);
+
+// Nothing where nothing is. Any other failure to look leaves open whether there is something, and
+// must never count as absence: what is not there gets written anew.
+std::optional<mode_t> ModeAt(const std::string& path, Look look) {
+    struct stat status {};
+    if (look(path.c_str(), &status) == 0) return status.st_mode;
+    if (errno != ENOENT && errno != ENOTDIR) Fail(errno);
+    return std::nullopt;
+}
+
 // An open file, closed at the latest when it goes.
 class Descriptor {
   public:
@@ -144,6 +155,15 @@ class UnfinishedFile {
 };
 
 }  // namespace
+
+Entry EntryAt(const std::string& path) {
+    const std::optional<mode_t> mode = ModeAt(path, ::stat);
+    if (!mode) return Entry::None;
+    if (S_ISDIR(*mode)) return Entry::Folder;
+    return S_ISREG(*mode) ? Entry::File : Entry::Other;
+}
+
+bool HasEntry(const std::string& path) { return ModeAt(path, ::lstat).has_value(); }
 
 std::string ReadWholeFile(const std::string& path) {
     const Descriptor file(path, O_RDONLY | O_NONBLOCK);

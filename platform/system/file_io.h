@@ -12,6 +12,16 @@ struct FileError {
     std::string reason;
 };
 
+/// What a path leads to, links followed.
+enum class Entry { None, File, Folder, Other };
+
+/// What is at a path. `None` is only what the system knows not to be there; where it cannot tell, as
+/// on a disk that does not answer, it fails.
+Entry EntryAt(const std::string& path);
+
+/// Whether there is anything of that name, be it a link that leads nowhere; fails like `EntryAt`.
+bool HasEntry(const std::string& path);
+
 /// The bytes of a regular file of at most 64 MiB.
 std::string ReadWholeFile(const std::string& path);
 

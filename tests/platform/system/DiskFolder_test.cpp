@@ -17,8 +17,8 @@
 #include <memory>
 #include <sstream>
 
-#include "core/settings.h"
 #include "core/saved_entries.h"
+#include "core/settings.h"
 #include "platform/system/TextConversion.h"
 #include "shell/notes_file.h"
 #include "tests/core/failures.h"
@@ -311,6 +311,41 @@ TEST_F(OnDisk, FailsInAFolderThatMayNotBeWritten) {
     }
     ASSERT_EQ(chmod(path_.c_str(), 0755), 0);
     EXPECT_EQ(Snapshot(), before);
+}
+
+// What cannot be looked for may be there, and must not be written anew.
+TEST_F(OnDisk, DoesNotTakeAFileThatCannotBeLookedForAsAbsent) {
+    folder_.Write("MyLottery.txt", "old\r\n");
+    folder_.MakeFolder("Backup");
+    folder_.Write("Backup/MyLottery.txt", "older\r\n");
+    const Files before = Snapshot();
+    ASSERT_EQ(chmod(path_.c_str(), 0000), 0);
+    {
+        const OrdinaryUser user;
+        const std::string denied = " could not be looked for: Permission denied.";
+        EXPECT_EQ(FailureOf([&] { folder_.Exists("MyLottery.txt"); }), "MyLottery.txt" + denied);
+        EXPECT_EQ(FailureOf([&] { folder_.FolderExists("Backup"); }), "Backup" + denied);
+        EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }), "dbase*.txt" + denied);
+        EXPECT_EQ(FailureOf([&] { folder_.Find("Backup/*.txt"); }), "Backup/*.txt" + denied);
+        EXPECT_THROW(folder_.Append("MyLottery.txt", "new\r\n"), Failure);
+    }
+    ASSERT_EQ(chmod(path_.c_str(), 0755), 0);
+    EXPECT_EQ(Snapshot(), before);
+}
+
+TEST_F(OnDisk, DoesNotTakeALinkToItselfAsAbsent) {
+    fs::create_symlink("dbase1.txt", path_ / "dbase1.txt");
+    const std::string reason = " could not be looked for: Too many levels of symbolic links.";
+    EXPECT_EQ(FailureOf([&] { folder_.Exists("dbase1.txt"); }), "dbase1.txt" + reason);
+    EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }), "dbase*.txt" + reason);
+    EXPECT_EQ(folder_.Find("*.ini"), Names{});
+}
+
+TEST_F(OnDisk, FindsNothingInAFolderThatIsNotThere) {
+    EXPECT_EQ(folder_.Find("Backup/*.txt"), Names{});
+    folder_.Write("Backup", "a file");
+    EXPECT_EQ(folder_.Find("Backup/*.txt"), Names{});
+    EXPECT_FALSE(folder_.Exists("Backup/a.txt"));
 }
 
 TEST_F(OnDisk, DoesNotReplaceAFileThatMayNotBeWritten) {
