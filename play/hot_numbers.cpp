@@ -3,7 +3,6 @@
 
 #include <utility>
 
-#include "core/frequency.h"
 #include "core/lines.h"
 
 namespace {
@@ -27,22 +26,27 @@ TenNumbers FirstOfPool(const State& state) {
     return numbers;
 }
 
-void AddExtraBalls(State& state, Counts& counts, Mode mode) {
-    RankIntoPool(state, counts, state.MaxPball, mode);
+}  // namespace
+
+std::string hot_numbers::RankMainNumbers(State& state, NumberCounts& counts, Mode mode) {
+    CountNumbers(state, counts);
+    RankIntoPool(state, counts.MainCount, state.MaxNum, mode);
+    return TenNumbersText(FirstOfPool(state));
+}
+
+void hot_numbers::AddExtraBalls(State& state, NumberCounts& counts, Mode mode) {
+    if (state.MaxPball == 0) return;
+    RankIntoPool(state, counts.ExtraCount, state.MaxPball, mode);
     for (int line = 1; line <= lineCount; ++line) {
         state.Lines(line, extraColumn) = state.Pool(line);
     }
 }
 
-}  // namespace
-
 std::string hot_numbers::PlayLotto(State& state, Random& random, Mode mode) {
     NumberCounts counts;
-    CountNumbers(state, counts);
-    RankIntoPool(state, counts.MainCount, state.MaxNum, mode);
-    const std::string text = TenNumbersText(FirstOfPool(state));
+    const std::string text = RankMainNumbers(state, counts, mode);
     AddToGrid(state, random);
-    if (state.MaxPball != 0) AddExtraBalls(state, counts.ExtraCount, mode);
+    AddExtraBalls(state, counts, mode);
     return text;
 }
 

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "core/frequency.h"
 #include "core/random.h"
 #include "core/state.h"
 
@@ -10,6 +11,15 @@ namespace hot_numbers {
 
 /// Whether the numbers drawn most often or those drawn least often are wanted.
 enum class Mode { Hot, Cold };
+
+/// Counts the draw history into `counts`, ranks the main numbers into `Pool`, and returns the ten
+/// first as they are shown, in rank order.
+std::string RankMainNumbers(State& state, NumberCounts& counts, Mode mode);
+
+/// Where the lottery has an extra ball, ranks the extra balls counted into `Pool` and gives lines 1
+/// to 10 one each by rank; with fewer than ten extra balls the lines behind them get what `Pool`
+/// held there before.
+void AddExtraBalls(State& state, NumberCounts& counts, Mode mode);
 
 /// Ranks the main numbers of the draw history, makes ten sorted lines out of the ten first, and
 /// returns these ten as they are shown, in rank order.

@@ -6,8 +6,9 @@
 #include "core/failure.h"
 #include "core/text.h"
 #include "wheels/budget_wheels.h"
-#include "wheels/pairs_triplets.h"
 #include "wheels/match_wheels.h"
+#include "wheels/pairs_triplets.h"
+#include "wheels/ring_wheels.h"
 
 namespace wheels {
 namespace {
@@ -50,7 +51,7 @@ constexpr auto forms = std::to_array<WheelFormRules>({
     {.form = "PDIYWheels",
      .skin = {.small = {"Label1", "Label9", "Label10", "Label5"}, .status = {}},
      .busy = careless,
-     .boxes = {.count = 20,
+     .boxes = {.count = own_wheels::boxCount,
                .keys = BoxKeys::DigitsAndEnter,
                .unusedDisabled = true,
                .accepts = IsAboveZero,

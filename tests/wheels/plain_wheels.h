@@ -143,7 +143,7 @@ struct PlainWheel {
         Sort();
     }
 
-  private:
+  protected:
     using Line = std::array<int, 15>;
 
     void Mix(Random& random, int count) {
