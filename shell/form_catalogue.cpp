@@ -22,6 +22,8 @@
 #include "play/PLuckyNumbers.h"
 #include "play/PStarSign.h"
 #include "wheels/PBudgetWheel.h"
+#include "wheels/PDIYWheels.h"
+#include "wheels/PHotWheels.h"
 #include "wheels/PWheel2.h"
 #include "wheels/PWheel3.h"
 
@@ -93,15 +95,18 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "Play2Key", .form = "P2KeyNum", .make = Make<P2KeyNum>},
     {.menuEntry = "Play3Key", .form = "P3KeyNum", .make = Make<P3KeyNum>},
     {.menuEntry = "PlayBudgetWheels", .form = "PBudgetWheel", .make = Make<PBudgetWheel>},
-    {.menuEntry = "PlayColdWheels", .form = "PHotWheels", .prepare = SelectSecondOption},
-    {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels"},
+    {.menuEntry = "PlayColdWheels",
+     .form = "PHotWheels",
+     .make = Make<PHotWheels>,
+     .prepare = SelectSecondOption},
+    {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels", .make = Make<PDIYWheels>},
     {.menuEntry = "PlayGuarantee3", .form = "PThreeMatch"},
     {.menuEntry = "PlayGuarantee4",
      .form = "PThreeMatch",
      .prepare = SelectSecondOption,
      .messageRuns = 0},
     {.menuEntry = "PlayGuaranteed", .form = "PGuaranteed"},
-    {.menuEntry = "PlayHotWheels", .form = "PHotWheels"},
+    {.menuEntry = "PlayHotWheels", .form = "PHotWheels", .make = Make<PHotWheels>},
     {.menuEntry = "PlayWheel49", .form = "Wheel49"},
     {.menuEntry = "PlayWheel2", .form = "PWheel2", .make = Make<PWheel2>},
     {.menuEntry = "PlayWheel3", .form = "PWheel3", .make = Make<PWheel3>},

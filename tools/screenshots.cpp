@@ -5,6 +5,7 @@
 // British English, so that a picture changes only when the form does.
 #include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLineEdit>
@@ -148,6 +149,10 @@ void Use(Form& form, bool hasSamples) {
     } else if (name == QLatin1String("PWheel2") || name == QLatin1String("PWheel3") ||
                name == QLatin1String("PBudgetWheel")) {
         Find<QAbstractButton>(form, QStringLiteral("Option1(2)"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+    } else if (name == QLatin1String("PDIYWheels")) {
+        Find<QComboBox>(form, QStringLiteral("Combo1"))->setCurrentIndex(6);
         Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     } else if (name == QLatin1String("SaveEntries")) {

@@ -88,6 +88,20 @@ TEST_F(WheelJourney, SavesTheExtraBalls) {
     EXPECT_EQ(test_.folder.Read("MyLottery.txt"), expected);
 }
 
+TEST_F(WheelJourney, SavesAColdWheelAsItOpens) {
+    InForm("PlayColdWheels", [](QDialog& form) {
+        EXPECT_EQ(form.windowTitle(), QStringLiteral("Cold wheels"));
+        Find<ListBox>(form, lotteryList)->SetIndex(1);
+        Find<ComboList>(form, "Combo2")->SetIndex(4);
+        Click(form, generateButton);
+        SaveAs(form, QStringLiteral("Ann"));
+        Click(form, closeButton);
+    });
+    EXPECT_EQ(test_.folder.Read("MyLottery.txt"),
+              "01-Jun-2005,2,3,5,6,7,,,1,UK Thunderball,Ann,dbase101.txt\r\n"
+              "01-Jun-2005,1,6,7,8,10,,,2,UK Thunderball,Ann,dbase101.txt\r\n");
+}
+
 TEST_F(WheelJourney, HasNothingToSaveAfterARefusalAtFirst) {
     InForm("PlayWheel2", [this](QDialog& form) {
         test_.messages.Expect({.title = QStringLiteral("Error"),

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QAbstractItemView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -102,6 +103,24 @@ class WheelFormTest : public LinesFormTest {
                 EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
             }
         }
+    }
+
+    ComboList& Combo(const char* name) { return *Find<ComboList>(*form_, name); }
+
+    /// Chooses from the opened list, so that the entry chosen already counts too.
+    void ChooseFromPopup(const char* name, int index) {
+        ComboList& list = Combo(name);
+        list.showPopup();
+        list.view()->setCurrentIndex(list.model()->index(index, 0));
+        QTest::keyClick(list.view(), Qt::Key_Return);
+    }
+
+    QStringList Items(const char* name) {
+        QStringList items;
+        for (int index = 0; index < Combo(name).count(); ++index) {
+            items << Combo(name).itemText(index);
+        }
+        return items;
     }
 
     /// Types 1 to `count` into the first boxes.
