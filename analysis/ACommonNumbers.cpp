@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QRadioButton>
 
+#include "analysis/AnalysisPieces.h"
 #include "analysis/common_numbers.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Chart.h"
@@ -41,13 +42,9 @@ AnalysisFormText Words() {
 }
 
 void ShowCounts(Chart& chart, const Counts& counts, int rows) {
+    SetNumbers(chart, counts, rows);
     double sum = 0;
-    chart.SetRowCount(rows);
-    for (int number = 1; number <= rows; ++number) {
-        chart.SetRowLabel(number, QString::number(number));
-        chart.SetValue(number, 1, counts(number));
-        sum += counts(number);
-    }
+    for (int number = 1; number <= rows; ++number) sum += counts(number);
     chart.SetRankedRows({});
     chart.SetAverage(rows > 0 ? std::optional(sum / rows) : std::nullopt);
     chart.Refresh();

@@ -82,9 +82,12 @@ QLabel* AnalysisForm::AddPrompt(const QString& name, const QString& text) {
     return MakeLabel(name, text, this);
 }
 
-QLabel* AnalysisForm::AddExplanation(const QString& name, const QString& text) {
+QLabel* AnalysisForm::AddExplanation(const QString& name, const QString& text, int leastWidth) {
     explanations_ += name;
-    return MakeBody(name, text, this);
+    QLabel* label = MakeBody(name, text, this);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setMinimumSize(leastWidth, label->heightForWidth(leastWidth));
+    return label;
 }
 
 void AnalysisForm::ApplySkin() {

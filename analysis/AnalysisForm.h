@@ -67,8 +67,9 @@ class AnalysisForm : public Form {
     /// A small label before an input; it takes the skin's colour of small labels.
     QLabel* AddPrompt(const QString& name, const QString& text);
 
-    /// A further text that explains what is shown; it takes the skin's colour of texts.
-    QLabel* AddExplanation(const QString& name, const QString& text);
+    /// A further text that explains what is shown; it takes the skin's colour of texts. From
+    /// `leastWidth` on it has room for all its lines.
+    QLabel* AddExplanation(const QString& name, const QString& text, int leastWidth);
 
     ListBox& Lotteries() const { return *lotteries_; }  ///< Only where there is a list.
 

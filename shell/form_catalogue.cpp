@@ -5,7 +5,11 @@
 #include <algorithm>
 #include <array>
 
+#include "analysis/AAverages.h"
 #include "analysis/ACommonNumbers.h"
+#include "analysis/AOddEven.h"
+#include "analysis/ARange.h"
+#include "analysis/ASums.h"
 #include "databases/CreateDbase.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/DeleteDbaseW.h"
@@ -74,12 +78,12 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .form = "ACommonNumbers",
      .make = Make<ACommonNumbers>,
      .prepare = SelectSecondOption},
-    {.menuEntry = "AnalysisSums", .form = "ASums"},
-    {.menuEntry = "AnalyseLowHigh", .form = "ASums"},
-    {.menuEntry = "AnalysisAverages", .form = "AAverages"},
-    {.menuEntry = "AnalyseRange", .form = "ARange"},
+    {.menuEntry = "AnalysisSums", .form = "ASums", .make = Make<ASums>},
+    {.menuEntry = "AnalyseLowHigh", .form = "ASums", .make = Make<ASums>},
+    {.menuEntry = "AnalysisAverages", .form = "AAverages", .make = Make<AAverages>},
+    {.menuEntry = "AnalyseRange", .form = "ARange", .make = Make<ARange>},
     {.menuEntry = "AnalyseNumStats", .form = "ANumberStats"},
-    {.menuEntry = "AnalyseOddEven", .form = "AOddEven"},
+    {.menuEntry = "AnalyseOddEven", .form = "AOddEven", .make = Make<AOddEven>},
     {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm"},
     {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
 

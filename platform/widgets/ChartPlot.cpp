@@ -110,30 +110,42 @@ void ChartPlot::DrawHeading() {
     heading_->setVisible(!figures_.title.isEmpty());
 }
 
-// Names of series stand between title and drawing, in one line.
+// Names of series stand between title and drawing, in the middle of a line of their own.
 void ChartPlot::DrawLegend() {
-    if (legend_ != nullptr) {
-        plot_->plotLayout()->remove(legend_);
+    if (legendLine_ != nullptr) {
+        plot_->plotLayout()->remove(legendLine_);
         plot_->plotLayout()->simplify();
-        legend_ = nullptr;
+        legendLine_ = nullptr;
     }
     const bool named = std::ranges::any_of(figures_.columnLabels,
                                            [](const QString& name) { return !name.isEmpty(); });
     if (!named || figures_.ColumnsAreApart() || figures_.Columns() < 2) return;
-    legend_ = new QCPLegend;
+    legendLine_ = new QCPLayoutGrid;
     const int row = heading_ == nullptr ? 0 : 1;
     plot_->plotLayout()->insertRow(row);
-    plot_->plotLayout()->addElement(row, 0, legend_);
-    legend_->setLayer(QStringLiteral("legend"));
-    legend_->setFillOrder(QCPLayoutGrid::foColumnsFirst);
-    legend_->setBorderPen(Qt::NoPen);
-    legend_->setBrush(Qt::NoBrush);
-    legend_->setFont(plot_->font());
-    legend_->setTextColor(ShadesOf(drawnDark_).text);
-    legend_->setMaximumSize(QWIDGETSIZE_MAX, legend_->minimumOuterSizeHint().height());
+    plot_->plotLayout()->addElement(row, 0, legendLine_);
+    auto* legend = new QCPLegend;
+    legendLine_->addElement(0, 0, new QCPLayoutElement);
+    legendLine_->addElement(0, 1, legend);
+    legendLine_->addElement(0, 2, new QCPLayoutElement);
+    FillLegend(*legend);
+    legendLine_->setMaximumSize(QWIDGETSIZE_MAX, legend->minimumOuterSizeHint().height());
+}
+
+void ChartPlot::FillLegend(QCPLegend& legend) {
+    const int height = QFontMetrics(plot_->font()).height();
+    legend.setLayer(QStringLiteral("legend"));
+    legend.setFillOrder(QCPLayoutGrid::foColumnsFirst);
+    legend.setColumnSpacing(height);
+    legend.setIconSize(2 * height, height);
+    legend.setBorderPen(Qt::NoPen);
+    legend.setBrush(Qt::NoBrush);
+    legend.setFont(plot_->font());
+    legend.setTextColor(ShadesOf(drawnDark_).text);
     for (int i = 0; i < plot_->plottableCount(); ++i) {
-        legend_->addItem(new QCPPlottableLegendItem(legend_, plot_->plottable(i)));
+        legend.addItem(new QCPPlottableLegendItem(&legend, plot_->plottable(i)));
     }
+    legend.setMaximumSize(legend.minimumOuterSizeHint());
 }
 
 void ChartPlot::DrawAxes() {
@@ -221,6 +233,7 @@ void ChartPlot::FitLabels(int width) {
         const auto shown = static_cast<int>(shownLabels_.size());
         labels->addTick(place, Staggered(shownLabels_.back(), shown, rows));
     }
+    plot_->xAxis->setTickLabels(widest > 0);
     plot_->xAxis->setTickLabelFont(font);
     plot_->xAxis->setTicker(labels);
 }

@@ -7,6 +7,7 @@
 
 class ChartFigures;
 struct BarLook;
+class QCPLayoutGrid;
 class QCPLegend;
 class QCPTextElement;
 class QCustomPlot;
@@ -54,6 +55,7 @@ class ChartPlot {
     auto InLight(const Drawing& drawing);
     void DrawHeading();
     void DrawLegend();
+    void FillLegend(QCPLegend& legend);
     void DrawAxes();
     void DrawTicks();
     void DrawBars(int column);
@@ -63,7 +65,7 @@ class ChartPlot {
     const ChartFigures& figures_;
     QCustomPlot* plot_;
     QCPTextElement* heading_ = nullptr;
-    QCPLegend* legend_ = nullptr;
+    QCPLayoutGrid* legendLine_ = nullptr;
     QStringList shownLabels_;
     bool dark_ = false;       // of the window
     bool drawnDark_ = false;  // of the drawing at this moment

@@ -16,5 +16,16 @@ inline HotColdColours ColoursOfMode(bool cold) {
     return {.words = 0xc00000, .pattern = 0xff0000, .bars = 0x800000};
 }
 
+/// The blue of odd numbers, dark where printed without colours.
+inline QColor OddColour() { return QColor(0x1c3f94); }
+
+/// The green of even numbers: a lighter tone than the blue, and a pattern, tell it to every eye.
+struct EvenNumberColours {
+    QColor bars;
+    QColor pattern;
+};
+
+inline EvenNumberColours EvenColours() { return {.bars = 0x57b865, .pattern = 0x1f6b2c}; }
+
 /// Dark red, the colour of the extra or bonus ball in a grid.
 inline QColor ExtraBallColour() { return QColor(0xa00000); }
