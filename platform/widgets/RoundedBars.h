@@ -32,9 +32,7 @@ class RoundedBars final : public QCPBars {
     }
 
     void drawLegendIcon(QCPPainter* painter, const QRectF& place) const override {
-        const QRectF square(place.center().x() - place.height() / 2, place.top(), place.height(),
-                            place.height());
-        if (!looks_.empty()) DrawBar(painter, square.adjusted(2, 2, -2, -2), looks_.front());
+        if (!looks_.empty()) DrawBar(painter, place.adjusted(0, 2, 0, -2), looks_.front());
     }
 
   private:
