@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "core/saved_entries.h"
+#include "platform/forms/ScrollingBody.h"
 #include "platform/forms/Skin.h"
 #include "shell/InfoPanels.h"
 #include "shell/Toolbar.h"
@@ -20,12 +21,16 @@ MainArea::MainArea(Program& program, QWidget* parent)
     : QWidget(parent),
       program_(program),
       toolbar_(new Toolbar(program.services.region, this)),
-      panels_(new InfoPanels(program, this)) {
+      body_(new ScrollingBody(this)),
+      panels_(new InfoPanels(program, &body_->Content())) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(toolbar_, 0, Qt::AlignTop);
-    layout->addWidget(panels_, 1);
+    layout->addWidget(body_, 1);
+    auto* content = new QVBoxLayout(&body_->Content());
+    content->setContentsMargins(0, 0, 0, 0);
+    content->addWidget(panels_, 1);
     // Wherever the mouse moves but on a picture, the pictures lose their border.
     setMouseTracking(true);
 }
@@ -63,10 +68,11 @@ void MainArea::CompletePainting() {
 
 void MainArea::ShowWelcome(bool shown) {
     if (shown && welcome_ == nullptr) {
-        welcome_ = new Welcome(this);
+        QWidget& content = body_->Content();
+        welcome_ = new Welcome(&content);
         connect(welcome_, &Welcome::stepChosen, this, &MainArea::stepChosen);
         connect(welcome_, &Welcome::drawWanted, this, &MainArea::drawWanted);
-        qobject_cast<QVBoxLayout*>(layout())->insertWidget(1, welcome_, 1, Qt::AlignCenter);
+        qobject_cast<QVBoxLayout*>(content.layout())->addWidget(welcome_, 1, Qt::AlignCenter);
     }
     if (welcome_ == nullptr) return;
     welcome_->setVisible(shown);

@@ -7,6 +7,7 @@
 #include "platform/system/Services.h"
 
 class InfoPanels;
+class ScrollingBody;
 class Toolbar;
 class Welcome;
 
@@ -52,6 +53,7 @@ class MainArea final : public QWidget {
 
     Program& program_;
     Toolbar* toolbar_;
+    ScrollingBody* body_;  // panels or welcome
     InfoPanels* panels_;
     Welcome* welcome_ = nullptr;  // made when it is first shown
     QPixmap picture_;

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTextStream>
 #include <QThread>
 #include <set>
@@ -60,6 +61,17 @@ QPalette DarkPalette() {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
         palette.setColor(QPalette::Disabled, role, QColor(0x7f, 0x86, 0x8c));
     }
+    return palette;
+}
+
+/// White and yellow on black, as desktops for weak eyes have it.
+QPalette ContrastPalette() {
+    QPalette palette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::white,
+                     Qt::black, Qt::black);
+    palette.setColor(QPalette::AlternateBase, Qt::black);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    palette.setColor(QPalette::Link, Qt::cyan);
     return palette;
 }
 
@@ -203,7 +215,6 @@ int TakePictures(Program& program, const QString& outFolder) {
     QDir().mkpath(outFolder);
     Quillon window(program);
     window.Load();
-    window.resize(1000, 660);  // the screen of the offscreen platform is smaller than most
     bool good = Save(window, outFolder % QStringLiteral("/Quillon.png"));
     window.findChild<QAction*>(QStringLiteral("FileNotes"))->trigger();
     good = Save(window, outFolder % QStringLiteral("/Quillon-welcome.png")) && good;
@@ -224,11 +235,42 @@ void AddOptions(QCommandLineParser& parser) {
     parser.addOption({QStringLiteral("out"), QStringLiteral("Where the pictures go."),
                       QStringLiteral("folder"), QStringLiteral("docs/screenshots")});
     parser.addOption({QStringLiteral("dark"), QStringLiteral("With a dark theme.")});
+    parser.addOption({QStringLiteral("contrast"), QStringLiteral("At the highest contrast.")});
+    parser.addOption({QStringLiteral("points"), QStringLiteral("Size of the desktop's letters."),
+                      QStringLiteral("number"), QStringLiteral("9")});
+    parser.addOption({QStringLiteral("screen"), QStringLiteral("Pixels of the screen."),
+                      QStringLiteral("width x height"), QStringLiteral("1920x1080")});
     parser.addOption({QStringLiteral("scale"), QStringLiteral("Scaling of the screen."),
                       QStringLiteral("factor"), QStringLiteral("1")});
     parser.addOption({QStringLiteral("databases"),
                       QStringLiteral("Shows the draw databases of this folder, not the samples."),
                       QStringLiteral("folder")});
+}
+
+/// Has the program run on a screen of that size, told in `file`, where no other platform is asked
+/// for: that of the offscreen platform is smaller than most.
+void TakeScreen(const QString& size, QTemporaryFile& file) {
+    const QByteArray asked = qgetenv("QT_QPA_PLATFORM");
+    if (!asked.isEmpty() && asked != "offscreen") return;
+    const QStringList sides = size.split(QLatin1Char('x'));
+    file.open();
+    file.write(QStringLiteral(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": %1,
+        "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                   .arg(sides.first(), sides.last())
+                   .toLatin1());
+    file.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+}
+
+/// The desktop's look as the options say.
+void Dress(const QCommandLineParser& parser) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setCursorFlashTime(0);
+    QFont font = QApplication::font();
+    font.setPointSize(parser.value(QStringLiteral("points")).toInt());
+    QApplication::setFont(font);
+    if (parser.isSet(QStringLiteral("dark"))) QApplication::setPalette(DarkPalette());
+    if (parser.isSet(QStringLiteral("contrast"))) QApplication::setPalette(ContrastPalette());
 }
 
 }  // namespace
@@ -246,13 +288,12 @@ int main(int argumentCount, char** arguments) {
     }
     qputenv("LC_ALL", "en_GB.UTF-8");
     qputenv("QT_SCALE_FACTOR", parser.value(QStringLiteral("scale")).toLatin1());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QTemporaryFile screen;
+    TakeScreen(parser.value(QStringLiteral("screen")), screen);
 
     Application application(argumentCount, arguments);
     if (parser.isSet(QStringLiteral("help"))) parser.showHelp();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    QApplication::setCursorFlashTime(0);
-    if (parser.isSet(QStringLiteral("dark"))) QApplication::setPalette(DarkPalette());
+    Dress(parser);
     return application.Run([&parser] {
         const QTemporaryDir folder;
         Supply(folder.path(), parser.value(QStringLiteral("databases")));

@@ -7,23 +7,31 @@
 #include <QLayout>
 #include <QPainter>
 #include <QPushButton>
+#include <utility>
 #include <vector>
 
 #include "core/failure.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/SaidLine.h"
+#include "platform/forms/ScrollingBody.h"
 #include "platform/forms/Skin.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/OneLine.h"
 
 namespace {
 
+/// What lies in the widget, be it that it scrolls there; null where nothing is laid out in it.
+const QLayout* LayoutIn(const QWidget& widget) {
+    const auto* body = qobject_cast<const ScrollingBody*>(&widget);
+    return body == nullptr ? widget.layout() : body->Content().layout();
+}
+
 /// The widgets of a layout that take the focus, in the order in which they stand in it.
 void CollectWidgets(const QLayout& layout, std::vector<QWidget*>& widgets) {
     for (int i = 0; i < layout.count(); ++i) {
         QLayoutItem* item = layout.itemAt(i);
         QWidget* widget = item->widget();
-        const QLayout* inner = widget == nullptr ? item->layout() : widget->layout();
+        const QLayout* inner = widget == nullptr ? item->layout() : LayoutIn(*widget);
         if (inner != nullptr) CollectWidgets(*inner, widgets);
         const bool focus = widget != nullptr && widget->focusPolicy() != Qt::NoFocus;
         if (focus) widgets.push_back(widget);
@@ -62,19 +70,32 @@ void Form::CloseAsTheUserDoes() {
     }
 }
 
+bool Form::FitsScreen() const {
+    const QSize room = RoomOnScreen(*this);
+    QSize least = layout()->totalMinimumSize();
+    if (layout()->hasHeightForWidth()) {
+        const int width = qMin(openingSize_.expandedTo(sizeHint()).width(), room.width());
+        least = least.expandedTo({0, layout()->totalMinimumHeightForWidth(width)});
+    }
+    return least.boundedTo(room) == least;
+}
+
 // What was added to the inner layouts of a frame reaches the size hint only with an activation, and
 // a text that wraps may need more lines in the form's width than the hint counts on.
 void Form::TakeOpeningSize() {
-    if (openingSize_.isEmpty()) return;
     layout()->activate();
+    if (!FitsScreen()) {
+        LetScroll(*this, findChild<SaidLine*>());
+        layout()->activate();
+    }
     const QSize room = RoomOnScreen(*this);
-    QSize size = openingSize_.expandedTo(sizeHint()).boundedTo(room).expandedTo(minimumSize());
+    const QSize wanted = testAttribute(Qt::WA_Resized) ? size() : sizeHint();
+    QSize size = wanted.expandedTo(openingSize_).expandedTo(sizeHint()).boundedTo(room);
     if (layout()->hasHeightForWidth()) {
         const int wrapped = layout()->totalHeightForWidth(size.width());
         size.setHeight(qMax(size.height(), qMin(wrapped, room.height())));
     }
     resize(size);
-    openingSize_ = {};
 }
 
 // Qt would make a default button of the first one in the dialog, and keep the first that had the
@@ -84,7 +105,7 @@ void Form::setVisible(bool visible) {
         const auto buttons = findChildren<QPushButton*>();
         for (QPushButton* button : buttons) button->setAutoDefault(false);
         KeepTextBoxesToOneLine(*this);
-        TakeOpeningSize();
+        if (layout() != nullptr && !std::exchange(opened_, true)) TakeOpeningSize();
     }
     QDialog::setVisible(visible);
 }

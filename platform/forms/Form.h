@@ -58,7 +58,8 @@ class Form : public QDialog {
     /// The button that Esc and the cross stand for.
     void SetCloseButton(QAbstractButton* button) { closeButton_ = button; }
 
-    /// The size in which the form opens, where the screen has the room; never less than it needs.
+    /// The size in which the form opens the first time, where the screen has the room. What the
+    /// screen has no room for scrolls, and the size that the user gave the form comes again.
     void SetOpeningSize(const QSize& size) { openingSize_ = size; }
 
     /// The page that F1 opens; "help.html" where none is set.
@@ -72,6 +73,8 @@ class Form : public QDialog {
     void Skinning(const QString& pictureFile, const SkinLabels& labels);
 
   private:
+    /// Whether the screen has the room for the form, be it drawn together.
+    bool FitsScreen() const;
     void TakeOpeningSize();
     void CloseAsTheUserDoes();
 
@@ -80,5 +83,6 @@ class Form : public QDialog {
     QSize openingSize_;
     QAbstractButton* closeButton_ = nullptr;
     QPixmap picture_;
+    bool opened_ = false;
     bool unloading_ = false;
 };

@@ -12,7 +12,9 @@
 #include <set>
 
 #include "core/settings.h"
+#include "platform/forms/RoomOnScreen.h"
 #include "shell/form_catalogue.h"
+#include "tests/shell/letters.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -105,6 +107,17 @@ class EveryForm : public testing::TestWithParam<CatalogueEntry> {
                control->focusProxy() == nullptr;
     }
 
+    /// Of what is wider than the screen the beginning.
+    static void ExpectInSight(const QWidget* control) {
+        if (control == nullptr) return;
+        const QRect seen = control->visibleRegion().boundingRect();
+        const QSize whole = control->size().boundedTo(RoomOnScreen(*control));
+        if (seen.topLeft() == QPoint() && seen.height() == whole.height()) return;
+        ADD_FAILURE() << control->objectName().toStdString() << ": of " << control->width() << " x "
+                      << control->height() << " are seen " << seen.width() << " x "
+                      << seen.height();
+    }
+
     static QString SpokenName(QWidget* control) {
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
         return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
@@ -171,6 +184,20 @@ TEST_P(EveryForm, FitsASmallScreen) {
     EXPECT_LE(form->minimumSizeHint().height(), 740) << "the title bar needs room too";
     EXPECT_LE(form->width(), 1366);
     EXPECT_LE(form->height(), 740);
+}
+
+// Runs on a small screen too.
+TEST_P(EveryForm, FitsTheScreenInLettersOfEverySize) {
+    for (const int points : letterSizes) {
+        const Letters letters(points);
+        Open();
+        const QSize room = RoomOnScreen(*form);
+        EXPECT_LE(form->width(), room.width()) << points << " pt";
+        EXPECT_LE(form->height(), room.height()) << points << " pt";
+        ExpectInSight(form->focusWidget());
+        ExpectInSight(form->findChild<QWidget*>(QStringLiteral("Said")));
+        form.reset();
+    }
 }
 
 TEST_P(EveryForm, TakesNoLineEndIntoATextBox) {

@@ -9,9 +9,11 @@
 #include <cmath>
 
 #include "core/settings.h"
+#include "platform/forms/ScrollingBody.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Lists.h"
+#include "tests/shell/letters.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"
 
@@ -425,7 +427,8 @@ TEST_F(InfoPanelsOfWindow, ASyndicateWhoseFileIsGoneIsForgotten) {
 
 TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
     StartShown();
-    const QSize smallest = window->minimumSizeHint();
+    const auto* body = window->findChild<ScrollingBody*>();
+    const QSize smallest = window->size() - body->size() + body->Content().minimumSizeHint();
     EXPECT_LE(smallest.width(), 910);
     EXPECT_LE(smallest.height(), 480);
     EXPECT_LE(window->width(), 1366);
@@ -433,23 +436,20 @@ TEST_F(InfoPanelsOfWindow, FitASmallScreenAtOneAndAHalfScale) {
 }
 
 TEST_F(InfoPanelsOfWindow, TheSuppliedItemsAreReadWholeInLargeLetters) {
-    const QFont usual = QApplication::font();
-    QFont large = usual;
-    large.setPointSize(12);
-    QApplication::setFont(large);
+    const Letters letters(12);
     StartShown();
     window->resize(window->minimumSizeHint());
     QApplication::processEvents();
     for (int i = 0; i < itemCount; ++i) EXPECT_GE(Item(i)->width(), Item(i)->sizeHint().width());
-    QApplication::setFont(usual);
 }
 
 TEST_F(InfoPanelsOfWindow, ALongItemOrNameDoesNotWidenTheWindow) {
     StartShown();
-    const int width = window->minimumSizeHint().width();
+    const QWidget& panels = window->findChild<ScrollingBody*>()->Content();
+    const int width = panels.minimumSizeHint().width();
     Type(*window, newItemBox, QString(200, QLatin1Char('w')));
     Click(*window, addItemButton);
-    EXPECT_EQ(window->minimumSizeHint().width(), width);
+    EXPECT_EQ(panels.minimumSizeHint().width(), width);
 }
 
 TEST_F(InfoPanelsOfWindow, TheKeyboardGoesThroughThemInReadingOrder) {
