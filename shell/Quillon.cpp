@@ -11,6 +11,7 @@
 #include "core/saved_entries.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/Skin.h"
+#include "platform/forms/WindowSize.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
@@ -41,6 +42,7 @@ Quillon::Quillon(Program& program, QWidget* parent)
     setCentralWidget(area_);
     KeepTextBoxesToOneLine(*this);
     resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
+    RememberSize(*this, program.services.windows);
     AnswerMenu();
     AnswerForms();
     AnswerArea();

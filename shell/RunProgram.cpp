@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QStandardPaths>
 #include <cstdlib>
 #include <memory>
 
@@ -13,6 +14,7 @@
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/OpenPage.h"
+#include "platform/system/WindowStates.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 
@@ -21,6 +23,8 @@ int RunProgram(const QString& folderPath) {
     DiskFolder folder(folderPath);
     Random random(SeedOfTheMoment);
     DesktopMessageBoxes messages;
+    WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
+                         QStringLiteral("/windows.ini"));
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
                       .random = random,
@@ -28,7 +32,8 @@ int RunProgram(const QString& folderPath) {
                       .messages = messages,
                       .openPage = [&folder](const QString& page) { OpenPage(page, folder.Path()); },
                       .saveLines = {},
-                      .printLines = {}};
+                      .printLines = {},
+                      .windows = &windows};
     Program program{.state = *state, .folder = folder, .services = services};
     services.saveLines = [&program](Form* form, Grid& grid) { SaveLines(program, form, grid); };
 

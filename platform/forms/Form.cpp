@@ -15,6 +15,7 @@
 #include "platform/forms/SaidLine.h"
 #include "platform/forms/ScrollingBody.h"
 #include "platform/forms/Skin.h"
+#include "platform/forms/WindowSize.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/OneLine.h"
 
@@ -96,6 +97,7 @@ void Form::TakeOpeningSize() {
         size.setHeight(qMax(size.height(), qMin(wrapped, room.height())));
     }
     resize(size);
+    RememberSize(*this, services().windows);
 }
 
 // Qt would make a default button of the first one in the dialog, and keep the first that had the

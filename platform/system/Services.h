@@ -14,6 +14,7 @@ class Form;
 class Grid;
 class MessageBoxes;
 class Printers;
+class WindowStates;
 
 /// What a printed diary has around its rows, as it stands in the boxes of its form.
 struct DiaryFrame {
@@ -45,7 +46,8 @@ struct Services {
     std::function<void(Form*)> printMembers = {};          ///< Prints the members of the syndicate.
     std::function<void(Form*, Grid&)> printPayments = {};  ///< Prints the members' payments.
     std::function<void(Form*, Grid&, const DiaryFrame&)> printDiary = {};  ///< Prints the diary.
-    Printers* printers = nullptr;  ///< The printers; none: nothing is ever printed.
+    Printers* printers = nullptr;     ///< The printers; none: nothing is ever printed.
+    WindowStates* windows = nullptr;  ///< Where windows keep their sizes; none: they do not.
 };
 
 /// What every form is given.

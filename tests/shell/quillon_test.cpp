@@ -2,11 +2,15 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QScreen>
+#include <QTemporaryDir>
 
 #include "core/failure.h"
-#include "core/settings.h"
 #include "core/saved_entries.h"
+#include "core/settings.h"
+#include "platform/forms/RoomOnScreen.h"
+#include "platform/system/WindowStates.h"
 #include "platform/widgets/Lists.h"
+#include "tests/shell/letters.h"
 #include "tests/shell/main_window.h"
 #include "tests/shell/telling_form.h"
 
@@ -47,6 +51,40 @@ TEST_F(QuillonForm, OpensNoLargerThanTheScreen) {
     const QSize screen = window->screen()->availableSize();
     EXPECT_LT(window->width(), screen.width());
     EXPECT_LT(window->height(), screen.height());
+}
+
+// Runs on a small screen too.
+TEST_F(QuillonForm, FitsTheScreenInLettersOfEverySize) {
+    program.folder.Write("dbase1.txt", Database("First"));
+    program.folder.Write(savedEntriesFile, "01 Jun 05,1,2,3,4,5,6,0,0,Lotto,Ann,dbase1.txt\r\n");
+    for (const int points : letterSizes) {
+        const Letters letters(points);
+        Start();
+        const QSize room = RoomOnScreen(*window);
+        for (const char* shown : {"the welcome", "the panels"}) {
+            EXPECT_LE(window->width(), room.width()) << shown << ", " << points << " pt";
+            EXPECT_LE(window->height(), room.height()) << shown << ", " << points << " pt";
+            const QWidget* focus = window->focusWidget();
+            EXPECT_EQ(focus->visibleRegion().boundingRect(), focus->rect())
+                << shown << ", " << points << " pt";
+            Choose("FileNotes");
+            QApplication::processEvents();
+        }
+        Choose("FileNotes");
+        Choose("FileExit");
+    }
+}
+
+TEST_F(QuillonForm, OpensAsLargeAsItWasLeft) {
+    const QTemporaryDir folder;
+    WindowStates windows(folder.filePath(QStringLiteral("windows.ini")));
+    program.services.windows = &windows;
+    Start();
+    const QSize left = window->size() - QSize(50, 40);
+    window->resize(left);
+    Choose("FileExit");
+    Start();
+    EXPECT_EQ(window->size(), left);
 }
 
 TEST_F(QuillonForm, TheFirstRunInAnEmptyFolderMakesBackupAndSettingsWithoutAMessage) {
