@@ -25,6 +25,8 @@
 #include "play/PLuckyDip.h"
 #include "play/PLuckyNumbers.h"
 #include "play/PStarSign.h"
+#include "printing/PrintFrm.h"
+#include "printing/PrintSelection.h"
 #include "wheels/PBudgetWheel.h"
 #include "wheels/PDIYWheels.h"
 #include "wheels/PHotWheels.h"
@@ -129,6 +131,8 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "HelpAbout", .form = "About"},
 
     {.menuEntry = "", .form = "SaveEntries", .make = Make<SaveEntries>},
+    {.menuEntry = "", .form = "PrintFrm", .make = Make<PrintFrm>},
+    {.menuEntry = "", .form = "PrintSelection", .make = Make<PrintSelection>},
 });
 
 }  // namespace

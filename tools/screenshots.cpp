@@ -19,6 +19,7 @@
 #include <set>
 
 #include "core/settings.h"
+#include "platform/system/DesktopPrinters.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
@@ -125,6 +126,7 @@ struct Studio {
     DiskFolder folder;
     Random random{[] { return Seed; }};
     ToldMessages messages;
+    DesktopPrinters printers{{}};
     double now = 0;
     Services services{.seconds = [this] { return now += 0.001; },
                       .today = [] { return Today; },
@@ -133,7 +135,8 @@ struct Studio {
                       .messages = messages,
                       .openPage = [](const QString&) {},
                       .saveLines = [](QWidget*, Grid&) {},
-                      .printLines = {}};
+                      .printLines = {},
+                      .printers = &printers};
     Program program{.state = *state, .folder = folder, .services = services};
 };
 
@@ -169,6 +172,8 @@ void Use(Form& form, bool hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     } else if (name == QLatin1String("SaveEntries")) {
         Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
+    } else if (name == QLatin1String("PrintFrm")) {
+        Find<QLineEdit>(form, QStringLiteral("Text2"))->setText(QStringLiteral("12"));
     } else if (name == QLatin1String("StoreMyDrawsW")) {
         Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));
         TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));

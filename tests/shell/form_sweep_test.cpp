@@ -44,6 +44,8 @@ std::string PictureOf(const std::string& form) {
         {"DeleteDbaseW", ""},
         {"OpenDbase", ""},
         {"SaveEntries", ""},
+        {"PrintFrm", ""},
+        {"PrintSelection", ""},
         {"CreateDbase", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
