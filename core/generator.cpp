@@ -18,7 +18,7 @@ class StatusLine {
     void Try(int tries, double elapsed) {
         tries_ = tries;
         elapsed_ = elapsed;
-        if (tries > 1 && elapsed - painted_ < paintInterval) return;
+        if (!style_.paintTries || (tries > 1 && elapsed - painted_ < paintInterval)) return;
         painted_ = elapsed;
         steps_.paintStatus(Text());
     }
@@ -68,6 +68,7 @@ std::string GenerateLines(State& state, Random& random, const Conditions& condit
     if (style.sortLines) SortLines(state, state.Picks);
     if (style.pruneDuplicates) PruneDuplicates(state);
     steps.showLines();
+    if (!style.paintTries) status.Try(tries, steps.seconds() - start);
     std::string text = status.Text();
     if (steps.seconds() - start > generatorLimit) {
         text += " (Some lines do not comply with conditions)";

@@ -19,6 +19,7 @@ struct GeneratorStyle {
     int timeDecimals = 2;          ///< Places of the shown time: 3 or 2.
     bool sortLines = false;        ///< Whether the lines are sorted at the end; tries need not be.
     bool pruneDuplicates = false;  ///< Whether equal lines are removed at the end.
+    bool paintTries = true;        ///< Whether the status tells of the tries while they go on.
 };
 
 /// What the generator calls while it works.
@@ -43,7 +44,8 @@ inline constexpr double generatorLimit = 10.0;
 /// style says so, shows the lines, and returns the status text, which says where the lines do not
 /// comply.
 ///
-/// The status is painted at the first try, then some 60 times a second, and at the end. `Busy` is
+/// The status is painted at the first try, then some 60 times a second, and at the end; or, where
+/// the style says so, only at the end, with the time that the lines took to be shown. `Busy` is
 /// the caller's. A failure in a step leaves through here.
 std::string GenerateLines(State& state, Random& random, const Conditions& conditions,
                           const GeneratorStyle& style, const GeneratorSteps& steps);

@@ -72,6 +72,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
       grid_(Named(new Grid(mostLines + rowsAroundLines, 9), QStringLiteral("MSFlexGrid1"))),
       besideList_(new QVBoxLayout),
       column_(new QVBoxLayout),
+      columnAndFilters_(new QBoxLayout(QBoxLayout::TopToBottom)),
       foot_(new QVBoxLayout) {
     grid_->SizeColumns();
     grid_->setAccessibleName(tr("Lottery entries"));
@@ -93,7 +94,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
 }
 
 QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
-    QLabel* title = MakeLabel(QStringLiteral("Label1"), tr("Select a lottery:"));
+    QLabel* title = MakeLabel(names.lotteries, tr("Select a lottery:"));
     Titled(title, lotteries_)->setMinimumWidth(240);
     lotteries_->setMaximumWidth(widestInput);
     connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
@@ -104,9 +105,12 @@ QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
     column->addWidget(title);
     column->addLayout(lotteries, 1);
     column->addSpacing(8);
-    column->addLayout(column_);
-    column->addSpacing(8);
-    if (!names.filters.isEmpty()) column->addLayout(AtMost(widestInput, BuildFilters(names)));
+    columnAndFilters_->addLayout(column_);
+    columnAndFilters_->addSpacing(8);
+    if (!names.filters.isEmpty()) {
+        columnAndFilters_->addLayout(AtMost(widestInput, BuildFilters(names)));
+    }
+    column->addLayout(columnAndFilters_);
     return column;
 }
 
@@ -129,23 +133,22 @@ QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
 
 QLayout* PlayFrame::BuildActions(const PlayFormText& text, const PlayControlNames& names) {
     const QString usualTip = tr("Generate another selection of lottery entries");
-    QPushButton* generate =
-        MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
-                          text.generateTip.isEmpty() ? usualTip : text.generateTip);
+    generate_ = MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
+                                  text.generateTip.isEmpty() ? usualTip : text.generateTip);
     QPushButton* print = MakeCommandButton(QStringLiteral("Command6"), Command::Print,
                                            tr("Print out the lottery entries"));
     QPushButton* save = MakeCommandButton(QStringLiteral("Command7"), Command::Save,
                                           tr("Save these lottery entries to disk"));
     close_ = MakeCommandButton(QStringLiteral("Command1"), Command::Close, tr(" Close "));
-    generate->setDefault(true);
+    generate_->setDefault(true);
     print->setEnabled(static_cast<bool>(services().printLines));
-    connect(generate, &QPushButton::clicked, this, [this] { Generate(); });
+    connect(generate_, &QPushButton::clicked, this, [this] { ClickGenerate(); });
     connect(print, &QPushButton::clicked, this, [this] { PrintLines(); });
     connect(save, &QPushButton::clicked, this, [this] { SaveLines(); });
     connect(close_, &QPushButton::clicked, this, [this] { Close(); });
     SetCloseButton(close_);
-    if (names.help.isEmpty()) return BuildActionRow({generate, print, save}, {close_});
-    return BuildActionRow({generate, print, save},
+    if (names.help.isEmpty()) return BuildActionRow({generate_, print, save}, {close_});
+    return BuildActionRow({generate_, print, save},
                           {MakeHelpButton(names.help, tr(" Help ")), close_});
 }
 

@@ -6,6 +6,7 @@
 
 class Grid;
 class ListBox;
+class QBoxLayout;
 class QLabel;
 class QLayout;
 class QPushButton;
@@ -18,6 +19,7 @@ struct PlayFormText {
     QString heading;           ///< `Label7`.
     QString body;              ///< `Label2`.
     QString generateTip = {};  ///< The tool-tip of the generate button; empty: the usual one.
+    QString conditions = {};   ///< The heading of the condition boxes; empty: the usual one.
 };
 
 /// The controls that bear other names in some forms.
@@ -26,6 +28,7 @@ struct PlayControlNames {
     QString highLow = QStringLiteral("Command14");
     QString longRuns = QStringLiteral("Command15");
     QString previousDraws = QStringLiteral("Command9");
+    QString lotteries = QStringLiteral("Label1");   ///< The heading of the lottery list.
     QString help = QStringLiteral("Command8");      ///< Empty where there is no such button.
     QString filters = QStringLiteral("Label6(1)");  ///< The filter buttons' heading; empty: none.
     QString conditions = QStringLiteral("Label6");  ///< The heading of the condition boxes.
@@ -78,8 +81,11 @@ class PlayFrame : public Form {
     /// What the lottery list does: loads the database of its choice.
     void ChooseLottery();
 
-    /// What the generate button does: makes lines, unless the form is busy or cannot.
+    /// Makes lines, unless the form is busy or cannot.
     void Generate();
+
+    /// What a click on the generate button does.
+    virtual void ClickGenerate() { Generate(); }
 
     /// Takes other rules about `Busy` than the usual ones.
     void SetBusyRules(const BusyRules& rules) { busyRules_ = rules; }
@@ -106,6 +112,13 @@ class PlayFrame : public Form {
     QVBoxLayout& Column() { return *column_; }          ///< Inputs, above the filter buttons.
     QVBoxLayout& Foot() { return *foot_; }              ///< Below inputs and grid.
 
+    /// `Column()` and the filter buttons, one below the other unless the form sets them side by
+    /// side.
+    QBoxLayout& ColumnAndFilters() { return *columnAndFilters_; }
+
+    /// The generate button, for a form that gives it another place than at the bottom.
+    QPushButton& GenerateButton() { return *generate_; }
+
   private:
     QLayout* BuildInputs(const PlayControlNames& names);
     QLayout* BuildFilters(const PlayControlNames& names);
@@ -123,11 +136,13 @@ class PlayFrame : public Form {
     QStringList statusLabels_;
     QLabel* heading_;
     QLabel* body_;
+    QPushButton* generate_;
     ListBox* lotteries_;
     Grid* grid_;
     QPushButton* close_;
     QVBoxLayout* besideList_;
     QVBoxLayout* column_;
+    QBoxLayout* columnAndFilters_;
     QVBoxLayout* foot_;
     bool closeWanted_ = false;
 };

@@ -31,14 +31,15 @@ RetryingForm::RetryingForm(Program& program, const PlayFormText& text,
       conditionsHeading_(new QHBoxLayout) {
     Column().addLayout(inputs_);
     Column().addSpacing(8);
-    BuildConditions(names);
+    BuildConditions(text, names);
     Foot().addWidget(status_);
     SetStatusLabel(names.status);
 }
 
-void RetryingForm::BuildConditions(const PlayControlNames& names) {
+void RetryingForm::BuildConditions(const PlayFormText& text, const PlayControlNames& names) {
+    const QString usual = tr("Do not pick lottery entries with...");
     conditionsHeading_->addWidget(
-        MakeLabel(names.conditions, tr("Do not pick lottery entries with...")), 1);
+        MakeLabel(names.conditions, text.conditions.isEmpty() ? usual : text.conditions), 1);
     if (!names.explain.isEmpty()) conditionsHeading_->addWidget(BuildExplain(names.explain));
     Column().addLayout(conditionsHeading_);
     for (QCheckBox* box : {oddEven_, highLow_, history_}) Column().addWidget(box);

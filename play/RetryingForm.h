@@ -37,7 +37,7 @@ class RetryingForm : public PlayFrame {
     QHBoxLayout& ConditionsHeading() { return *conditionsHeading_; }
 
   private:
-    void BuildConditions(const PlayControlNames& names);
+    void BuildConditions(const PlayFormText& text, const PlayControlNames& names);
     QPushButton* BuildExplain(const QString& name);
 
     QCheckBox* oddEven_;

@@ -253,6 +253,14 @@ TEST_F(Generator, PaintsAboutSixtyTimesASecond) {
     EXPECT_LE(painted.size(), 602U);
 }
 
+TEST_F(Generator, PaintsOnlyTheEndWhereTheStyleSaysSoWithTheTimeOfShowingTheLines) {
+    style.paintTries = false;
+    steps.showLines = [this] { now += 2; };
+    TickEachTry(0.5);
+    Generate();
+    EXPECT_EQ(painted, (std::vector<std::string>{"Tries: 1   Time: 2.50 sec"}));
+}
+
 TEST_F(Generator, EveryPaintedStateIsATrueOne) {
     lines = {{1, 3}};
     conditions.oddEven = true;
