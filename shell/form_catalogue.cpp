@@ -30,8 +30,11 @@
 #include "wheels/PBudgetWheel.h"
 #include "wheels/PDIYWheels.h"
 #include "wheels/PHotWheels.h"
+#include "wheels/PGuaranteed.h"
+#include "wheels/PThreeMatch.h"
 #include "wheels/PWheel2.h"
 #include "wheels/PWheel3.h"
+#include "wheels/Wheel49.h"
 
 namespace {
 
@@ -106,14 +109,15 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .make = Make<PHotWheels>,
      .prepare = SelectSecondOption},
     {.menuEntry = "PlayDIYWheels", .form = "PDIYWheels", .make = Make<PDIYWheels>},
-    {.menuEntry = "PlayGuarantee3", .form = "PThreeMatch"},
+    {.menuEntry = "PlayGuarantee3", .form = "PThreeMatch", .make = Make<PThreeMatch>},
     {.menuEntry = "PlayGuarantee4",
      .form = "PThreeMatch",
+     .make = Make<PThreeMatch>,
      .prepare = SelectSecondOption,
      .messageRuns = 0},
-    {.menuEntry = "PlayGuaranteed", .form = "PGuaranteed"},
+    {.menuEntry = "PlayGuaranteed", .form = "PGuaranteed", .make = Make<PGuaranteed>},
     {.menuEntry = "PlayHotWheels", .form = "PHotWheels", .make = Make<PHotWheels>},
-    {.menuEntry = "PlayWheel49", .form = "Wheel49"},
+    {.menuEntry = "PlayWheel49", .form = "Wheel49", .make = Make<Wheel49>},
     {.menuEntry = "PlayWheel2", .form = "PWheel2", .make = Make<PWheel2>},
     {.menuEntry = "PlayWheel3", .form = "PWheel3", .make = Make<PWheel3>},
     {.menuEntry = "PlayStarSign", .form = "PStarSign", .make = Make<PStarSign>},

@@ -170,6 +170,13 @@ void Use(Form& form, bool hasSamples) {
         Find<QComboBox>(form, QStringLiteral("Combo1"))->setCurrentIndex(6);
         Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+    } else if (name == QLatin1String("PThreeMatch")) {
+        Find<QAbstractButton>(form, QStringLiteral("Command12"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
+    } else if (name == QLatin1String("PGuaranteed")) {
+        Find<QAbstractButton>(form, QStringLiteral("Command12(0)"))->click();
+    } else if (name == QLatin1String("Wheel49")) {
+        Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     } else if (name == QLatin1String("SaveEntries")) {
         Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
     } else if (name == QLatin1String("PrintFrm")) {

@@ -8,12 +8,15 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <cctype>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <set>
 
 #include "core/settings.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "shell/form_catalogue.h"
+#include "test_folders.h"
 #include "tests/shell/letters.h"
 #include "tests/support/form_test.h"
 
@@ -50,7 +53,8 @@ std::string PictureOf(const std::string& form) {
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
         {"StoreMyDrawsW", "SkinDatabases.jpg"},
-        {"ShowMyDrawsW", "SkinDatabases.jpg"}};
+        {"ShowMyDrawsW", "SkinDatabases.jpg"},
+        {"Wheel49", "SkinPlay.jpg"}};
     const auto found = byForm.find(form);
     if (found != byForm.end()) return found->second;
     const auto second = static_cast<unsigned char>(form.size() > 1 ? form[1] : 'a');
@@ -80,6 +84,8 @@ class EveryForm : public testing::TestWithParam<CatalogueEntry> {
         }
         program.folder.Write("dbase1.txt", database);
         program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
+        std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
+        program.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
         program.tick = 0.001;
         MakeDefaultSettings(program.state, program.folder);
     }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "wheels/wheel49.h"
+#include "wheels/wheel_of_49.h"
 
 #include <gtest/gtest.h>
 

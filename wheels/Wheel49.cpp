@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "wheels/Wheel49.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "platform/system/MessageBoxes.h"
+#include "play/pool.h"
+#include "wheels/ToldProof.h"
+#include "wheels/WheelFrame.h"
+#include "wheels/proof.h"
+
+namespace {
+
+PlayFormText Words() {
+    return {.name = QStringLiteral("Wheel49"),
+            .caption = Wheel49::tr("Wheel 49"),
+            .heading = Wheel49::tr("Wheel 49"),
+            .body = Wheel49::tr(
+                "The aim is to wheel the numbers 1 to 49 in such a way as to guarantee one or more "
+                "3-matches. It is specifically designed for pick-6 lotteries with a minimum of 49 "
+                "numbers in the draw."),
+            .conditions = Wheel49::tr("Do not allow lottery entries with...")};
+}
+
+PlayControlNames Names() {
+    PlayControlNames names;
+    names.explain = QString();
+    return names;
+}
+
+}  // namespace
+
+Wheel49::Wheel49(Program& program, QWidget* parent)
+    : RetryingForm(program, Words(), Names(), wheel49::lineCount, parent) {
+    SetBusyRules(wheels::RulesOf("Wheel49").busy);
+    ConditionsHeading().addWidget(MakeHelpButton(QStringLiteral("Command3"), tr(" Help ")));
+}
+
+SkinLabels Wheel49::SkinnedLabels() const { return WheelSkinLabels(objectName()); }
+
+void Wheel49::Load() {
+    RetryingForm::Load();
+    wheel49Data_ = wheel49::ReadTable(folder());
+    proof_ = wheels::CheckedText({.lines = wheel49::LineMasks(wheel49Data_),
+                                  .numbers = wheel49::numberCount,
+                                  .drawn = 6,
+                                  .matched = 3});
+    ShowProof();
+}
+
+void Wheel49::DatabaseLoaded() { ShowProof(); }
+
+void Wheel49::ShowProof() {
+    if (proof_.empty()) return;
+    TellProof(Body(), proof_ + (state().Picks == 7 ? wheels::PicksRemark(7) : std::string()));
+}
+
+bool Wheel49::MayGenerate() {
+    if (wheel49::Suits(state())) return true;
+    services().messages.Show(this, {.title = tr("Sorry!"),
+                                    .text = tr("This method is not suitable for this lottery.  "),
+                                    .sign = Sign::Exclamation});
+    return false;
+}
+
+void Wheel49::MakeLines() {
+    FillPool(state(), wheel49::numberCount);
+    RetryingForm::MakeLines();
+}
+
+void Wheel49::PlayLotto() { wheel49::DoWheel(state(), services().random, wheel49Data_); }
+
+GeneratorStyle Wheel49::Style() const { return {.timeDecimals = 3, .paintTries = false}; }
