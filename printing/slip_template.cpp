@@ -74,6 +74,15 @@ std::string PositionInWords(int number, int column) {
            std::to_string(number);
 }
 
+bool ReadsWhole(std::string_view measure) {
+    const std::string text = Trim(measure);
+    const bool sign = text.starts_with('-') || text.starts_with('+');
+    const std::string_view digits = std::string_view(text).substr(sign ? 1 : 0);
+    return digits.find_first_of("0123456789") != std::string_view::npos &&
+           digits.find_first_not_of("0123456789.") == std::string_view::npos &&
+           digits.find('.') == digits.rfind('.');
+}
+
 void GeneratePositions(SlipTemplate& slip, int maxNum, int maxPball) {
     slip.positions.Fill({});
     const auto value = [&slip](Measure measure) { return LeadingNumber(slip[measure]); };

@@ -88,6 +88,9 @@ void WriteSlipTemplate(ProgramFolder& folder, const std::string& file, const Sli
 /// The first of `PTemplate.000`, `PTemplate.001` and so on that no file is named.
 std::string FirstFreeSlipTemplate(const ProgramFolder& folder);
 
+/// Whether all of a measurement counts: a number with nothing behind it that would be passed over.
+bool ReadsWhole(std::string_view measure);
+
 /// What a text of a template is called in the report of a `Failure`.
 std::string_view MeasureInWords(Measure measure);
 std::string PositionInWords(int number, int column);

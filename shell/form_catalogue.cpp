@@ -27,6 +27,9 @@
 #include "play/PStarSign.h"
 #include "printing/PrintFrm.h"
 #include "printing/PrintSelection.h"
+#include "printing/PrintSetup.h"
+#include "printing/PrintTickets.h"
+#include "printing/PrinterCorrection.h"
 #include "wheels/PBudgetWheel.h"
 #include "wheels/PDIYWheels.h"
 #include "wheels/PHotWheels.h"
@@ -58,7 +61,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .changesDatabases = true},
     {.menuEntry = "FileOpen", .form = "OpenDbase", .make = Make<OpenDbase>},
     {.menuEntry = "FilePreferences", .form = "Preferences", .changesSettings = true},
-    {.menuEntry = "FilePrintSetup", .form = "PrintSetup"},
+    {.menuEntry = "FilePrintSetup", .form = "PrintSetup", .make = Make<PrintSetup>},
 
     {.menuEntry = "DatabasesCreate",
      .form = "CreateDbase",
@@ -134,6 +137,8 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "HelpLotteryInfo", .form = "LotteryInfo"},
     {.menuEntry = "HelpAbout", .form = "About"},
 
+    {.menuEntry = "", .form = "PrintTickets", .make = Make<PrintTickets>},
+    {.menuEntry = "", .form = "PrinterCorrection", .make = Make<PrinterCorrection>},
     {.menuEntry = "", .form = "SaveEntries", .make = Make<SaveEntries>},
     {.menuEntry = "", .form = "PrintFrm", .make = Make<PrintFrm>},
     {.menuEntry = "", .form = "PrintSelection", .make = Make<PrintSelection>},

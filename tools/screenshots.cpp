@@ -24,6 +24,7 @@
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "printing/slip_template.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 #include "shell/form_catalogue.h"
@@ -115,11 +116,26 @@ void WriteUserFiles(State& state, DiskFolder& folder) {
         "04-Jan-2025,3,11,19,27,34,48,,,Demo Lotto (sample draws),Anna,dbasedemo1.txt\r\n");
 }
 
+/// Slips of the sample lotteries, measured as real ones are.
+void WriteSlipTemplates(DiskFolder& folder) {
+    SlipTemplate slip;
+    slip.name = "Demo Lotto, pink slip";
+    slip.lottery = "Demo Lotto (sample draws)";
+    slip.measures = {"3",    "2",   "5",    "1",   "12",   "4",    "38.2", "71.5", "42.1",
+                     "27.3", "3.8", "6.39", "3.8", "6.39", "28.1", "0",    "3.0",  "5.5"};
+    GeneratePositions(slip, 49, 0);
+    WriteSlipTemplate(folder, "PTemplate.000", slip);
+    slip.name = "Five and Extra";
+    slip.lottery = "Demo Five and Extra (sample draws)";
+    WriteSlipTemplate(folder, "PTemplate.001", slip);
+}
+
 /// The program as `RunProgram` makes it, but on a fixed day.
 struct Studio {
     explicit Studio(const QString& folderPath) : folder(folderPath) {
         random.Reset(Seed);
         WriteUserFiles(*state, folder);
+        WriteSlipTemplates(folder);
     }
 
     std::unique_ptr<State> state = std::make_unique<State>();
@@ -179,7 +195,7 @@ void Use(Form& form, bool hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     } else if (name == QLatin1String("SaveEntries")) {
         Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
-    } else if (name == QLatin1String("PrintFrm")) {
+    } else if (name == QLatin1String("PrintFrm") || name == QLatin1String("PrintTickets")) {
         Find<QLineEdit>(form, QStringLiteral("Text2"))->setText(QStringLiteral("12"));
     } else if (name == QLatin1String("StoreMyDrawsW")) {
         Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));

@@ -144,6 +144,15 @@ TEST(SlipPositions, ReplaceThoseThatWereThere) {
     EXPECT_EQ(PositionsOf(Generated(slip), 60), Positions());
 }
 
+TEST(SlipMeasures, ReadWholeWhereNothingBehindTheNumberIsPassedOver) {
+    for (const char* text : {"3", "38.2", " -1.25 ", "+4", ".5", "5."}) {
+        EXPECT_TRUE(ReadsWhole(text)) << text;
+    }
+    for (const char* text : {"", " ", "x", "38,2", "1.2.3", "3 mm", "--1", "1-", ".", "-"}) {
+        EXPECT_FALSE(ReadsWhole(text)) << text;
+    }
+}
+
 TEST(SlipTemplateFiles, AreWrittenAsTyped) {
     MemoryFolder folder;
     SlipTemplate slip = SlipWith({{Measure::MarkWidth, " 3 mm"}, {Measure::MarginY, "x"}});

@@ -49,6 +49,9 @@ std::string PictureOf(const std::string& form) {
         {"SaveEntries", ""},
         {"PrintFrm", ""},
         {"PrintSelection", ""},
+        {"PrintTickets", ""},
+        {"PrinterCorrection", ""},
+        {"PrintSetup", "SkinFile.jpg"},
         {"CreateDbase", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
@@ -228,6 +231,14 @@ TEST_P(EveryForm, ClosesOnEsc) {
                                  .sign = Sign::Question,
                                  .buttons = Buttons::YesNo},
                                 Answer::Yes);
+    }
+    if (std::string(GetParam().form) == "PrintSetup") {
+        program.messages.Expect(
+            {.title = QStringLiteral("Close"),
+             .text = QStringLiteral("Close? (Any changes not saved will be lost.)  "),
+             .sign = Sign::Question,
+             .buttons = Buttons::YesNo},
+            Answer::Yes);
     }
     QTest::keyClick(form.get(), Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
