@@ -6,7 +6,6 @@
 #include "core/filters.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/system/MessageBoxes.h"
-#include "platform/system/TextConversion.h"
 #include "wheels/budget_wheels.h"
 
 namespace {
@@ -24,20 +23,12 @@ PlayFormText Words() {
                 "draw numbers are in your selection.")};
 }
 
-QStringList Captions() {
-    QStringList captions;
-    for (int option = 0; option < budget_wheels::optionCount; ++option) {
-        captions << ToQString(budget_wheels::OptionCaption(option));
-    }
-    return captions;
-}
-
 }  // namespace
 
 PBudgetWheel::PBudgetWheel(Program& program, QWidget* parent)
     : WheelFrame(program, Words(), WheelControlNames(QStringLiteral("Command4")), grouping,
                  mostLines, parent) {
-    AddSizes(Captions());
+    AddSizes(SizeCaptions(budget_wheels::optionCount, budget_wheels::OptionCaption));
     RandomSelection().setToolTip(tr(" Pick some numbers for me "));
     RandomOrder().setToolTip(tr(" Mix up the order of the numbers "));
 }

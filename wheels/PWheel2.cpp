@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "wheels/PWheel2.h"
 
-#include "platform/system/TextConversion.h"
 #include "wheels/pairs_triplets.h"
 
 namespace {
@@ -20,11 +19,8 @@ PlayFormText Words() {
 }
 
 QStringList Captions(int picks) {
-    QStringList captions;
-    for (int option = 0; option < pairs::optionCount; ++option) {
-        captions << ToQString(pairs::OptionCaption(option, picks));
-    }
-    return captions;
+    return SizeCaptions(pairs::optionCount,
+                        [picks](int option) { return pairs::OptionCaption(option, picks); });
 }
 
 }  // namespace

@@ -23,21 +23,13 @@ PlayFormText Words() {
                 "with every other group. Pick up to 8 groups of three numbers.")};
 }
 
-QStringList Captions() {
-    QStringList captions;
-    for (int option = 0; option < triplets::optionCount; ++option) {
-        captions << ToQString(triplets::OptionCaption(option));
-    }
-    return captions;
-}
-
 }  // namespace
 
 PWheel3::PWheel3(Program& program, QWidget* parent)
     : WheelFrame(program, Words(), WheelControlNames(QStringLiteral("Command3")), grouping,
                  mostLines, parent),
       advice_(MakeLabel(QStringLiteral("Label4"), QString())) {
-    AddSizes(Captions());
+    AddSizes(SizeCaptions(triplets::optionCount, triplets::OptionCaption));
     Foot().addWidget(advice_);
 }
 

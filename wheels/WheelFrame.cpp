@@ -71,6 +71,12 @@ PlayControlNames WheelControlNames(const QString& help) {
     return names;
 }
 
+QStringList SizeCaptions(int count, const std::function<std::string(int option)>& caption) {
+    QStringList captions;
+    for (int option = 0; option < count; ++option) captions << ToQString(caption(option));
+    return captions;
+}
+
 SkinLabels WheelSkinLabels(const QString& form) {
     const wheels::SkinSlots& colours = wheels::RulesOf(FromQString(form)).skin;
     return {.title = {QStringLiteral("Label7")},

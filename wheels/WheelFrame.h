@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+#include <string>
 #include <vector>
 
 #include "play/PlayFrame.h"
@@ -14,6 +16,9 @@ class QPushButton;
 
 /// The names of a wheel form's buttons, which has no condition boxes; `help` is its own.
 PlayControlNames WheelControlNames(const QString& help);
+
+/// The captions of sizes 0 to `count` - 1 as `caption` words each.
+QStringList SizeCaptions(int count, const std::function<std::string(int option)>& caption);
 
 /// The labels of the wheel form of that name that take the skin's colours.
 SkinLabels WheelSkinLabels(const QString& form);
