@@ -12,22 +12,18 @@
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
+#include "tests/support/hot_cold.h"
 #include "tests/support/hourglass_watch.h"
 #include "tests/support/real_histories.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
 
-const QColor red(192, 0, 0);
-const QColor blue(0, 0, 192);
-
 constexpr const char* headingLabel = "Label4";
 constexpr const char* explanationLabel = "Label5";
 constexpr const char* lotteryPrompt = "Label1";
 constexpr const char* lotteryList = "List1";
 constexpr const char* modePrompt = "Label6";
-constexpr const char* hotOption = "Option1(0)";
-constexpr const char* coldOption = "Option1(1)";
 constexpr const char* mainChart = "MSChart1";
 constexpr const char* extraChart = "MSChart2";
 constexpr const char* tenNumbersHeading = "Label2";

@@ -8,17 +8,13 @@
 #include "core/settings.h"
 #include "core/text.h"
 #include "platform/widgets/Lists.h"
+#include "tests/support/hot_cold.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/real_histories.h"
 #include "tests/support/sample_lotteries.h"
 
 namespace {
 
-const QColor red(192, 0, 0);
-const QColor blue(0, 0, 192);
-
-constexpr const char* hotOption = "Option1(0)";
-constexpr const char* coldOption = "Option1(1)";
 constexpr const char* tenNumbersHeading = "Label8";
 constexpr const char* tenNumbers = "Label5";
 constexpr const char* helpButton = "Command4";

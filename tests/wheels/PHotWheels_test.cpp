@@ -5,16 +5,12 @@
 #include <QPushButton>
 
 #include "core/failure.h"
+#include "tests/support/hot_cold.h"
 #include "tests/support/real_histories.h"
 #include "tests/wheels/wheel_form.h"
 
 namespace {
 
-const QColor red(192, 0, 0);
-const QColor blue(0, 0, 192);
-
-constexpr const char* hotOption = "Option1(0)";
-constexpr const char* coldOption = "Option1(1)";
 constexpr const char* numbersList = "Combo1";
 constexpr const char* intervalList = "Combo2";
 constexpr const char* lineCount = "Label6(0)";

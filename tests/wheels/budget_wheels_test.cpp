@@ -256,9 +256,7 @@ void ExpectEachSizeAsToldStepByStep(State& state) {
         Random plainRandom = RandomOf(11);
         EXPECT_EQ(Play(state, random, option, boxes), Outcome::Done);
         expected.Budget(plainRandom, wheel.pattern, state.Picks, wheel.numbers);
-        std::vector<int> cells;
-        for (const auto& line : expected.lines) cells.insert(cells.end(), line.begin(), line.end());
-        EXPECT_EQ(AllCells(state), cells) << wheel.numbers;
+        EXPECT_EQ(AllCells(state), expected.Cells()) << wheel.numbers;
         EXPECT_EQ(random.Next(), plainRandom.Next());
     }
 }

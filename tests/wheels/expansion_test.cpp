@@ -13,10 +13,10 @@
 #include "tests/wheels/plain_wheels.h"
 #include "tests/wheels/wheel_support.h"
 #include "wheels/budget_wheels.h"
-#include "wheels/pairs_triplets.h"
-#include "wheels/patterns.h"
 #include "wheels/guaranteed_wheels.h"
 #include "wheels/match_wheels.h"
+#include "wheels/pairs_triplets.h"
+#include "wheels/patterns.h"
 
 namespace {
 
@@ -332,9 +332,7 @@ class EveryPattern : public testing::Test {
         Random plainRandom = RandomOf(seed);
         EXPECT_EQ(fast(*state, random, wheel), Outcome::Done);
         plain(expected, plainRandom, wheel);
-        std::vector<int> cells;
-        for (const auto& line : expected.lines) cells.insert(cells.end(), line.begin(), line.end());
-        EXPECT_EQ(AllCells(*state), cells);
+        EXPECT_EQ(AllCells(*state), expected.Cells());
         EXPECT_EQ(random.Next(), plainRandom.Next());
     }
 };

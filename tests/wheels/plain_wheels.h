@@ -11,6 +11,8 @@
 /// The wheels told step by step, without regard to speed, for comparison: numbers go from `pool` to
 /// `lines`, letter by letter and column by column.
 struct PlainWheel {
+    using Line = std::array<int, 15>;
+
     int picks = 6;
     int maxNum = 49;
     int maxPball = 0;
@@ -104,6 +106,13 @@ struct PlainWheel {
         Sort();
     }
 
+    /// Every cell of `lines`, for a look at everything at once.
+    std::vector<int> Cells() const {
+        std::vector<int> cells;
+        for (const Line& line : lines) cells.insert(cells.end(), line.begin(), line.end());
+        return cells;
+    }
+
     /// `base` is the code of the letter that stands for index 0 of the pool.
     void SixLetters(Random& random, std::string_view pattern, int base) {
         std::size_t offset = 0;
@@ -144,8 +153,6 @@ struct PlainWheel {
     }
 
   protected:
-    using Line = std::array<int, 15>;
-
     void Mix(Random& random, int count) {
         for (int i = 1; i <= count; ++i) {
             const int j = static_cast<int>(count * random.Next()) + 1;

@@ -37,12 +37,6 @@ std::string NameOf(const Ring& ring) {
     return std::to_string(ring.numbers) + " numbers, interval " + std::to_string(ring.interval);
 }
 
-std::vector<int> CellsOf(const PlainRing& plain) {
-    std::vector<int> cells;
-    for (const auto& line : plain.lines) cells.insert(cells.end(), line.begin(), line.end());
-    return cells;
-}
-
 /// Puts 1, 2, 3 ... into `Pool` from index `first` on.
 void FillPool(State& state, int first, int count) {
     for (int i = 0; i < count; ++i) state.Pool(first + i) = static_cast<std::int16_t>(i + 1);
@@ -285,7 +279,7 @@ void ExpectHotAsToldStepByStep(State& state) {
             Random random = RandomOf(1);
             const std::string ten = hot_wheels::Generate(state, random, ring, mode);
             plain.Hot(draws, ring.numbers, ring.interval, mode == Mode::Cold);
-            EXPECT_EQ(AllCells(state), CellsOf(plain)) << NameOf(ring);
+            EXPECT_EQ(AllCells(state), plain.Cells()) << NameOf(ring);
             std::string expected = std::to_string(plain.hottest[0]);
             for (std::size_t i = 1; i < 10; ++i) {
                 expected += ", " + std::to_string(plain.hottest[i]);
@@ -463,7 +457,7 @@ void ExpectOwnAsToldStepByStep(State& state) {
         Random plainRandom = RandomOf(11);
         EXPECT_EQ(own_wheels::Generate(state, random, ring, boxes), Outcome::Done);
         plain.Own(plainRandom, ring.numbers, ring.interval);
-        EXPECT_EQ(AllCells(state), CellsOf(plain)) << NameOf(ring);
+        EXPECT_EQ(AllCells(state), plain.Cells()) << NameOf(ring);
         EXPECT_EQ(random.Next(), plainRandom.Next());
     }
 }

@@ -89,6 +89,16 @@ class WheelFormTest : public LinesFormTest {
         EXPECT_EQ(test_.state.Lines(1, 1), 0);
     }
 
+    /// So many lines are shown, of different numbers, with an extra ball where the lottery has one.
+    void ExpectWholeLines(int count) {
+        EXPECT_EQ(ShownLines(), count) << test_.state.LotteryName;
+        for (const auto& row : Rows(8)) {
+            const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
+            EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
+            EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
+        }
+    }
+
     /// Random selections of the sixth size for every real lottery make this many whole lines.
     void ExpectWheelsOfRealLotteries(const std::function<int()>& lineCount) {
         ChooseSize(5);
@@ -96,12 +106,7 @@ class WheelFormTest : public LinesFormTest {
             ChooseLottery(index);
             Click(*form_, randomSelectionButton);
             Click(*form_, generateButton);
-            EXPECT_EQ(ShownLines(), lineCount()) << test_.state.LotteryName;
-            for (const auto& row : Rows(8)) {
-                const std::set<int> numbers(row.begin(), row.begin() + test_.state.Picks);
-                EXPECT_EQ(static_cast<int>(numbers.size()), test_.state.Picks);
-                EXPECT_EQ(row[7] > 0, test_.state.MaxPball > 0);
-            }
+            ExpectWholeLines(lineCount());
         }
     }
 
