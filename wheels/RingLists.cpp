@@ -12,6 +12,7 @@ namespace {
 ComboList* MakeList(const QString& name, int first, int last) {
     auto* list = Named(new ComboList, name);
     for (int number = first; number <= last; ++number) list->addItem(QString::number(number));
+    list->setMaxVisibleItems(list->count());
     list->SetIndex(0);
     return list;
 }
