@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "core/draw_database.h"
 #include "core/failure.h"
@@ -20,6 +21,7 @@
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/OptionGroup.h"
 #include "printing/PrinterCorrection.h"
+#include "printing/SlipView.h"
 #include "printing/slip_marks.h"
 
 void PrintSetup::Load() {
@@ -54,6 +56,7 @@ void PrintSetup::ChooseFirstTemplate() {
 
 void PrintSetup::ChooseLottery() {
     LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
+    FollowMeasures();
 }
 
 void PrintSetup::ChooseTemplate() {
@@ -83,6 +86,7 @@ void PrintSetup::ShowPositions(const SlipTemplate& slip) {
             grid_->SetCell(number, column + 1, ToQString(slip.positions(number, column)));
         }
     }
+    FollowMeasures();
 }
 
 void PrintSetup::ClearPositions() { ShowPositions({}); }
@@ -117,22 +121,40 @@ void PrintSetup::FollowCell(int row, int column) {
 void PrintSetup::ChangePosition() {
     const double value = LeadingNumber(FromQString(position_->text()));
     grid_->SetCell(editor_->Row(), editor_->Column(), ToQString(FixedText(value, 2)));
+    FollowMeasures();
+}
+
+void PrintSetup::FollowMeasures() {
+    ShowSlip();
+    hint_->setText(MeasureHint());
 }
 
 // What reads otherwise than it looks, or would end the run, is said while it can still be mended.
-void PrintSetup::HintAtMeasures() {
-    hint_->clear();
+QString PrintSetup::MeasureHint() const {
     for (const QLineEdit* box : measures_) {
         const std::string text = FromQString(box->text());
-        const bool perRow = box == measures_[static_cast<std::size_t>(Measure::NumbersPerRow)] ||
-                            box == measures_[static_cast<std::size_t>(Measure::ExtrasPerRow)];
-        if (!ReadsWhole(text)) {
-            hint_->setText(tr("\"%1\" counts as %2: write numbers with a point, as in 38.2")
-                               .arg(box->text(), QString::number(LeadingNumber(text))));
-        } else if (perRow && LeadingWhole(text) == 0) {
-            hint_->setText(tr("Numbers per row: 1 or more, for both kinds of number"));
-        }
+        if (ReadsWhole(text)) continue;
+        return tr("\"%1\" counts as %2: write numbers with a point, as in 38.2")
+            .arg(box->text(), QString::number(LeadingNumber(text)));
     }
+    const SlipTemplate slip = EnteredTemplate();
+    for (const Measure perRow : {Measure::NumbersPerRow, Measure::ExtrasPerRow}) {
+        if (LeadingWhole(slip[perRow]) != 0) continue;
+        return tr("Numbers per row: 1 or more, for both kinds of number");
+    }
+    const int outOfReach = slip_->OutOfReach();
+    if (outOfReach == 0) return {};
+    return tr("Red marks begin outside of what the printer reaches: %1").arg(outOfReach);
+}
+
+void PrintSetup::ShowSlip() {
+    constexpr int mostBoards = 20;  // as long as a number is being typed
+    SlipLayout layout = LayoutOf(EnteredTemplate());
+    layout.boardsAcross = std::min(layout.boardsAcross, mostBoards);
+    layout.boardsDown = std::min(layout.boardsDown, mostBoards);
+    const bool empty = grid_->Cell(1, 1).isEmpty();
+    slip_->Show(empty ? Document() : TestSlip(layout, state().MaxNum, state().MaxPball),
+                layout.marginX, layout.marginY);
 }
 
 // Up and Down lead through the positions while the box has the focus, as it has after every move.

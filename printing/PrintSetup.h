@@ -17,6 +17,7 @@ class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class SlipView;
 
 /// Defines how a lottery slip is laid out: its measurements, the positions of its numbers that
 /// follow from them, and the lottery that it is for. A test print, laid over a slip, shows whether
@@ -52,7 +53,9 @@ class PrintSetup final : public Form {
     void ClearPositions();
     void FollowCell(int row, int column);
     void ChangePosition();
-    void HintAtMeasures();
+    void FollowMeasures();
+    QString MeasureHint() const;
+    void ShowSlip();
 
     SlipTemplate EnteredTemplate() const;
     int TemplateNamed(const std::string& name) const;
@@ -72,6 +75,7 @@ class PrintSetup final : public Form {
     QLineEdit* name_;
     OptionGroup* orientation_;
     std::array<QLineEdit*, measureCount> measures_{};
+    SlipView* slip_;
     QLabel* hint_;
     Grid* grid_;
     FilteredBox* position_;

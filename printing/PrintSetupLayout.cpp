@@ -24,7 +24,7 @@ constexpr int gridColumns = 6;
 PrintSetup::PrintSetup(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("PrintSetup"), tr("Lottery slip print setup"), parent) {
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(20);
+    columns->setSpacing(16);
     columns->addLayout(MakeTemplates(), 1);
     columns->addLayout(MakeMeasures());
     columns->addLayout(MakePositions());
@@ -51,7 +51,7 @@ QLayout* PrintSetup::MakeTemplates() {
     connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
     auto* nameTitle = MakeLabel(QStringLiteral("Label3"), tr(" Save template as:"));
     name_ = Titled(nameTitle, Named(new QLineEdit, QStringLiteral("Text3")));
-    for (ListBox* list : {templates_, lotteries_}) list->setMinimumSize(190, 100);
+    for (ListBox* list : {templates_, lotteries_}) list->setMinimumSize(170, 100);
 
     auto* column = new QVBoxLayout;
     column->setSpacing(4);

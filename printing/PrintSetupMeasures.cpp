@@ -10,6 +10,7 @@
 #include "platform/widgets/OptionGroup.h"
 #include "platform/widgets/Widgets.h"
 #include "printing/PrintSetup.h"
+#include "printing/SlipView.h"
 
 namespace {
 
@@ -112,6 +113,9 @@ QLayout* PrintSetup::MakeMeasures() {
     }
     hint_ = Named(new ElidingLabel, QStringLiteral("MeasureHint"));
     measures->addWidget(hint_, row, 0, 1, 2);
+    slip_ = Named(new SlipView, QStringLiteral("SlipView"));
+    slip_->setAccessibleName(tr("What a test print marks"));
+    measures->addWidget(slip_, row + 1, 0, 1, 2);
     measures->setRowStretch(row + 1, 1);
     return measures;
 }
@@ -154,7 +158,7 @@ QGroupBox* PrintSetup::MakeFrame(int frame) {
         if (!label.isEmpty())
             row->addWidget(MakeLabel(box->objectName() % QLatin1String("Title"), label));
         row->addWidget(box);
-        connect(box, &QLineEdit::textChanged, this, [this] { HintAtMeasures(); });
+        connect(box, &QLineEdit::textChanged, this, [this] { FollowMeasures(); });
         measures_.at(place) = box;
     }
     row->addStretch(1);

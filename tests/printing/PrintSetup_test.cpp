@@ -10,6 +10,7 @@
 
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
+#include "printing/SlipView.h"
 #include "tests/core/failures.h"
 #include "tests/printing/slips.h"
 #include "tests/support/form_test.h"
@@ -286,9 +287,45 @@ TEST_F(SettingUpSlips, HintsAtWhatReadsOtherwiseThanItLooks) {
     EXPECT_EQ(Cell(1, 1), QStringLiteral("38.00"));
     EXPECT_EQ(Box(firstXBox).text(), QStringLiteral("38,2"));
     Box(firstXBox).setText(QStringLiteral("38.2"));
+    Box("Text2(1)").setText(QStringLiteral("0"));
     EXPECT_EQ(hint(), QString());
     Box(perRowBox).setText(QStringLiteral("0"));
     EXPECT_EQ(hint(), QStringLiteral("Numbers per row: 1 or more, for both kinds of number"));
+}
+
+TEST_F(SettingUpSlips, ShowsTheMarksOfATestPrintAndThoseOutOfThePrintersReach) {
+    Open();
+    auto* view = Find<SlipView>(*form_, "SlipView");
+    const auto hint = [this] { return Find<QLabel>(*form_, "MeasureHint")->text(); };
+    EXPECT_EQ(view->accessibleDescription(), QStringLiteral("0 marks"));
+    Click(*form_, generateButton);
+    EXPECT_EQ(view->accessibleDescription(), QStringLiteral("245 marks"));
+    // Numbers 12, 24, 36 and 48 stand 1.21 mm from the edge, in the margin of the printer.
+    EXPECT_EQ(view->OutOfReach(), 20);
+    EXPECT_EQ(hint(), QStringLiteral("Red marks begin outside of what the printer reaches: 20"));
+    Box("Text2(1)").setText(QStringLiteral("1"));
+    EXPECT_EQ(view->OutOfReach(), 0);
+    EXPECT_EQ(hint(), QString());
+    ClickCell(1, 1);
+    Box(positionBox).setText(QStringLiteral("-1"));
+    Click(*form_, enterButton);
+    EXPECT_EQ(view->OutOfReach(), 1);
+    Box("Text7(0)").setText(QStringLiteral("2000000000"));
+    Box("Text7(1)").setText(QStringLiteral("2000000000"));
+    EXPECT_EQ(view->accessibleDescription(), QStringLiteral("19600 marks"));
+    List(lotteryList).SetIndex(1);
+    EXPECT_EQ(view->accessibleDescription(), QStringLiteral("19200 marks"));
+}
+
+TEST_F(SettingUpSlips, ShowsMarksOfAnySizeAnywhere) {
+    Open();
+    Click(*form_, generateButton);
+    for (const char* box : {"Text1(0)", "Text8(0)", "Text2(0)", "Text6(2)"}) {
+        for (const char* text : {"99999999999999999999", "-99999999999999999999", "0"}) {
+            Box(box).setText(QString::fromLatin1(text));
+            form_->grab();
+        }
+    }
 }
 
 TEST_F(SettingUpSlips, MarksTheCellThatIsEditedAndWhitensTheOneBefore) {
