@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 
+#include "core/lines.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
@@ -42,8 +43,8 @@ void PGuaranteed::ChooseWheel(std::size_t panel) {
 void PGuaranteed::ShowProof(std::size_t panel) {
     const int item = panels_.at(panel).wheels->Index();
     if (item < 0) return;
-    TellProof(*panels_.at(panel).promise,
-              wheels::CheckedText(guaranteedPanels.at(panel).list, item, state().Picks));
+    panels_.at(panel).proof->TellWheel(
+        wheels::CheckedText(guaranteedPanels.at(panel).list, item, state().Picks));
 }
 
 void PGuaranteed::ShowCount() {
@@ -120,6 +121,26 @@ void PGuaranteed::MakeLines() {
     if (item >= 0) wheelPattern_ = wheels::WheelAt(guaranteedPanels.at(panel_).list, item).pattern;
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     RetryingForm::MakeLines();
+    TellLinesMade();
+}
+
+void PGuaranteed::TellLinesMade() {
+    for (const Panel& panel : panels_) panel.proof->LinesGone();
+    const Panel& panel = panels_.at(panel_);
+    const int item = panel.wheels->Index();
+    if (item < 0) return;
+    const wheels::Promise promise =
+        wheels::PromiseOf(guaranteedPanels.at(panel_).list, item, state().Picks);
+    panel.proof->LinesMade({.numbers = wheels::PoolNumbers(view(), 1, numbers_),
+                            .drawn = promise.drawn,
+                            .matched = promise.matched});
+}
+
+void PGuaranteed::Prune(void (*prune)(State&)) {
+    const int before = LineCount(view());
+    RetryingForm::Prune(prune);
+    if (LineCount(view()) == before) return;
+    for (const Panel& panel : panels_) panel.proof->LinesTakenOut();
 }
 
 void PGuaranteed::PlayLotto() {

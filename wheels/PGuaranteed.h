@@ -9,6 +9,7 @@
 
 class ComboList;
 class NumberBoard;
+class ToldProof;
 
 /// Guaranteed win wheels: 32 large wheels in three panels, for numbers chosen on a board, which
 /// fall on the wheel anew until the lines comply.
@@ -28,12 +29,13 @@ class PGuaranteed final : public RetryingForm {
     void MakeLines() override;
     void PlayLotto() override;
     GeneratorStyle Style() const override;
+    void Prune(void (*prune)(State&)) override;
 
   private:
     /// What changes in one of the three panels.
     struct Panel {
         ComboList* wheels;
-        QLabel* promise;
+        ToldProof* proof;
         QLabel* pick;
         QLabel* uses;
     };
@@ -46,6 +48,7 @@ class PGuaranteed final : public RetryingForm {
     std::string ItemText(std::size_t panel) const;
     void ChooseWheel(std::size_t panel);
     void ShowProof(std::size_t panel);
+    void TellLinesMade();
     void ShowCount();
     void ClearSelection();
     void SelectAtRandom(std::size_t panel);

@@ -13,6 +13,7 @@
 #include "wheels/GuaranteedPanels.h"
 #include "wheels/NumberBoard.h"
 #include "wheels/PGuaranteed.h"
+#include "wheels/ToldProof.h"
 #include "wheels/wheel_forms.h"
 
 namespace {
@@ -92,13 +93,14 @@ QWidget* PGuaranteed::BuildPanel(std::size_t panel) {
     const GuaranteedPanel& words = guaranteedPanels.at(panel);
     auto* box = new QGroupBox(tr(words.title));
     Panel& parts = panels_.at(panel);
-    parts.promise = MakeBody(Name(words.promiseLabel), tr(words.promise));
+    QLabel* promise = MakeBody(Name(words.promiseLabel), tr(words.promise));
+    parts.proof = new ToldProof(*promise, View(state()));
     parts.pick = MakeLabel(Name(words.pickLabel), QString());
     parts.uses = MakeLabel(Name(words.usesLabel), QString());
     parts.wheels = Named(new ComboList, Name(words.combo));
     parts.wheels->setAccessibleName(tr(words.title));
     auto* column = new QVBoxLayout(box);
-    column->addWidget(parts.promise);
+    column->addWidget(promise);
     column->addLayout(BuildChoice(panel));
     column->addLayout(BuildButtons(panel));
     return box;

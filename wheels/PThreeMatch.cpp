@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "core/lines.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
@@ -42,6 +43,7 @@ PThreeMatch::PThreeMatch(Program& program, QWidget* parent)
       modes_(new OptionGroup(this)),
       threeMatch_(BuildList(QStringLiteral("Combo1"), WheelList::ThreeMatch)),
       fourMatch_(BuildList(QStringLiteral("Combo2"), WheelList::FourMatch)),
+      proof_(new ToldProof(Body(), View(state()))),
       list_(WheelList::ThreeMatch) {
     BesideList().addLayout(BuildLists());
     RandomSelection().setToolTip(tr(" Enter a random selection of numbers "));
@@ -114,7 +116,7 @@ void PThreeMatch::ChooseWheel(WheelList list) {
 
 void PThreeMatch::ShowProof() {
     const int item = ListOf(list_).Index();
-    TellProof(Body(), item < 0 ? std::string() : wheels::CheckedText(list_, item, state().Picks));
+    proof_->TellWheel(item < 0 ? std::string() : wheels::CheckedText(list_, item, state().Picks));
 }
 
 void PThreeMatch::ShowLottery() { ShowProof(); }
@@ -128,5 +130,19 @@ bool PThreeMatch::MayGenerate() {
 }
 
 wheels::Outcome PThreeMatch::MakeWheel(wheels::Boxes& boxes) {
-    return match_wheels::Generate(state(), services().random, wheelPattern_, boxes);
+    const wheels::Outcome outcome =
+        match_wheels::Generate(state(), services().random, wheelPattern_, boxes);
+    const int item = ListOf(list_).Index();
+    if (outcome != wheels::Outcome::Done || item < 0) return outcome;
+    const wheels::Promise promise = wheels::PromiseOf(list_, item, state().Picks);
+    proof_->LinesMade({.numbers = wheels::PoolNumbers(view(), 0, numbersToPick_),
+                       .drawn = promise.drawn,
+                       .matched = promise.matched});
+    return outcome;
+}
+
+void PThreeMatch::Prune(void (*prune)(State&)) {
+    const int before = LineCount(view());
+    WheelFrame::Prune(prune);
+    if (LineCount(view()) < before) proof_->LinesTakenOut();
 }

@@ -5,6 +5,7 @@
 #include "wheels/patterns.h"
 
 class ComboList;
+class ToldProof;
 
 /// Match wheels: 27 small wheels, each with what it guarantees, in two modes.
 class PThreeMatch final : public WheelFrame {
@@ -19,6 +20,7 @@ class PThreeMatch final : public WheelFrame {
     void ShowLottery() override;
     bool MayGenerate() override;
     wheels::Outcome MakeWheel(wheels::Boxes& boxes) override;
+    void Prune(void (*prune)(State&)) override;
 
   private:
     QLayout* BuildLists();
@@ -31,6 +33,7 @@ class PThreeMatch final : public WheelFrame {
     OptionGroup* modes_;
     ComboList* threeMatch_;
     ComboList* fourMatch_;
+    ToldProof* proof_;
     wheels::WheelList list_;  ///< That of the wheel chosen last.
     std::string_view wheelPattern_;
     int numbersToPick_ = 0;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/lines.h"
 #include "platform/system/MessageBoxes.h"
 #include "play/pool.h"
 #include "wheels/ToldProof.h"
@@ -12,6 +13,9 @@
 #include "wheels/proof.h"
 
 namespace {
+
+constexpr int drawn = 6;
+constexpr int matched = 3;
 
 PlayFormText Words() {
     return {.name = QStringLiteral("Wheel49"),
@@ -33,7 +37,8 @@ PlayControlNames Names() {
 }  // namespace
 
 Wheel49::Wheel49(Program& program, QWidget* parent)
-    : RetryingForm(program, Words(), Names(), wheel49::lineCount, parent) {
+    : RetryingForm(program, Words(), Names(), wheel49::lineCount, parent),
+      proof_(new ToldProof(Body(), View(state()))) {
     SetBusyRules(wheels::RulesOf("Wheel49").busy);
     ConditionsHeading().addWidget(MakeHelpButton(QStringLiteral("Command3"), tr(" Help ")));
 }
@@ -43,18 +48,18 @@ SkinLabels Wheel49::SkinnedLabels() const { return WheelSkinLabels(objectName())
 void Wheel49::Load() {
     RetryingForm::Load();
     wheel49Data_ = wheel49::ReadTable(folder());
-    proof_ = wheels::CheckedText({.lines = wheel49::LineMasks(wheel49Data_),
+    found_ = wheels::CheckedText({.lines = wheel49::LineMasks(wheel49Data_),
                                   .numbers = wheel49::numberCount,
-                                  .drawn = 6,
-                                  .matched = 3});
+                                  .drawn = drawn,
+                                  .matched = matched});
     ShowProof();
 }
 
 void Wheel49::DatabaseLoaded() { ShowProof(); }
 
 void Wheel49::ShowProof() {
-    if (proof_.empty()) return;
-    TellProof(Body(), proof_ + (state().Picks == 7 ? wheels::PicksRemark(7) : std::string()));
+    if (found_.empty()) return;
+    proof_->TellWheel(found_ + (state().Picks == 7 ? wheels::PicksRemark(7) : std::string()));
 }
 
 bool Wheel49::MayGenerate() {
@@ -68,6 +73,15 @@ bool Wheel49::MayGenerate() {
 void Wheel49::MakeLines() {
     FillPool(state(), wheel49::numberCount);
     RetryingForm::MakeLines();
+    proof_->LinesMade({.numbers = wheels::PoolNumbers(view(), 1, wheel49::numberCount),
+                       .drawn = drawn,
+                       .matched = matched});
+}
+
+void Wheel49::Prune(void (*prune)(State&)) {
+    const int before = LineCount(view());
+    RetryingForm::Prune(prune);
+    if (LineCount(view()) < before) proof_->LinesTakenOut();
 }
 
 void Wheel49::PlayLotto() { wheel49::DoWheel(state(), services().random, wheel49Data_); }

@@ -4,6 +4,8 @@
 #include "play/RetryingForm.h"
 #include "wheels/wheel_of_49.h"
 
+class ToldProof;
+
 /// The wheel of 49: all numbers from 1 to 49 in 175 lines, made anew until they comply.
 class Wheel49 final : public RetryingForm {
     Q_OBJECT
@@ -20,10 +22,12 @@ class Wheel49 final : public RetryingForm {
     void MakeLines() override;
     void PlayLotto() override;
     GeneratorStyle Style() const override;
+    void Prune(void (*prune)(State&)) override;
 
   private:
     void ShowProof();
 
     wheel49::Table wheel49Data_{};
-    std::string proof_;  ///< What the verifier found for the table; empty before it was read.
+    std::string found_;  ///< What the verifier found for the table; empty before it was read.
+    ToldProof* proof_;
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "core/lines.h"
 #include "core/text.h"
 
 namespace wheels {
@@ -29,6 +30,36 @@ std::string Listed(const std::vector<int>& numbers) {
     return text;
 }
 
+/// `where` stands behind the match, `example` words the first selection without one.
+template <typename Example>
+std::string Told(const Promise& promise, const std::string& where, Example example) {
+    const Guarantee found =
+        VerifyGuarantee(promise.lines, promise.numbers, promise.drawn, promise.matched);
+    const long long covered = found.selections - found.uncovered;
+    const std::string selections = GroupedDigits(found.selections) + " selections of " +
+                                   PlainDigits(promise.drawn) + " from " +
+                                   PlainDigits(promise.numbers) + " numbers have a " +
+                                   PlainDigits(promise.matched) + "-match" + where;
+    if (found.uncovered == 0) return "Checked: all " + selections + ".";
+    const std::string none = found.uncovered == 1 ? " has none: " : " have none, such as ";
+    return "Checked: " + (covered == 0 ? "0" : GroupedDigits(covered)) + " of " + selections +
+           "; " + GroupedDigits(found.uncovered) + none + example(found.firstUncovered);
+}
+
+/// The lines of the table as sets of places among the numbers that were wheeled.
+std::vector<std::uint64_t> MasksOfLines(const State& state, const std::vector<int>& numbers) {
+    std::vector<std::uint64_t> masks(static_cast<std::size_t>(LineCount(state)));
+    for (std::size_t line = 0; line < masks.size(); ++line) {
+        for (int column = 1; column <= state.Picks; ++column) {
+            const int number = state.Lines(static_cast<long long>(line) + 1, column);
+            const auto place = std::ranges::lower_bound(numbers, number);
+            if (place == numbers.end() || *place != number) continue;
+            masks[line] |= std::uint64_t{1} << static_cast<unsigned>(place - numbers.begin());
+        }
+    }
+    return masks;
+}
+
 }  // namespace
 
 Promise PromiseOf(WheelList list, int item, int picks) {
@@ -43,18 +74,9 @@ Promise PromiseOf(WheelList list, int item, int picks) {
 }
 
 std::string CheckedText(const Promise& promise) {
-    const Guarantee found =
-        VerifyGuarantee(promise.lines, promise.numbers, promise.drawn, promise.matched);
-    const long long covered = found.selections - found.uncovered;
-    const std::string selections = GroupedDigits(found.selections) + " selections of " +
-                                   PlainDigits(promise.drawn) + " from " +
-                                   PlainDigits(promise.numbers) + " numbers have a " +
-                                   PlainDigits(promise.matched) + "-match";
-    if (found.uncovered == 0) return "Checked: all " + selections + ".";
-    const std::string none = found.uncovered == 1 ? " has none:" : " have none, such as";
-    return "Checked: " + (covered == 0 ? "0" : GroupedDigits(covered)) + " of " + selections +
-           "; " + GroupedDigits(found.uncovered) + none + " numbers " +
-           Listed(found.firstUncovered) + " of the wheel.";
+    return Told(promise, {}, [](const std::vector<int>& numbers) {
+        return "numbers " + Listed(numbers) + " of the wheel.";
+    });
 }
 
 std::string CheckedText(WheelList list, int item, int picks) {
@@ -69,6 +91,31 @@ std::string PicksRemark(int picks) {
     }
     if (picks < 5) return " This is the wheel as a pick-6 lottery plays it.";
     return " This counts the six numbers that the wheel gives each line, not the random ones.";
+}
+
+std::vector<int> PoolNumbers(const State& state, int first, int count) {
+    std::vector<int> numbers;
+    for (int place = first; place < first + count; ++place) numbers.push_back(state.Pool(place));
+    return numbers;
+}
+
+std::string LeftText(const State& state, const Played& played) {
+    std::vector<int> numbers = played.numbers;
+    std::ranges::sort(numbers);
+    numbers.erase(std::ranges::unique(numbers).begin(), numbers.end());
+    const int count = static_cast<int>(numbers.size());
+    if (count < played.drawn) return {};
+    const Promise promise{.lines = MasksOfLines(state, numbers),
+                          .numbers = count,
+                          .drawn = played.drawn,
+                          .matched = played.matched};
+    const std::size_t left = promise.lines.size();
+    const std::string where = " in the " + PlainDigits(static_cast<long long>(left)) +
+                              (left == 1 ? " line left" : " lines left");
+    return Told(promise, where, [&numbers](std::vector<int> places) {
+        for (int& place : places) place = numbers[static_cast<std::size_t>(place) - 1];
+        return Listed(places) + ".";
+    });
 }
 
 }  // namespace wheels

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/state.h"
 #include "wheels/guarantee.h"
 
 /// What the verifier finds for a wheel, said in words beside the promise that its form makes.
@@ -34,5 +35,21 @@ std::string CheckedText(WheelList list, int item, int picks);
 
 /// What to add where the lottery does not play six numbers; empty for six.
 std::string PicksRemark(int picks);
+
+/// The numbers that were wheeled in the lines of the table, and what was promised for them.
+struct Played {
+    std::vector<int> numbers;  ///< In any order; a number that stands twice counts once.
+    int drawn = 0;
+    int matched = 0;
+};
+
+/// The numbers in `Pool(first)` onward.
+std::vector<int> PoolNumbers(const State& state, int first, int count);
+
+/// What holds for the lines in the table, once filters have taken some of them out: the text of
+/// `CheckedText` with "in the 8 lines left", its example the player's own numbers. A random number
+/// in a line counts where it is one of those that were wheeled. Empty where the numbers are fewer
+/// than are drawn.
+std::string LeftText(const State& state, const Played& played);
 
 }  // namespace wheels

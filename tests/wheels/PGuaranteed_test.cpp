@@ -437,6 +437,29 @@ TEST_F(GuaranteedWheelsForm, TellsWhatTheVerifierFoundForTheWheelOfEachPanel) {
     EXPECT_NE(Tip(2).find("not the random ones"), std::string::npos);
 }
 
+TEST_F(GuaranteedWheelsForm, TellsWhatHoldsForTheLinesThatAFilterHasLeftInTheirPanelOnly) {
+    Open();
+    const std::string first = Tip(0);
+    ClickNumbers(1, 8);
+    Click(*form_, "Command3");
+    Click(*form_, usualFilters.longRuns);
+    QApplication::processEvents();
+    ASSERT_LT(ShownLines(), 4);
+    EXPECT_EQ(Tip(0), first);
+    EXPECT_NE(Tip(1).find(" lines left; "), std::string::npos) << Tip(1);
+    Click(*form_, panels[0].select);
+    EXPECT_EQ(Tip(1), "Checked: all 56 selections of 3 from 8 numbers have a 3-match.");
+    List(0).SetIndex(1);
+    test_.state.Lines(15, 1) = 1;
+    for (int column = 1; column <= 6; ++column) {
+        test_.state.Lines(15, column) = static_cast<std::int16_t>(column);
+    }
+    Click(*form_, usualFilters.longRuns);
+    QApplication::processEvents();
+    EXPECT_NE(Tip(0).find("22 numbers have a 3-match."), std::string::npos)
+        << "the lines are of another wheel";
+}
+
 TEST_F(GuaranteedWheelsForm, GivesColoursOfTheSkinToItsLabels) {
     TakeSkinColours("&HFFFFFF");
     Open();

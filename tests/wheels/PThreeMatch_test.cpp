@@ -316,6 +316,35 @@ TEST_F(MatchWheelsForm, TellsWhatTheVerifierFoundBesideItsSentence) {
                         "none, such as numbers ")));
 }
 
+TEST_F(MatchWheelsForm, TellsWhatHoldsForTheLinesThatAFilterHasLeft) {
+    Open();
+    List(threeMatchList).SetIndex(10);
+    TypeCounting(12);
+    const char* all = "Checked: all 792 selections of 5 from 12 numbers have a 3-match.";
+    Generate();
+    Click(*form_, usualFilters.oddEven);
+    ExpectProof(all);
+    Click(*form_, usualFilters.longRuns);
+    ASSERT_EQ(ShownLines(), 0);
+    ExpectProof(
+        "Checked: all 792 selections of 5 from 12 numbers have a 3-match. This is the whole wheel, "
+        "not the lines left.");
+    QApplication::processEvents();
+    ExpectProof(
+        "Checked: 0 of 792 selections of 5 from 12 numbers have a 3-match in the 0 lines left; 792 "
+        "have none, such as 1, 2, 3, 4 and 5.");
+    Generate();
+    ExpectProof(all);
+    Click(*form_, usualFilters.longRuns);
+    List(threeMatchList).SetIndex(11);
+    QApplication::processEvents();
+    EXPECT_TRUE(Label(sentenceLabel).toolTip().contains(QStringLiteral("2,002 selections")))
+        << "another wheel";
+    Click(*form_, usualFilters.oddEven);
+    QApplication::processEvents();
+    EXPECT_FALSE(Label(sentenceLabel).toolTip().contains(QStringLiteral("left")));
+}
+
 TEST_F(MatchWheelsForm, SaysLessOnceNoWheelIsChosen) {
     Open();
     List(fourMatchList).SetIndex(-1);

@@ -223,6 +223,23 @@ TEST_F(WheelOf49Form, TellsWhatTheVerifierFoundForItsTable) {
     ExpectProof(all);
 }
 
+TEST_F(WheelOf49Form, TellsWhatHoldsForTheLinesThatAFilterHasLeft) {
+    Open();
+    Generate();
+    Click(*form_, usualFilters.oddEven);
+    const int left = ShownLines();
+    ASSERT_LT(left, 175);
+    EXPECT_TRUE(Label(bodyLabel).toolTip().endsWith(QStringLiteral("not the lines left.")));
+    QApplication::processEvents();
+    EXPECT_TRUE(Label(bodyLabel).toolTip().contains(
+        QStringLiteral(" of 13,983,816 selections of 6 from 49 numbers have a 3-match in the %1 "
+                       "lines left; ")
+            .arg(left)))
+        << Label(bodyLabel).toolTip().toStdString();
+    Generate();
+    EXPECT_TRUE(Label(bodyLabel).toolTip().startsWith(QStringLiteral("Checked: all 13,983,816")));
+}
+
 TEST_F(WheelOf49Form, TellsWhatATableOfTheUsersOwnLeavesOut) {
     std::string table = SuppliedTable();
     table.replace(0, 12, "1,5,6,7,9,12");

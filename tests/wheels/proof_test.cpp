@@ -3,11 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
+#include <vector>
+
+#include "tests/wheels/wheel_support.h"
+#include "wheels/guaranteed_wheels.h"
 
 namespace {
 
 using wheels::CheckedText;
+using wheels::LeftText;
 using wheels::WheelList;
 
 TEST(Proof, SaysThatAllSelectionsHaveTheirMatch) {
@@ -56,6 +62,66 @@ TEST(Proof, SaysThatNoSelectionHasAMatch) {
     EXPECT_EQ(CheckedText({.lines = {}, .numbers = 5, .drawn = 2, .matched = 1}),
               "Checked: 0 of 10 selections of 2 from 5 numbers have a 1-match; 10 have none, such "
               "as numbers 1 and 2 of the wheel.");
+}
+
+/// A lottery whose table holds these lines.
+std::unique_ptr<State> StateOf(int picks, const std::vector<std::vector<int>>& lines) {
+    auto state = LotteryOf({.picks = picks});
+    int row = 1;
+    for (const auto& line : lines) {
+        int column = 1;
+        for (const int number : line) {
+            state->Lines(row, column++) = static_cast<std::int16_t>(number);
+        }
+        ++row;
+    }
+    return state;
+}
+
+TEST(ProofOfLinesLeft, CountsThemForTheNumbersThatWereWheeled) {
+    const wheels::Played played{.numbers = {40, 10, 30, 20, 50}, .drawn = 3, .matched = 2};
+    EXPECT_EQ(LeftText(*StateOf(4, {{10, 20, 30, 40}, {20, 30, 40, 50}}), played),
+              "Checked: all 10 selections of 3 from 5 numbers have a 2-match in the 2 lines left.");
+    EXPECT_EQ(LeftText(*StateOf(4, {{10, 20, 0, 0}}), played),
+              "Checked: 3 of 10 selections of 3 from 5 numbers have a 2-match in the 1 line left; "
+              "7 have none, such as 10, 30 and 40.");
+    EXPECT_EQ(LeftText(*StateOf(4, {}), played),
+              "Checked: 0 of 10 selections of 3 from 5 numbers have a 2-match in the 0 lines left; "
+              "10 have none, such as 10, 20 and 30.");
+}
+
+TEST(ProofOfLinesLeft, AgreesWithTheWheelWhereNoLineIsGone) {
+    const auto state = LotteryOf({});
+    Random random = RandomOf(3);
+    for (int place = 1; place <= 34; ++place) {
+        state->Pool(place) = static_cast<std::int16_t>(50 - place);
+    }
+    guaranteed_wheels::PlayLotto(*state, random, wheels::WheelAt(WheelList::ThreeForSix, 8).pattern,
+                                 34);
+    const std::string left =
+        LeftText(*state, {.numbers = wheels::PoolNumbers(*state, 1, 34), .drawn = 6, .matched = 3});
+    const std::string start =
+        "Checked: 1,341,880 of 1,344,904 selections of 6 from 34 numbers have a 3-match in the 65 "
+        "lines left; 3,024 have none, such as ";
+    EXPECT_EQ(left.substr(0, start.size()), start);
+}
+
+TEST(ProofOfLinesLeft, CountsARandomNumberOnlyWhereItWasWheeledAndNoExtraBall) {
+    const wheels::Played played{.numbers = {1, 2, 3}, .drawn = 3, .matched = 3};
+    EXPECT_EQ(LeftText(*StateOf(4, {{1, 2, 40, 3}}), played),
+              "Checked: all 1 selections of 3 from 3 numbers have a 3-match in the 1 line left.");
+    EXPECT_EQ(LeftText(*StateOf(4, {{1, 2, 40, 41, 0, 0, 0, 3}}), played),
+              "Checked: 0 of 1 selections of 3 from 3 numbers have a 3-match in the 1 line left; 1 "
+              "has none: 1, 2 and 3.");
+}
+
+TEST(ProofOfLinesLeft, CountsANumberThatStandsTwiceOnce) {
+    EXPECT_EQ(
+        LeftText(*StateOf(4, {{7, 7, 8, 9}}), {.numbers = {7, 7, 8, 9}, .drawn = 2, .matched = 2}),
+        "Checked: all 3 selections of 2 from 3 numbers have a 2-match in the 1 line left.");
+    EXPECT_EQ(
+        LeftText(*StateOf(4, {{7, 7, 7, 8}}), {.numbers = {7, 7, 8}, .drawn = 3, .matched = 2}), "")
+        << "fewer numbers than are drawn";
 }
 
 }  // namespace
