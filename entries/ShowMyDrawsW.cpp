@@ -209,6 +209,11 @@ void ShowMyDrawsW::Save() {
                 tr("%1 entries saved")));
 }
 
+void ShowMyDrawsW::Print() {
+    services().printEntries(this, *grid_);
+    GoToFirstCell();
+}
+
 void ShowMyDrawsW::Close() {
     const Message question{.title = tr("Close window"),
                            .text = tr("Close without saving changes?    "),

@@ -81,6 +81,7 @@ class ShowMyDrawsW final : public Form {
     void LetMessagesRun(int row);
 
     void Save();
+    void Print();
     void Close();
 
     EntryTable entryTable_{"saved entries"};

@@ -218,7 +218,8 @@ QLayout* ShowMyDrawsW::MakeActions() {
                                         tr(" Save the lottery entries "), &ShowMyDrawsW::Save);
     QPushButton* print = MakeCommandButton(QStringLiteral("Command5"), Command::Print,
                                            tr(" Print out lottery entries "));
-    print->setEnabled(false);
+    print->setEnabled(static_cast<bool>(services().printEntries));
+    if (services().printEntries) AddCommand(print, &ShowMyDrawsW::Print);
     QPushButton* close = MakeIconCommand(QStringLiteral("Command1"), Command::Close, tr(" Close "),
                                          &ShowMyDrawsW::Close);
     SetCloseButton(close);

@@ -886,6 +886,44 @@ TEST_F(ShowingEntries, TheCommandsRestWhileTheCheckRuns) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(ShowingEntries, PrintingLeadsBackToTheFirstNumber) {
+    const Grid* printed = nullptr;
+    test_.services.printEntries = [&](Form* form, Grid& entries) {
+        EXPECT_EQ(form, form_.get());
+        printed = &entries;
+    };
+    Open(ManyEntries(300));
+    Entries().SetCurrentCell(200, 3);
+    Entries().ScrollToRow(200);
+    Run(printButton);
+    EXPECT_EQ(printed, &Entries());
+    EXPECT_EQ(Entries().currentIndex().row(), 0);
+    EXPECT_EQ(Entries().currentIndex().column(), 1);
+    EXPECT_EQ(Entries().rowAt(0), 0);
+    EXPECT_EQ(Item().text(), Entries().Cell(1, 1));
+}
+
+TEST_F(ShowingEntries, PrintingRestsWithTheOtherCommandsDuringACheck) {
+    test_.services.printEntries = [](Form*, Grid&) {};
+    Open(ManyEntries(300));
+    test_.tick = 1;
+    bool looked = false;
+    QTimer::singleShot(0, form_.get(), [&] {
+        looked = true;
+        EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
+    });
+    Find<QPushButton>(*form_, checkButton)->click();
+    EXPECT_TRUE(looked);
+    EXPECT_TRUE(Find<QPushButton>(*form_, printButton)->isEnabled());
+}
+
+TEST_F(ShowingEntries, WithoutPrintingItsButtonIsDisabled) {
+    Open();
+    EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
+    Run(sortByName);
+    EXPECT_FALSE(Find<QPushButton>(*form_, printButton)->isEnabled());
+}
+
 TEST_F(ShowingEntries, ALongCheckScrollsAlong) {
     Open(ManyEntries(300));
     test_.tick = 1;
