@@ -9,12 +9,15 @@
 
 #include "entries/AppendShownLines.h"
 #include "platform/forms/Form.h"
+#include "platform/forms/PrintPreview.h"
 #include "platform/system/Clock.h"
+#include "platform/system/DesktopPrinters.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/OpenPage.h"
 #include "platform/system/WindowStates.h"
+#include "printing/PrintRoutines.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 
@@ -23,6 +26,7 @@ int RunProgram(const QString& folderPath) {
     DiskFolder folder(folderPath);
     Random random(SeedOfTheMoment);
     DesktopMessageBoxes messages;
+    DesktopPrinters printers;
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
     Services services{.seconds = MonotonicSeconds,
@@ -33,9 +37,17 @@ int RunProgram(const QString& folderPath) {
                       .openPage = [&folder](const QString& page) { OpenPage(page, folder.Path()); },
                       .saveLines = {},
                       .printLines = {},
+                      .printers = &printers,
                       .windows = &windows};
     Program program{.state = *state, .folder = folder, .services = services};
     services.saveLines = [&program](Form* form, Grid& grid) { SaveLines(program, form, grid); };
+    printers.PreviewBy([&](QWidget* parent, const PrintTask& task) {
+        PrintPreview preview(program, task, DesktopExits(printers), parent);
+        preview.Load();
+        preview.exec();
+    });
+    PrintRoutines printing(program);
+    printing.Offer();
 
     Quillon window(program);
     QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });

@@ -24,6 +24,7 @@
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "printing/PrintRoutines.h"
 #include "printing/slip_template.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
@@ -135,6 +136,7 @@ struct Studio {
     explicit Studio(const QString& folderPath) : folder(folderPath) {
         random.Reset(Seed);
         WriteUserFiles(*state, folder);
+        printing.Offer();
         WriteSlipTemplates(folder);
     }
 
@@ -142,7 +144,7 @@ struct Studio {
     DiskFolder folder;
     Random random{[] { return Seed; }};
     ToldMessages messages;
-    DesktopPrinters printers{{}};
+    DesktopPrinters printers;
     double now = 0;
     Services services{.seconds = [this] { return now += 0.001; },
                       .today = [] { return Today; },
@@ -154,6 +156,7 @@ struct Studio {
                       .printLines = {},
                       .printers = &printers};
     Program program{.state = *state, .folder = folder, .services = services};
+    PrintRoutines printing{program};
 };
 
 template <typename Control>

@@ -11,7 +11,9 @@ class DesktopPrinters final : public Printers {
     /// What our own printer does with a task, over a window.
     using Preview = std::function<void(QWidget* parent, const PrintTask& task)>;
 
-    explicit DesktopPrinters(Preview preview) : preview_(std::move(preview)) {}
+    explicit DesktopPrinters(Preview preview = {}) : preview_(std::move(preview)) {}
+
+    void PreviewBy(Preview preview) { preview_ = std::move(preview); }
 
     /// The name of our own printer.
     static QString OwnName();

@@ -74,7 +74,7 @@ TEST_F(DesktopPrintersTest, ACorrectionIsKeptForEachPrinter) {
         .moveAcross = 1.25, .moveDown = -0.5, .scaleAcross = 100.5, .scaleDown = 99};
     const QString name = QStringLiteral("Office/2 100% [b\u00fcro]");
     printers.SetCorrection(name, correction);
-    DesktopPrinters later({});
+    DesktopPrinters later;
     EXPECT_EQ(later.CorrectionOf(name), correction);
     EXPECT_EQ(later.CorrectionOf(QStringLiteral("Office")), PageCorrection());
     later.SetCorrection(name, {});
