@@ -23,7 +23,7 @@ constexpr int positionCount = static_cast<int>(ordinals.size());
 constexpr int positionsInColumn = 4;
 constexpr int optionSpacing = 4;
 constexpr int leastChartWidth = 740;
-constexpr int leastChartHeight = 170;
+constexpr int leastChartHeight = 145;
 
 QString Ordinal(int position) {
     return QString::fromLatin1(ordinals.at(static_cast<std::size_t>(position - 1)));

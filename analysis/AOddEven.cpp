@@ -13,7 +13,7 @@
 namespace {
 
 constexpr int ratioRows = 8;
-constexpr int leastWordsWidth = 180;
+constexpr int leastWordsWidth = 300;
 constexpr std::array<LastDrawNames, 4> lastDrawNames = {
     {{"Label2", "Label9"}, {"Label3", "Label10"}, {"Label12", "Label11"}, {"Label13", "Label14"}}};
 
@@ -72,7 +72,7 @@ QLayout* AOddEven::BuildRecent() {
     recent_->SetColumnLabel(2, tr("Even"));
     recent_->SetSeriesLook(1, OddLook());
     recent_->SetSeriesLook(2, EvenLook());
-    recent_->setMinimumSize(520, 190);
+    recent_->setMinimumSize(520, 180);
     auto* atRight = new QVBoxLayout;
     atRight->addLayout(lastDraws_);
     atRight->addStretch(1);
@@ -90,22 +90,22 @@ QLayout* AOddEven::BuildTotals() {
     totals_->SetRowLook(1, OddLook());
     totals_->SetRowLook(2, EvenLook());
     totals_->SetRankedRows({1, 2});
-    totals_->setMinimumSize(180, 170);
+    totals_->setMinimumSize(150, 150);
     ratios_->SetTitle(tr(" Ratio of odd:even numbers "));
-    ratios_->setMinimumSize(340, 170);
+    ratios_->setMinimumSize(300, 150);
     auto* words = new QVBoxLayout;
     words->setSpacing(6);
     words->addWidget(
         AddExplanation(QStringLiteral("Label7"), TotalsExplanation(), leastWordsWidth));
-    words->addSpacing(12);
+    words->addSpacing(8);
     words->addWidget(
         AddExplanation(QStringLiteral("Label8"), RatiosExplanation(), leastWordsWidth));
     words->addStretch(1);
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
-    row->addWidget(totals_, 3);
+    row->addWidget(totals_, 2);
     row->addLayout(words, 3);
-    row->addWidget(ratios_, 5);
+    row->addWidget(ratios_, 4);
     return row;
 }
 

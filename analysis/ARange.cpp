@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int leastChartWidth = 740;
-constexpr int leastChartHeight = 180;
+constexpr int leastChartHeight = 145;
 
 AnalysisFormText Words() {
     return {.name = QStringLiteral("ARange"),

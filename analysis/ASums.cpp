@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int ratioRows = 8;
-constexpr int leastWordsWidth = 330;
+constexpr int leastWordsWidth = 260;
 constexpr std::array<LastDrawNames, 4> lastDrawNames = {{{"Label19", "Label17"},
                                                          {"Label18", "Label16"},
                                                          {"Label3", "Label15"},
@@ -59,7 +59,7 @@ ASums::ASums(Program& program, QWidget* parent)
 
 QLayout* ASums::BuildSums() {
     sums_->SetTitle(tr(" Sums of most recent lottery draws "));
-    sums_->setMinimumSize(520, 190);
+    sums_->setMinimumSize(520, 160);
     auto* figures = new QFormLayout;
     figures->setHorizontalSpacing(12);
     figures->setVerticalSpacing(8);
@@ -75,19 +75,21 @@ QLayout* ASums::BuildSums() {
 
 QLayout* ASums::BuildRatios() {
     ratios_->SetTitle(tr(" Low:High ratio in draw results "));
-    ratios_->setMinimumSize(340, 170);
+    ratios_->setMinimumSize(340, 150);
     auto* words = new QVBoxLayout;
     words->setSpacing(6);
     words->addWidget(AddPrompt(QStringLiteral("Label12"), tr("High/Low numbers")));
     words->addWidget(
         AddExplanation(QStringLiteral("Label11"), RatioExplanation(), leastWordsWidth));
-    words->addSpacing(8);
-    words->addLayout(lastDraws_);
     words->addStretch(1);
+    auto* atRight = new QVBoxLayout;
+    atRight->addLayout(lastDraws_);
+    atRight->addStretch(1);
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
     row->addWidget(ratios_, 1);
     row->addLayout(words, 1);
+    row->addLayout(atRight);
     return row;
 }
 
