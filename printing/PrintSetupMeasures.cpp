@@ -152,7 +152,7 @@ QGroupBox* PrintSetup::MakeFrame(int frame) {
         box->setFixedWidth(boxWidth);
         const QString label = *control.label == '\0' ? QString() : tr(control.label);
         box->setAccessibleName(tr(told.title) % QLatin1Char(' ') % label);
-        if (frame > framesAboveTitles) {
+        if (frame >= framesAboveTitles) {
             box->setAccessibleDescription(frame % 2 == 0 ? tr("Main numbers") : tr("Powerball"));
         }
         if (!label.isEmpty())

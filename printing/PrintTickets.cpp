@@ -35,6 +35,7 @@ QLayout* PrintTickets::MakePrinter() {
     printers_ = Titled(printerTitle, MakePrinterList());
     auto* adjust = MakeIconButton(QStringLiteral("AdjustPrinter"), QStringLiteral("transform-move"),
                                   tr("Correct what this printer is off"));
+    adjust->setEnabled(services().printers != nullptr);
     connect(adjust, &QPushButton::clicked, this, [this] { AdjustPrinter(); });
     auto* qualityTitle = MakeLabel(QStringLiteral("Label5"), tr("Print quality:"));
     quality_ = Titled(qualityTitle, MakeQualityList());
@@ -71,6 +72,7 @@ QLayout* PrintTickets::MakeTemplate() {
 QLayout* PrintTickets::MakeActions() {
     auto* print = WithKeysOf(Command::Print, MakeButton(QStringLiteral("Command6"), tr(" Print ")));
     print->setDefault(true);
+    print->setEnabled(services().printers != nullptr);
     auto* help = MakeButton(QStringLiteral("Command2"), tr(" Get help "));
     auto* cancel = MakeButton(QStringLiteral("Command1"), tr(" Cancel "));
     SetCloseButton(cancel);

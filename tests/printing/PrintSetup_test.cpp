@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <set>
 
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
@@ -184,6 +185,16 @@ TEST_F(SettingUpSlips, NamesTheFramesOfTheMeasurements) {
         {"Text6(2)Title", "Horizontal:"}, {"Text2(1)Title", "Vertical:"}};
     for (const auto& [name, text] : titles) {
         EXPECT_EQ(Find<QLabel>(*form_, name)->text(), QString::fromLatin1(text)) << name;
+    }
+}
+
+TEST_F(SettingUpSlips, TellsAScreenReaderTheMeasurementsOfBothKindsApart) {
+    Open();
+    std::set<QString> spoken;
+    for (const auto& [name, text] : measureBoxes) {
+        const QLineEdit& box = Box(name);
+        EXPECT_TRUE(spoken.insert(box.accessibleName() + box.accessibleDescription()).second)
+            << name;
     }
 }
 
