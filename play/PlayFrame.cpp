@@ -26,13 +26,21 @@ const QString helpPage = QStringLiteral("helpplay.html");
 constexpr int rowsAroundLines = 2;
 
 constexpr int widestInput = 320;
+constexpr int fewestLotteries = 4;  // in view
+constexpr int openingHeight = 640;
 
-/// The inputs no wider than told, at the left of what room there is.
-QLayout* AtMost(int width, QLayout* inputs) {
+/// Rows of a list have some air around their letters.
+int HeightOfRows(const ListBox& list, int count) {
+    constexpr int air = 8;
+    return count * (list.fontMetrics().height() + air) + 2 * list.frameWidth();
+}
+
+/// The inputs no wider than others, at the left of what room there is.
+QLayout* AtMostWide(QLayout* inputs) {
     auto* box = new QWidget;
     inputs->setContentsMargins(0, 0, 0, 0);
     box->setLayout(inputs);
-    box->setMaximumWidth(width);
+    box->setMaximumWidth(widestInput);
     auto* row = new QHBoxLayout;
     row->addWidget(box, 1);
     row->addStretch();
@@ -77,7 +85,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
     grid_->SizeColumns();
     grid_->setAccessibleName(tr("Lottery entries"));
     auto* middle = new QHBoxLayout;
-    middle->addLayout(BuildInputs(names));
+    middle->addLayout(BuildInputs(text, names));
     middle->addSpacing(12);
     middle->addWidget(grid_);
     middle->addStretch(1);
@@ -88,30 +96,45 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
     layout->addSpacing(4);
     layout->addLayout(middle, 1);
     layout->addLayout(foot_);
-    layout->addLayout(BuildActions(text, names));
-    SetOpeningSize({sizeHint().width(), 600});
+    layout->addLayout(BuildActions(names));
+    SetOpeningSize({sizeHint().width(), openingHeight});
     SetHelpPage(helpPage);
 }
 
-QLayout* PlayFrame::BuildInputs(const PlayControlNames& names) {
+QLayout* PlayFrame::BuildInputs(const PlayFormText& text, const PlayControlNames& names) {
     QLabel* title = MakeLabel(names.lotteries, tr("Select a lottery:"));
     Titled(title, lotteries_)->setMinimumWidth(240);
     lotteries_->setMaximumWidth(widestInput);
+    lotteries_->setMinimumHeight(HeightOfRows(*lotteries_, fewestLotteries));
+    lotteries_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     connect(lotteries_, &ListBox::clicked, this, [this] { ChooseLottery(); });
-    auto* lotteries = new QHBoxLayout;
-    lotteries->addWidget(lotteries_, 1);
-    lotteries->addLayout(besideList_);
+    auto* lotteries = new QGridLayout;
+    lotteries->addWidget(lotteries_, 0, 0);
+    lotteries->addLayout(besideList_, 0, 1);
+    lotteries->setColumnStretch(0, 1);
     auto* column = new QVBoxLayout;
     column->addWidget(title);
     column->addLayout(lotteries, 1);
     column->addSpacing(8);
-    columnAndFilters_->addLayout(column_);
+    auto* inputs = new QVBoxLayout;
+    inputs->addLayout(column_);
+    inputs->addLayout(BuildGenerate(text));
+    columnAndFilters_->addLayout(inputs);
     columnAndFilters_->addSpacing(8);
-    if (!names.filters.isEmpty()) {
-        columnAndFilters_->addLayout(AtMost(widestInput, BuildFilters(names)));
-    }
+    if (!names.filters.isEmpty()) columnAndFilters_->addLayout(AtMostWide(BuildFilters(names)));
     column->addLayout(columnAndFilters_);
     return column;
+}
+
+QLayout* PlayFrame::BuildGenerate(const PlayFormText& text) {
+    const QString usualTip = tr("Generate another selection of lottery entries");
+    generate_ = MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
+                                  text.generateTip.isEmpty() ? usualTip : text.generateTip);
+    generate_->setDefault(true);
+    connect(generate_, &QPushButton::clicked, this, [this] { ClickGenerate(); });
+    auto* row = new QVBoxLayout;
+    row->addWidget(generate_);
+    return AtMostWide(row);
 }
 
 QLayout* PlayFrame::BuildFilters(const PlayControlNames& names) {
@@ -131,25 +154,19 @@ QPushButton* PlayFrame::BuildFilter(const QString& name, const QString& caption,
     return filter;
 }
 
-QLayout* PlayFrame::BuildActions(const PlayFormText& text, const PlayControlNames& names) {
-    const QString usualTip = tr("Generate another selection of lottery entries");
-    generate_ = MakeCommandButton(QStringLiteral("Command2"), Command::Generate,
-                                  text.generateTip.isEmpty() ? usualTip : text.generateTip);
+QLayout* PlayFrame::BuildActions(const PlayControlNames& names) {
     QPushButton* print = MakeCommandButton(QStringLiteral("Command6"), Command::Print,
                                            tr("Print out the lottery entries"));
     QPushButton* save = MakeCommandButton(QStringLiteral("Command7"), Command::Save,
                                           tr("Save these lottery entries to disk"));
     close_ = MakeCommandButton(QStringLiteral("Command1"), Command::Close, tr(" Close "));
-    generate_->setDefault(true);
     print->setEnabled(static_cast<bool>(services().printLines));
-    connect(generate_, &QPushButton::clicked, this, [this] { ClickGenerate(); });
     connect(print, &QPushButton::clicked, this, [this] { PrintLines(); });
     connect(save, &QPushButton::clicked, this, [this] { SaveLines(); });
     connect(close_, &QPushButton::clicked, this, [this] { Close(); });
     SetCloseButton(close_);
-    if (names.help.isEmpty()) return BuildActionRow({generate_, print, save}, {close_});
-    return BuildActionRow({generate_, print, save},
-                          {MakeHelpButton(names.help, tr(" Help ")), close_});
+    if (names.help.isEmpty()) return BuildActionRow({print, save}, {close_});
+    return BuildActionRow({print, save}, {MakeHelpButton(names.help, tr(" Help ")), close_});
 }
 
 QPushButton* PlayFrame::MakeHelpButton(const QString& name, const QString& caption) {

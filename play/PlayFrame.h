@@ -116,14 +116,15 @@ class PlayFrame : public Form {
     /// side.
     QBoxLayout& ColumnAndFilters() { return *columnAndFilters_; }
 
-    /// The generate button, for a form that gives it another place than at the bottom.
+    /// The generate button, for a form that gives it another place than below `Column()`.
     QPushButton& GenerateButton() { return *generate_; }
 
   private:
-    QLayout* BuildInputs(const PlayControlNames& names);
+    QLayout* BuildInputs(const PlayFormText& text, const PlayControlNames& names);
+    QLayout* BuildGenerate(const PlayFormText& text);
     QLayout* BuildFilters(const PlayControlNames& names);
     QPushButton* BuildFilter(const QString& name, const QString& caption, void (*prune)(State&));
-    QLayout* BuildActions(const PlayFormText& text, const PlayControlNames& names);
+    QLayout* BuildActions(const PlayControlNames& names);
     void Filter(void (*prune)(State&));
     void PrintLines();
     void SaveLines();

@@ -475,10 +475,10 @@ TEST_F(KeyForm, GeneratesOnEnter) {
 TEST_F(KeyForm, ReachesItsControlsByTabInReadingOrder) {
     Open(3);
     ExpectTabOrder({lotteryList, barNames[0], barNames[1], barNames[2], explainButton, oddEvenBox,
-                    highLowBox, previousDrawsBox, filtersFromEight.oddEven,
+                    highLowBox, previousDrawsBox, generateButton, filtersFromEight.oddEven,
                     filtersFromEight.highLow, filtersFromEight.longRuns,
-                    filtersFromEight.previousDraws, linesGrid, generateButton, saveButton,
-                    helpButton, closeButton});
+                    filtersFromEight.previousDraws, linesGrid, saveButton, helpButton,
+                    closeButton});
 }
 
 TEST_F(KeyForm, PlaysEveryNumberOfEachRealLotteryWithItsKeys) {

@@ -248,9 +248,10 @@ TEST_F(AveragesForm, GeneratesOnEnter) {
 TEST_F(AveragesForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
     ExpectTabOrder({lotteryList, lineCountBar, explainButton, oddEvenBox, highLowBox,
-                    previousDrawsBox, filtersFromEight.oddEven, filtersFromEight.highLow,
-                    filtersFromEight.longRuns, filtersFromEight.previousDraws, linesGrid,
-                    generateButton, saveButton, helpButton, closeButton});
+                    previousDrawsBox, generateButton, filtersFromEight.oddEven,
+                    filtersFromEight.highLow, filtersFromEight.longRuns,
+                    filtersFromEight.previousDraws, linesGrid, saveButton, helpButton,
+                    closeButton});
 }
 
 TEST_F(AveragesForm, StaysCloseToTheAverageOfEachRealHistory) {

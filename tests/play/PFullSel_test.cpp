@@ -210,9 +210,9 @@ TEST_F(FullSelectionForm, GeneratesOnEnter) {
 TEST_F(FullSelectionForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
     ExpectTabOrder({lotteryList, includeAllBox, explainButton, oddEvenBox, highLowBox,
-                    previousDrawsBox, usualFilters.oddEven, usualFilters.highLow,
-                    usualFilters.longRuns, usualFilters.previousDraws, linesGrid, generateButton,
-                    saveButton, helpButton, closeButton});
+                    previousDrawsBox, generateButton, usualFilters.oddEven, usualFilters.highLow,
+                    usualFilters.longRuns, usualFilters.previousDraws, linesGrid, saveButton,
+                    helpButton, closeButton});
 }
 
 TEST_F(FullSelectionForm, TakesColoursOneToFourOfTheSkin) {

@@ -208,8 +208,8 @@ TEST_F(HotNumbersForm, TakesTheSkinsColoursAtLoadAndTheModesOnAChangeOfMode) {
 
 TEST_F(HotNumbersForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
-    ExpectTabOrder({lotteryList, hotOption, coldOption, filters.oddEven, filters.highLow,
-                    filters.longRuns, filters.previousDraws, linesGrid, generateButton, saveButton,
+    ExpectTabOrder({lotteryList, hotOption, coldOption, generateButton, filters.oddEven,
+                    filters.highLow, filters.longRuns, filters.previousDraws, linesGrid, saveButton,
                     helpButton, closeButton});
 }
 

@@ -153,6 +153,29 @@ TEST_F(ThePlayFrame, GivesTheRoomOfAWideWindowToTheSideOfTheGrid) {
     EXPECT_LE(filter->mapTo(form.get(), filter->rect().topRight()).x() - list->x(), 320);
 }
 
+TEST_F(ThePlayFrame, HasGenerateBelowTheInputsAndAboveTheFilters) {
+    form->show();
+    QApplication::processEvents();
+    const auto top = [this](const char* name) {
+        return Find<QWidget>(*form, name)->mapTo(form.get(), QPoint(0, 0)).y();
+    };
+    EXPECT_GT(top(generateButton), top(lotteryList));
+    EXPECT_LT(top(generateButton), top(usualFilters.oddEven));
+    EXPECT_TRUE(Find<QPushButton>(*form, generateButton)->isDefault());
+}
+
+TEST_F(ThePlayFrame, ShowsFourLotteriesAtLeastAndMoreWhereThereIsRoom) {
+    form->show();
+    form->resize(form->minimumSize());
+    QApplication::processEvents();
+    auto* list = Find<ListBox>(*form, lotteryList);
+    EXPECT_GE(list->viewport()->height(), 4 * list->sizeHintForRow(0));
+    const int height = list->height();
+    form->resize(form->size() + QSize(0, 200));
+    QApplication::processEvents();
+    EXPECT_EQ(list->height(), height + 200) << "the spare height is the list's";
+}
+
 TEST_F(ThePlayFrame, SaysHowManyLinesAFilterTookOut) {
     form->show();
     test.state.Settings(setting::LongRunStrength) = "2";

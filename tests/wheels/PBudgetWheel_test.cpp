@@ -436,9 +436,9 @@ TEST_F(BudgetWheelsForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
     ExpectTabOrder({lotteryList, "Option1(0)", "Option1(1)", "Option1(2)", "Option1(3)", "Text1(0)",
                     "Text1(1)"});
-    ExpectTabOrder({"Text1(8)", randomSelectionButton, randomOrderButton, usualFilters.oddEven,
-                    usualFilters.highLow, usualFilters.longRuns, usualFilters.previousDraws,
-                    linesGrid, generateButton, saveButton, helpButton, closeButton});
+    ExpectTabOrder({"Text1(8)", randomSelectionButton, randomOrderButton, generateButton,
+                    usualFilters.oddEven, usualFilters.highLow, usualFilters.longRuns,
+                    usualFilters.previousDraws, linesGrid, saveButton, helpButton, closeButton});
 }
 
 TEST_F(BudgetWheelsForm, EndsInTheReportWithoutALottery) {

@@ -304,9 +304,9 @@ TEST_F(CreateAWheel, OpensTheHelpPage) {
 TEST_F(CreateAWheel, ReachesItsControlsByTabInReadingOrder) {
     Open();
     ExpectTabOrder({lotteryList, numbersList, intervalList, "Text1(0)", "Text1(1)"});
-    ExpectTabOrder({"Text1(7)", randomSelectionButton, randomOrderButton, usualFilters.oddEven,
-                    usualFilters.highLow, usualFilters.longRuns, usualFilters.previousDraws,
-                    linesGrid, generateButton, saveButton, helpButton, closeButton});
+    ExpectTabOrder({"Text1(7)", randomSelectionButton, randomOrderButton, generateButton,
+                    usualFilters.oddEven, usualFilters.highLow, usualFilters.longRuns,
+                    usualFilters.previousDraws, linesGrid, saveButton, helpButton, closeButton});
 }
 
 TEST_F(CreateAWheel, EndsInTheReportWithoutALottery) {

@@ -332,9 +332,9 @@ TEST_F(HotWheelsForm, TakesColoursOneToThreeOfTheSkinAndKeepsThoseOfTheMode) {
 
 TEST_F(HotWheelsForm, ReachesItsControlsByTabInReadingOrder) {
     Open();
-    ExpectTabOrder({lotteryList, numbersList, intervalList, hotOption, coldOption, filters.oddEven,
-                    filters.highLow, filters.longRuns, filters.previousDraws, linesGrid,
-                    generateButton, saveButton, helpButton, closeButton});
+    ExpectTabOrder({lotteryList, numbersList, intervalList, hotOption, coldOption, generateButton,
+                    filters.oddEven, filters.highLow, filters.longRuns, filters.previousDraws,
+                    linesGrid, saveButton, helpButton, closeButton});
 }
 
 TEST_F(HotWheelsForm, EndsInTheReportOnANumberAboveSeventy) {
