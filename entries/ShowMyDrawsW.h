@@ -43,8 +43,8 @@ class ShowMyDrawsW final : public Form {
     QLayout* MakeCommands();
     std::vector<QWidget*> MakeItemRow();
     std::vector<QWidget*> MakeDateRow();
-    std::vector<QWidget*> MakeDeleteRow();
     std::vector<QWidget*> MakeSortRow();
+    QLayout* MakeDeletingButtons();
     QLayout* MakeCheck();
     QWidget* MakeColourKey();
     QLayout* MakeReport();

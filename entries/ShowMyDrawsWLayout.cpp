@@ -22,11 +22,19 @@ namespace {
 
 constexpr int rowCount = 501;
 constexpr int columnCount = 12;
+constexpr int airAboveDeleting = 8;  // besides the spaces between rows
 
 /// Keeps the room of so many lines, which a layout does not count in a wrapped text's smallest
 /// height.
 void KeepLines(QLabel& text, int lines) {
     text.setMinimumHeight(lines * text.fontMetrics().lineSpacing());
+}
+
+// Some captions stand on several buttons: the tool-tip tells them apart.
+QPushButton* WithToolTip(QPushButton* button, const QString& toolTip) {
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip.trimmed());
+    return button;
 }
 
 }  // namespace
@@ -87,13 +95,9 @@ QPushButton* ShowMyDrawsW::AddCommand(QPushButton* button, Action action) {
     return button;
 }
 
-// Some captions stand on several buttons: the tool-tip tells them apart.
 QPushButton* ShowMyDrawsW::MakeCommand(const QString& name, const QString& caption,
                                        const QString& toolTip, Action action) {
-    QPushButton* button = MakeButton(name, caption);
-    button->setToolTip(toolTip);
-    button->setAccessibleName(toolTip.trimmed());
-    return AddCommand(button, action);
+    return AddCommand(WithToolTip(MakeButton(name, caption), toolTip), action);
 }
 
 QPushButton* ShowMyDrawsW::MakeIconCommand(const QString& name, Command command,
@@ -101,16 +105,20 @@ QPushButton* ShowMyDrawsW::MakeIconCommand(const QString& name, Command command,
     return AddCommand(MakeCommandButton(name, command, toolTip), action);
 }
 
+// What deletes stands last, and no other command just above it.
 QLayout* ShowMyDrawsW::MakeCommands() {
     auto* commands = new QGridLayout;
     commands->setHorizontalSpacing(8);
     commands->setVerticalSpacing(8);
     int row = 0;
-    for (const auto& widgets : {MakeItemRow(), MakeDateRow(), MakeDeleteRow(), MakeSortRow()}) {
+    for (const auto& widgets : {MakeItemRow(), MakeDateRow(), MakeSortRow()}) {
         int column = 0;
         for (QWidget* widget : widgets) commands->addWidget(widget, row, column++);
         ++row;
     }
+    commands->setRowMinimumHeight(row++, airAboveDeleting);
+    commands->addWidget(MakeLabel(QStringLiteral("DeleteLabel"), tr("Delete:")), row, 0);
+    commands->addLayout(MakeDeletingButtons(), row++, 1, 1, -1);
     commands->setColumnMinimumWidth(1, 128);
     commands->setRowStretch(row, 1);
     return commands;
@@ -139,15 +147,22 @@ std::vector<QWidget*> ShowMyDrawsW::MakeDateRow() {
                         tr(" Change date of all rows "), &ShowMyDrawsW::ChangeAllDates)};
 }
 
-std::vector<QWidget*> ShowMyDrawsW::MakeDeleteRow() {
-    return {
-        MakeLabel(QStringLiteral("DeleteLabel"), tr("Delete:")),
-        MakeCommand(QStringLiteral("Command4"), tr("Out of date"),
-                    tr(" Delete lottery entries older than today "), &ShowMyDrawsW::DeleteOldRows),
-        MakeCommand(QStringLiteral("Command7"), tr("This row"),
-                    tr(" Delete the current lottery entry "), &ShowMyDrawsW::DeleteThisRow),
-        MakeCommand(QStringLiteral("Command9"), tr("All rows"), tr(" Delete all lottery entries "),
-                    &ShowMyDrawsW::DeleteAllRows)};
+QLayout* ShowMyDrawsW::MakeDeletingButtons() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    const auto add = [this, row](const char* name, const QString& caption, const QString& toolTip,
+                                 Action action) {
+        QPushButton* button = MakeDeletingButton(QString::fromLatin1(name), caption);
+        AddApart(*row, AddCommand(WithToolTip(button, toolTip), action));
+    };
+    add("Command4", tr("Out of date"), tr(" Delete lottery entries older than today "),
+        &ShowMyDrawsW::DeleteOldRows);
+    add("Command7", tr("This row"), tr(" Delete the current lottery entry "),
+        &ShowMyDrawsW::DeleteThisRow);
+    add("Command9", tr("All rows"), tr(" Delete all lottery entries "),
+        &ShowMyDrawsW::DeleteAllRows);
+    row->addStretch(1);
+    return row;
 }
 
 std::vector<QWidget*> ShowMyDrawsW::MakeSortRow() {

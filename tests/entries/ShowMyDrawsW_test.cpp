@@ -776,6 +776,24 @@ TEST_F(ShowingEntries, GetsAlongWithASmallScreenAndWithLargeLetters) {
     QApplication::setFont(usual);
 }
 
+TEST_F(ShowingEntries, WhatDeletesBearsTheIconAndStandsApartFromAllElse) {
+    Open();
+    const auto place = [this](const char* name) {
+        const auto* button = Find<QPushButton>(*form_, name);
+        return QRect(button->mapTo(form_.get(), QPoint()), button->size());
+    };
+    const std::vector<const char*> deleting = {deleteOldRows, deleteThisRow, deleteAllRows};
+    for (const char* name : deleting) {
+        EXPECT_FALSE(Find<QPushButton>(*form_, name)->icon().isNull()) << name;
+        for (const QPushButton* other : form_->findChildren<QPushButton*>()) {
+            const std::string otherName = other->objectName().toStdString();
+            if (otherName == name) continue;
+            const QRect around = place(name).adjusted(-24, -16, 24, 0);
+            EXPECT_FALSE(around.intersects(place(otherName.c_str()))) << name << otherName;
+        }
+    }
+}
+
 TEST_F(ShowingEntries, TheReportHasRoomInAHighWindow) {
     Open();
     Run(checkButton);
