@@ -2,6 +2,7 @@
 #include "platform/system/MessageBoxes.h"
 
 #include <QCursor>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QMessageBox>
 
@@ -51,6 +52,17 @@ void SetButtons(QMessageBox& box, const Message& message) {
     }
 }
 
+/// Makes the box at least as wide as its title and what else stands in a title bar; a desktop
+/// would cut the title of a short message.
+void WidenToTitle(QMessageBox& box) {
+    constexpr int buttonsOfTitleBar = 120;
+    QFont bold = box.font();
+    bold.setBold(true);
+    const int width = QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + buttonsOfTitleBar;
+    auto* layout = qobject_cast<QGridLayout*>(box.layout());
+    layout->addItem(new QSpacerItem(width, 0), layout->rowCount(), 0, 1, layout->columnCount());
+}
+
 Answer AnswerOf(int button) {
     switch (button) {
         case QMessageBox::Yes:
@@ -74,5 +86,6 @@ Answer DesktopMessageBoxes::Show(QWidget* parent, const Message& message) {
     box.setText(message.text);
     box.setIcon(IconOf(message.sign));
     SetButtons(box, message);
+    WidenToTitle(box);
     return AnswerOf(box.exec());
 }

@@ -48,6 +48,15 @@ TEST(AMessageBox, HasExactlyTheTitleTheTextTheSignAndTheButtons) {
     });
 }
 
+TEST(AMessageBox, HasRoomForItsTitleBesideTheButtonsOfTheTitleBar) {
+    Message message = Asked(Buttons::Ok);
+    message.title = QStringLiteral("There is nothing to print or save in this list of entries");
+    message.text = QStringLiteral("Oops!");
+    AnswerTo(message, [&message](QMessageBox& box) {
+        EXPECT_GE(box.width(), QFontMetrics(box.font()).horizontalAdvance(message.title) + 100);
+    });
+}
+
 TEST(AMessageBox, ShowsTextThatLooksLikeMarkupAsItStands) {
     AnswerTo({.title = {}, .text = QStringLiteral("<b>1 & 2</b>")}, [](QMessageBox& box) {
         EXPECT_EQ(box.text(), QStringLiteral("<b>1 & 2</b>"));
