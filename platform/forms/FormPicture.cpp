@@ -6,10 +6,12 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPointer>
+#include <QScrollBar>
 #include <QWidget>
 #include <utility>
 #include <vector>
 
+#include "platform/forms/ScrollingBody.h"
 #include "platform/forms/Skin.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/Contrast.h"
@@ -57,6 +59,33 @@ class PaperColours {
     std::vector<std::pair<QWidget*, QPalette>> changes_;
 };
 
+/// Gives a form that scrolls the room for all that stands on it while it lives.
+class WholeForm {
+  public:
+    explicit WholeForm(QWidget& form)
+        : form_(form), size_(form.size()), body_(form.findChild<ScrollingBody*>()) {
+        if (body_ == nullptr) return;
+        across_ = body_->horizontalScrollBar()->value();
+        down_ = body_->verticalScrollBar()->value();
+        form_.resize(size_ + body_->Content().size() - body_->viewport()->size());
+    }
+    ~WholeForm() {
+        if (body_ == nullptr) return;
+        form_.resize(size_);
+        body_->horizontalScrollBar()->setValue(across_);
+        body_->verticalScrollBar()->setValue(down_);
+    }
+    WholeForm(const WholeForm&) = delete;
+    WholeForm& operator=(const WholeForm&) = delete;
+
+  private:
+    QWidget& form_;
+    QSize size_;
+    ScrollingBody* body_;
+    int across_ = 0;
+    int down_ = 0;
+};
+
 /// What stands on the form, without the skin behind it.
 QImage ImageOf(QWidget& form) {
     QImage image((QSizeF(form.size()) * pixelsPerPixel).toSize(),
@@ -89,6 +118,7 @@ std::vector<PlacedChart> ChartsOn(const QWidget& form) {
 }  // namespace
 
 PictureJob PictureOf(QWidget& form) {
+    const WholeForm whole(form);
     const QImage image = ImageOf(form);
     const QSizeF size = form.size();
     const auto charts = ChartsOn(form);

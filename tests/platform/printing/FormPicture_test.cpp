@@ -3,9 +3,11 @@
 
 #include <QLabel>
 #include <QPainter>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "core/settings.h"
+#include "platform/forms/ScrollingBody.h"
 #include "platform/system/PrintTask.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/Widgets.h"
@@ -104,6 +106,46 @@ TEST_F(FormPictureTest, FitsWholeOnTheSheetInItsProportionsWithTextsOfChartsAsTe
     const QRectF title = sheets[0].Word(QStringLiteral("Frequency"));
     EXPECT_GT(title.left(), 0);
     EXPECT_LT(title.right(), 297);
+}
+
+/// A form of so many labels that no screen has the room for it.
+class LongForm final : public Form {
+  public:
+    explicit LongForm(Program& program)
+        : Form(program, QStringLiteral("LongForm"), QStringLiteral("Long"), nullptr) {
+        auto* layout = new QVBoxLayout(this);
+        for (int label = 0; label < 20; ++label) {
+            layout->addWidget(MakeLabel(Member(QStringLiteral("Label1"), label), QString()));
+            Label(label)->setMinimumSize(100, 100);
+        }
+        Label(19)->setAutoFillBackground(true);
+        Label(19)->setPalette(QPalette(Qt::black, Qt::black));
+    }
+
+    QLabel* Label(int index) { return Find<QLabel>(*this, qPrintable(Name(index))); }
+
+  private:
+    static QString Name(int index) { return Member(QStringLiteral("Label1"), index); }
+};
+
+TEST(APictureOfAFormThatScrolls, ShowsAllOfItAndLeavesItAsItWas) {
+    TestProgram test;
+    LongForm form(test.program);
+    form.show();
+    QApplication::processEvents();
+    QScrollBar* bar = form.findChild<ScrollingBody*>()->verticalScrollBar();
+    bar->setValue(77);
+    const QSize size = form.size();
+    const PictureJob job = PictureOf(form);
+    EXPECT_GT(job.size.height(), 2000);
+    EXPECT_EQ(form.size(), size);
+    EXPECT_EQ(bar->value(), 77);
+    QImage image(job.size.toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    job.paint(painter, QRectF(QPointF(), job.size));
+    EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() - 50), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() - 150), QColor(Qt::white));
 }
 
 TEST(TaskOfPicture, APictureFillsTheRoomInItsProportions) {
