@@ -102,6 +102,17 @@ INLINED inline bool AreDistinctInField(const std::int16_t* numbers, int picks, i
     return inField && repeated == 0;
 }
 
+// Whether a number from 1 to `maxNum` stands there twice.
+bool HoldsNumberTwice(const std::int16_t* numbers, int picks, int maxNum) {
+    std::array<Word, 2> seen{};
+    return std::any_of(numbers, numbers + picks, [&](int number) {
+        if (number < 1 || number > maxNum) return false;
+        Word& word = seen[static_cast<unsigned>(number) / 64];
+        const Word bit = Word{1} << (static_cast<unsigned>(number) % 64);
+        return (std::exchange(word, word | bit) & bit) != 0;
+    });
+}
+
 // The rows of bits by number, and what is asked of them.
 struct Question {
     const Word* rows = nullptr;
@@ -172,23 +183,20 @@ void DrawIndex::Update(const State& state) {
 }
 
 void DrawIndex::AddDraw(const std::int16_t* numbers, int draw) {
+    if (HoldsNumberTwice(numbers, picks_, maxNum_)) {
+        repeatingRows_.push_back(draw + 1);
+        std::copy_n(numbers, picks_, repeatingDraws_.emplace_back().begin());
+        return;
+    }
     const auto word = static_cast<std::size_t>(draw) / 64;
-    const std::uint64_t bit = std::uint64_t{1} << (static_cast<unsigned>(draw) % 64);
-    std::uint64_t before = 0;
+    const Word bit = Word{1} << (static_cast<unsigned>(draw) % 64);
     for (int pick = 0; pick < picks_; ++pick) {
         if (numbers[pick] < 1 || numbers[pick] > maxNum_) continue;
-        std::uint64_t& bits = rows_[static_cast<std::size_t>(numbers[pick])].bits[word];
-        before |= bits & bit;
-        bits |= bit;
+        rows_[static_cast<std::size_t>(numbers[pick])].bits[word] |= bit;
     }
     const int extra = numbers[extraPlace];
-    if (extra >= 0 && extra <= largestField) {
-        extraRows_[static_cast<std::size_t>(extra)].bits[word] |= bit;
-    }
-    if (before == 0) return;
-    repeatingRows_.push_back(draw + 1);
-    Draw& repeating = repeatingDraws_.emplace_back();
-    std::copy_n(numbers, picks_, repeating.begin());
+    if (extra < 0 || extra > largestField) return;
+    extraRows_[static_cast<std::size_t>(extra)].bits[word] |= bit;
 }
 
 bool DrawIndex::Covers(const std::int16_t* numbers) const {
@@ -218,8 +226,8 @@ bool DrawIndex::AnyDrawMatches(const std::int16_t* numbers, long long matches) c
     return LinesBeforeMatch(numbers, 0, 1, matches) == 0;
 }
 
-// The rows of bits count a number that a draw holds twice once only, so these draws are compared
-// pair by pair.
+// A bit counts a number once, however often a draw holds it, so these draws are compared pair by
+// pair.
 bool DrawIndex::AnyRepeatingDrawMatches(const std::int16_t* numbers, long long matches) const {
     return std::any_of(repeatingDraws_.begin(), repeatingDraws_.end(), [&](const Draw& draw) {
         long long equal = 0;

@@ -28,10 +28,8 @@ class DrawIndex {
     bool Covers(const std::int16_t* numbers) const;
 
     /// A bit for each draw that has the number, from 0 to `MaxNum`, in columns 1 to `Picks`, and
-    /// for each whose column 8 is the number, from 0 to `largestField`: draw r is bit (r - 1) % 64
-    /// of word (r - 1) / 64. There are 48 words, those behind the last draw 0.
-    ///
-    /// A draw that holds a number twice has one bit for it all the same.
+    /// for each whose column 8 is the number, from 0 to `largestField`. There are `words` words,
+    /// aligned to 32 bytes; a draw that holds a number of the field twice has no bits.
     const std::uint64_t* Draws(int number) const { return Bits(rows_, number); }
     const std::uint64_t* DrawsWithExtra(int number) const { return Bits(extraRows_, number); }
 
@@ -51,9 +49,9 @@ class DrawIndex {
                          long long matches) const;
 
     static constexpr int largestField = 120;
+    static constexpr int words = 48;  ///< Of a row of bits: 3,072 draws.
 
   private:
-    static constexpr int words = 48;  // 3,072 draws
     struct alignas(32) BitRow {
         std::array<std::uint64_t, words> bits{};
     };
@@ -72,8 +70,8 @@ class DrawIndex {
     int drawCount_ = 0;
     bool built_ = false;
     bool usable_ = false;
-    std::vector<BitRow> rows_;          // by number, from 0
-    std::vector<BitRow> extraRows_;     // the same for column 8
-    std::vector<int> repeatingRows_;    // of the draws below
-    std::vector<Draw> repeatingDraws_;  // hold a number of the field twice
+    std::vector<BitRow> rows_;        // by number, from 0
+    std::vector<BitRow> extraRows_;   // the same for column 8
+    std::vector<int> repeatingRows_;  // of the draws that hold a number of the field twice
+    std::vector<Draw> repeatingDraws_;
 };
