@@ -8,8 +8,6 @@
 
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/NumberBox.h"
-#include "platform/widgets/PastedNumbers.h"
-#include "platform/widgets/Widgets.h"
 
 namespace {
 
@@ -20,15 +18,8 @@ QString tr(const char* text) { return QCoreApplication::translate("DrawBoxes", t
 }  // namespace
 
 DrawBoxes MakeDrawBoxes(int firstIndex) {
-    DrawBoxes boxes;
-    for (int i = 0; i < std::ssize(boxes); ++i) {
-        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), firstIndex + i));
-        box->setAccessibleName(i == 7 ? tr("Bonus or extra ball") : tr("Number %1").arg(i + 1));
-        box->setAlignment(Qt::AlignCenter);
-        box->setFixedWidth(boxWidth);
-        boxes[static_cast<std::size_t>(i)] = box;
-    }
-    DealPastedNumbers({boxes.begin(), boxes.end()});
+    const DrawBoxes boxes = MakeEntryBoxes(firstIndex, tr("Bonus or extra ball"));
+    for (NumberBox* box : boxes) box->setFixedWidth(boxWidth);
     return boxes;
 }
 

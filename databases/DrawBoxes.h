@@ -5,12 +5,12 @@
 #include <array>
 #include <string>
 
-class NumberBox;
-class QLabel;
+#include "platform/forms/EntryBoxes.h"
+
 class QLayout;
 
-/// The boxes of one draw: seven main numbers, then the bonus or extra ball. Indices from 0.
-using DrawBoxes = std::array<NumberBox*, 8>;
+/// The boxes of one draw.
+using DrawBoxes = EntryBoxes;
 
 /// Makes the boxes `Text1(firstIndex)` and on, each with a name for screen readers. Several numbers
 /// pasted into one are dealt to those behind it.

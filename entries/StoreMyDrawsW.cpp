@@ -4,10 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <string>
 
 #include "core/draw_database.h"
-#include "core/failure.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LotteryList.h"
@@ -23,7 +21,6 @@
 
 namespace {
 
-constexpr int boxCount = 8;
 constexpr int extraBallBox = 8;
 
 // Kept on purpose: rows move without their database file: a moved row takes the file name of its
@@ -53,23 +50,9 @@ void StoreMyDrawsW::Load() {
 void StoreMyDrawsW::ChooseLottery() {
     const Hourglass hourglass;
     LoadDatabaseHeader(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
-    ShowBoxes();
+    OfferEntryBoxes(state(), boxes_, *extraBallTitle_);
     GoToRow(parkingRow);
     add_->setEnabled(true);
-}
-
-void StoreMyDrawsW::ShowBoxes() {
-    if (state().Picks > boxCount) {
-        throw Failure(state().DbaseFile + ": an entry has " + std::to_string(boxCount) +
-                      " boxes for its numbers, but the lottery has " +
-                      std::to_string(state().Picks) + " numbers in a line.");
-    }
-    const bool hasExtraBall = state().MaxPball > 0;
-    for (int index = 1; index <= boxCount; ++index) {
-        const bool isExtraBall = hasExtraBall && index == extraBallBox;
-        Box(index)->setVisible(index <= state().Picks || isExtraBall);
-    }
-    extraBallTitle_->setVisible(hasExtraBall);
 }
 
 bool StoreMyDrawsW::NumbersAreValid() const {

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-
+#include "platform/forms/EntryBoxes.h"
 #include "platform/forms/Form.h"
 
 enum class Command;
 class DatePicker;
 class Grid;
 class ListBox;
-class NumberBox;
-class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
@@ -42,7 +39,6 @@ class StoreMyDrawsW final : public Form {
     QLayout* MakeActions();
 
     void ChooseLottery();
-    void ShowBoxes();
 
     void Add();
     bool NumbersAreValid() const;
@@ -67,7 +63,7 @@ class StoreMyDrawsW final : public Form {
     ListBox* lotteries_;
     DatePicker* date_;
     QLineEdit* player_;
-    std::array<NumberBox*, 8> boxes_;
+    EntryBoxes boxes_;
     QLabel* extraBallTitle_;
     QPushButton* add_;
     Grid* grid_;

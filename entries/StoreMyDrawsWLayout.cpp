@@ -14,7 +14,6 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
-#include "platform/widgets/PastedNumbers.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -107,14 +106,7 @@ QLayout* StoreMyDrawsW::MakeHeadings() {
 }
 
 QLayout* StoreMyDrawsW::MakeBoxes() {
-    for (int index = 1; index <= entry_column::extraBall; ++index) {
-        auto* box = Named(new NumberBox, Member(QStringLiteral("Text1"), index));
-        box->setAccessibleName(index == entry_column::extraBall ? tr("Extra ball")
-                                                                : tr("Number %1").arg(index));
-        box->setAlignment(Qt::AlignCenter);
-        boxes_[static_cast<std::size_t>(index - 1)] = box;
-    }
-    DealPastedNumbers({boxes_.begin(), boxes_.end()});
+    boxes_ = MakeEntryBoxes(1, tr("Extra ball"));
     add_ = MakeButton(QStringLiteral("Command2"), tr("Add"));
     add_->setToolTip(tr(" Add this entry to the grid "));
     add_->setDefault(true);
