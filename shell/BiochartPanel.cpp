@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "analysis/biorhythms.h"
 #include "core/settings.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Widgets.h"
-#include "shell/biochart.h"
 
 namespace {
 
@@ -72,15 +72,15 @@ void BiochartPanel::LabelChart() {
 
 void BiochartPanel::ShowBirthDate() {
     const Services& services = program_.services;
-    birthDate_->SetValue(DateFromText(program_.state.Settings(setting::BirthDate), services.region,
-                                      services.today(), PlaceOf(setting::BirthDate)));
+    birthDate_->SetValue(
+        biorhythms::BirthDate(program_.state, services.region, services.today()));
 }
 
 void BiochartPanel::DoBiorhythm() {
     const Date birthDate = birthDate_->Value();
     int days = DaysBetween(birthDate, program_.services.today());
     if (tomorrow_->isChecked()) ++days;
-    const std::array<double, seriesCount> values = Biochart(days);
+    const biorhythms::Values values = biorhythms::Biochart(days);
     for (int column = 1; column <= seriesCount; ++column) {
         chart_->SetValue(1, column, values.at(static_cast<std::size_t>(column - 1)));
     }

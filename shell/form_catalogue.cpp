@@ -10,6 +10,7 @@
 #include "analysis/AOddEven.h"
 #include "analysis/ARange.h"
 #include "analysis/ASums.h"
+#include "analysis/Biorhythm.h"
 #include "databases/CreateDbase.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/DeleteDbaseW.h"
@@ -92,7 +93,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "AnalyseRange", .form = "ARange", .make = Make<ARange>},
     {.menuEntry = "AnalyseNumStats", .form = "ANumberStats"},
     {.menuEntry = "AnalyseOddEven", .form = "AOddEven", .make = Make<AOddEven>},
-    {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm"},
+    {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm", .make = Make<Biorhythm>},
     {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
 
     {.menuEntry = "PlayAverages", .form = "PAverage", .make = Make<PAverage>},

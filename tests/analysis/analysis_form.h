@@ -98,7 +98,7 @@ class AnalysisFormTest : public testing::Test {
     }
 
     /// Whether the print button is grey without printing and prints the form with it.
-    void ExpectPrintsItself() {
+    void ExpectPrintsItself(const char* closeButton = "Command1") {
         Open();
         EXPECT_FALSE(Find<QPushButton>(*form_, "Command6")->isEnabled());
         const QWidget* printed = nullptr;
@@ -106,7 +106,7 @@ class AnalysisFormTest : public testing::Test {
         Open();
         Click(*form_, "Command6");
         EXPECT_EQ(printed, form_.get());
-        Click(*form_, "Command1");
+        Click(*form_, closeButton);
         EXPECT_FALSE(form_->isVisible());
     }
 

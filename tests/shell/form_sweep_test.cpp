@@ -52,6 +52,7 @@ std::string PictureOf(const std::string& form) {
         {"PrintTickets", ""},
         {"PrinterCorrection", ""},
         {"PrintSetup", "SkinFile.jpg"},
+        {"Biorhythm", "SkinAnalyse.jpg"},
         {"CreateDbase", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
