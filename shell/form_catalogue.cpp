@@ -7,6 +7,7 @@
 
 #include "analysis/AAverages.h"
 #include "analysis/ACommonNumbers.h"
+#include "analysis/ANumberStats.h"
 #include "analysis/AOddEven.h"
 #include "analysis/ARange.h"
 #include "analysis/ASums.h"
@@ -91,7 +92,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "AnalyseLowHigh", .form = "ASums", .make = Make<ASums>},
     {.menuEntry = "AnalysisAverages", .form = "AAverages", .make = Make<AAverages>},
     {.menuEntry = "AnalyseRange", .form = "ARange", .make = Make<ARange>},
-    {.menuEntry = "AnalyseNumStats", .form = "ANumberStats"},
+    {.menuEntry = "AnalyseNumStats", .form = "ANumberStats", .make = Make<ANumberStats>},
     {.menuEntry = "AnalyseOddEven", .form = "AOddEven", .make = Make<AOddEven>},
     {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm", .make = Make<Biorhythm>},
     {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},

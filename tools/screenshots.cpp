@@ -204,6 +204,8 @@ void Use(Form& form, bool hasSamples) {
         Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));
         TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));
         TypeEntry(form, QStringLiteral("8 15 22 29 36 43").split(QLatin1Char(' ')));
+    } else if (name == QLatin1String("ANumberStats")) {
+        Find<QAbstractButton>(form, QStringLiteral("Command1"))->click();
     } else if (name == QLatin1String("ShowMyDrawsW") && hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     }
