@@ -12,6 +12,7 @@
 #include "analysis/ARange.h"
 #include "analysis/ASums.h"
 #include "analysis/Biorhythm.h"
+#include "analysis/WhatIf.h"
 #include "databases/CreateDbase.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/DeleteDbaseW.h"
@@ -95,7 +96,7 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "AnalyseNumStats", .form = "ANumberStats", .make = Make<ANumberStats>},
     {.menuEntry = "AnalyseOddEven", .form = "AOddEven", .make = Make<AOddEven>},
     {.menuEntry = "AnalyseBiorhythms", .form = "Biorhythm", .make = Make<Biorhythm>},
-    {.menuEntry = "AnalyseWhatIf", .form = "WhatIf"},
+    {.menuEntry = "AnalyseWhatIf", .form = "WhatIf", .make = Make<WhatIf>},
 
     {.menuEntry = "PlayAverages", .form = "PAverage", .make = Make<PAverage>},
     {.menuEntry = "PlayFullSel", .form = "PFullSel", .make = Make<PFullSel>},

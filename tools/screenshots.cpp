@@ -9,6 +9,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QLocale>
 #include <QScrollBar>
 #include <QStyleFactory>
@@ -206,6 +207,14 @@ void Use(Form& form, bool hasSamples) {
         TypeEntry(form, QStringLiteral("8 15 22 29 36 43").split(QLatin1Char(' ')));
     } else if (name == QLatin1String("ANumberStats")) {
         Find<QAbstractButton>(form, QStringLiteral("Command1"))->click();
+    } else if (name == QLatin1String("WhatIf")) {
+        Find<QListWidget>(form, QStringLiteral("List1"))->setCurrentRow(0);
+        TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));
+        TypeEntry(form, QStringLiteral("8 15 22 29 36 43").split(QLatin1Char(' ')));
+        TypeEntry(form, QStringLiteral("7 14 17 21 30 38").split(QLatin1Char(' ')));
+        TypeEntry(form, QStringLiteral("1 2 3 4 5 6").split(QLatin1Char(' ')));
+        Find<QAbstractButton>(form, QStringLiteral("Command4"))->click();
+        Find<QAbstractButton>(form, QStringLiteral("Command3"))->click();
     } else if (name == QLatin1String("ShowMyDrawsW") && hasSamples) {
         Find<QAbstractButton>(form, QStringLiteral("Command2"))->click();
     }

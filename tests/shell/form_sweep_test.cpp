@@ -53,6 +53,7 @@ std::string PictureOf(const std::string& form) {
         {"PrinterCorrection", ""},
         {"PrintSetup", "SkinFile.jpg"},
         {"Biorhythm", "SkinAnalyse.jpg"},
+        {"WhatIf", "SkinAnalyse.jpg"},
         {"CreateDbase", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
