@@ -240,7 +240,9 @@ void PlayFrame::Filter(void (*prune)(State&)) {
     if (!Lets(busyRules_.filtersWait)) return;
     const int before = LineCount(view());
     Prune(prune);
-    Say(WhatWasTakenOut(before, LineCount(view())));
+    const int left = LineCount(view());
+    if (left < before) LinesTakenOut();
+    Say(WhatWasTakenOut(before, left));
 }
 
 void PlayFrame::Prune(void (*prune)(State&)) {

@@ -75,6 +75,9 @@ class PlayFrame : public Form {
     /// Takes the lines out that fail a filter, at a click on its button, and shows the rest.
     virtual void Prune(void (*prune)(State&));
 
+    /// What follows once a filter has taken lines out.
+    virtual void LinesTakenOut() {}
+
     /// The labels that take the skin's colours.
     virtual SkinLabels SkinnedLabels() const;
 

@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QLabel>
 
-#include "core/lines.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
@@ -136,10 +135,7 @@ void PGuaranteed::TellLinesMade() {
                             .matched = promise.matched});
 }
 
-void PGuaranteed::Prune(void (*prune)(State&)) {
-    const int before = LineCount(view());
-    RetryingForm::Prune(prune);
-    if (LineCount(view()) == before) return;
+void PGuaranteed::LinesTakenOut() {
     for (const Panel& panel : panels_) panel.proof->LinesTakenOut();
 }
 

@@ -29,7 +29,7 @@ class PGuaranteed final : public RetryingForm {
     void MakeLines() override;
     void PlayLotto() override;
     GeneratorStyle Style() const override;
-    void Prune(void (*prune)(State&)) override;
+    void LinesTakenOut() override;
 
   private:
     /// What changes in one of the three panels.

@@ -55,6 +55,7 @@ PGuaranteed::PGuaranteed(Program& program, QWidget* parent)
     BesideList().addWidget(BuildBoard());
     BesideList().addStretch(1);
     ColumnAndFilters().setDirection(QBoxLayout::LeftToRight);
+    ColumnAndFilters().itemAt(ColumnAndFilters().count() - 1)->setAlignment(Qt::AlignBottom);
     ConditionsHeading().addWidget(MakeHelpButton(QStringLiteral("Command11"), tr(" Help ")));
     Foot().insertLayout(0, BuildPanels());
     connect(board_, &NumberBoard::changed, this, [this] { ShowCount(); });
@@ -65,6 +66,7 @@ QWidget* PGuaranteed::BuildBoard() {
     QPushButton* clear = MakeButton(QStringLiteral("Command16"), tr("Clear"));
     clear->setToolTip(tr(" Clear the number selection "));
     connect(clear, &QPushButton::clicked, this, [this] { ClearSelection(); });
+    board_->setAccessibleName(tr("Click your numbers"));
     auto* area = new QWidget;
     auto* column = new QVBoxLayout(area);
     column->setContentsMargins(0, 0, 0, 0);

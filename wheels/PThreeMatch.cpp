@@ -6,7 +6,6 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "core/lines.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
@@ -141,8 +140,4 @@ wheels::Outcome PThreeMatch::MakeWheel(wheels::Boxes& boxes) {
     return outcome;
 }
 
-void PThreeMatch::Prune(void (*prune)(State&)) {
-    const int before = LineCount(view());
-    WheelFrame::Prune(prune);
-    if (LineCount(view()) < before) proof_->LinesTakenOut();
-}
+void PThreeMatch::LinesTakenOut() { proof_->LinesTakenOut(); }

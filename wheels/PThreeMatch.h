@@ -20,7 +20,7 @@ class PThreeMatch final : public WheelFrame {
     void ShowLottery() override;
     bool MayGenerate() override;
     wheels::Outcome MakeWheel(wheels::Boxes& boxes) override;
-    void Prune(void (*prune)(State&)) override;
+    void LinesTakenOut() override;
 
   private:
     QLayout* BuildLists();

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/lines.h"
 #include "platform/system/MessageBoxes.h"
 #include "play/pool.h"
 #include "wheels/ToldProof.h"
@@ -78,11 +77,7 @@ void Wheel49::MakeLines() {
                        .matched = matched});
 }
 
-void Wheel49::Prune(void (*prune)(State&)) {
-    const int before = LineCount(view());
-    RetryingForm::Prune(prune);
-    if (LineCount(view()) < before) proof_->LinesTakenOut();
-}
+void Wheel49::LinesTakenOut() { proof_->LinesTakenOut(); }
 
 void Wheel49::PlayLotto() { wheel49::DoWheel(state(), services().random, wheel49Data_); }
 

@@ -22,7 +22,7 @@ class Wheel49 final : public RetryingForm {
     void MakeLines() override;
     void PlayLotto() override;
     GeneratorStyle Style() const override;
-    void Prune(void (*prune)(State&)) override;
+    void LinesTakenOut() override;
 
   private:
     void ShowProof();

@@ -149,6 +149,14 @@ TEST(Wheel49, PlaysTheNumbersUpToFortyNineInOneHundredSeventyFiveSortedLines) {
     }
 }
 
+TEST(Wheel49, EndsAnOlderLongerResult) {
+    const auto state = LotteryOf({});
+    state->Lines.Fill(9);
+    state->Lines(180, 1) = 0;
+    Try(*state, 1);
+    EXPECT_EQ(LineCount(*state), 175);
+}
+
 TEST(Wheel49, KeepsItsPromiseWhateverNumberStandsAtWhichPlace) {
     const auto state = LotteryOf({});
     Try(*state, 7);
