@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPointer>
-#include <QScrollBar>
 #include <QWidget>
 #include <utility>
 #include <vector>
@@ -59,58 +58,65 @@ class PaperColours {
     std::vector<std::pair<QWidget*, QPalette>> changes_;
 };
 
-/// Gives a form that scrolls the room for all that stands on it while it lives.
+/// Where things stand in a picture of the whole form, what is scrolled out of sight included.
 class WholeForm {
   public:
     explicit WholeForm(QWidget& form)
-        : form_(form), size_(form.size()), body_(form.findChild<ScrollingBody*>()) {
+        : form_(form),
+          body_(form.findChild<ScrollingBody*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (body_ == nullptr) return;
-        across_ = body_->horizontalScrollBar()->value();
-        down_ = body_->verticalScrollBar()->value();
-        form_.resize(size_ + body_->Content().size() - body_->viewport()->size());
+        const QSize shown = body_->viewport()->size();
+        growth_ = body_->Content().size().expandedTo(shown) - shown;
     }
-    ~WholeForm() {
-        if (body_ == nullptr) return;
-        form_.resize(size_);
-        body_->horizontalScrollBar()->setValue(across_);
-        body_->verticalScrollBar()->setValue(down_);
+
+    QSize Size() const { return form_.size() + growth_; }
+
+    QPoint PlaceOf(const QWidget& widget) const {
+        if (body_ != nullptr && body_->Content().isAncestorOf(&widget)) {
+            return body_->pos() + widget.mapTo(&body_->Content(), QPoint(0, 0));
+        }
+        const QPoint place = widget.mapTo(&form_, QPoint(0, 0));
+        const bool below = body_ != nullptr && place.y() > body_->geometry().bottom();
+        return below ? place + QPoint(0, growth_.height()) : place;
     }
-    WholeForm(const WholeForm&) = delete;
-    WholeForm& operator=(const WholeForm&) = delete;
+
+    /// Paints what stands on the form, without the skin behind it.
+    void Paint(QPainter& painter) const {
+        const auto widgets = form_.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+        for (QWidget* widget : widgets) {
+            if (!widget->isVisible() || widget->isWindow()) continue;
+            QWidget* shown = widget == body_ ? &body_->Content() : widget;
+            shown->render(&painter, PlaceOf(*widget));
+        }
+    }
 
   private:
     QWidget& form_;
-    QSize size_;
     ScrollingBody* body_;
-    int across_ = 0;
-    int down_ = 0;
+    QSize growth_ = {0, 0};
 };
 
-/// What stands on the form, without the skin behind it.
-QImage ImageOf(QWidget& form) {
-    QImage image((QSizeF(form.size()) * pixelsPerPixel).toSize(),
+QImage ImageOf(QWidget& form, const WholeForm& whole) {
+    QImage image((QSizeF(whole.Size()) * pixelsPerPixel).toSize(),
                  QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(pixelsPerPixel);
     image.fill(Qt::white);
     QPainter painter(&image);
     const PaperColours colours(form);
-    const auto widgets = form.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget* widget : widgets) {
-        if (widget->isVisible() && !widget->isWindow()) widget->render(&painter, widget->pos());
-    }
+    whole.Paint(painter);
     return image;
 }
 
 using PlacedChart = std::pair<QPointer<Chart>, QRectF>;
 
-std::vector<PlacedChart> ChartsOn(const QWidget& form) {
+std::vector<PlacedChart> ChartsOn(const QWidget& form, const WholeForm& whole) {
     std::vector<PlacedChart> charts;
     const auto found = form.findChildren<Chart*>();
     for (Chart* chart : found) {
         if (!chart->isVisible()) continue;
         // The frame around the chart stays as it is on the form.
-        const QPoint corner = chart->mapTo(&form, QPoint(0, 0));
-        charts.emplace_back(chart, QRectF(corner, chart->size()).adjusted(1, 1, -1, -1));
+        const QRectF place(whole.PlaceOf(*chart), chart->size());
+        charts.emplace_back(chart, place.adjusted(1, 1, -1, -1));
     }
     return charts;
 }
@@ -119,9 +125,9 @@ std::vector<PlacedChart> ChartsOn(const QWidget& form) {
 
 PictureJob PictureOf(QWidget& form) {
     const WholeForm whole(form);
-    const QImage image = ImageOf(form);
-    const QSizeF size = form.size();
-    const auto charts = ChartsOn(form);
+    const QImage image = ImageOf(form, whole);
+    const QSizeF size = whole.Size();
+    const auto charts = ChartsOn(form, whole);
     return {.title = form.windowTitle(),
             .options = {.quality = PrintQuality::Medium,
                         .orientation = Orientation::Landscape,

@@ -21,6 +21,7 @@ class PageView final : public QScrollArea {
 
     /// Fits the sheet into the view, now and whenever the view changes.
     void SetFit(Fit fit);
+    Fit FitNow() const { return fit_; }
 
     /// Shows the sheet in its size on paper times this.
     void SetZoom(double zoom);

@@ -133,7 +133,10 @@ void PrintPreview::StepZoom(int steps) {
 }
 
 void PrintPreview::TellZoom() {
-    zoomShown_->setText(tr("%1 %").arg(qRound(view_->Zoom() * hundred)));
+    const QString shown = tr("%1 %").arg(qRound(view_->Zoom() * hundred));
+    zoomShown_->setText(shown);
+    // A zoom by keys or wheel is none of the list.
+    if (view_->FitNow() == PageView::Fit::None) zoom_->SetIndex(zoom_->findText(shown));
 }
 
 void PrintPreview::TurnTo(int sheet) {

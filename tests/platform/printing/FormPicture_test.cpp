@@ -69,7 +69,7 @@ struct FormPictureTest : testing::Test {
     }
 
     TestProgram test;
-    std::unique_ptr<Form> form;
+    std::unique_ptr<ChartForm> form;
 };
 
 TEST_F(FormPictureTest, IsLandscapeInMediumQualityAndNamedAsTheForm) {
@@ -146,6 +146,21 @@ TEST(APictureOfAFormThatScrolls, ShowsAllOfItAndLeavesItAsItWas) {
     job.paint(painter, QRectF(QPointF(), job.size));
     EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() - 50), QColor(Qt::black));
     EXPECT_EQ(image.pixelColor(image.width() / 2, image.height() - 150), QColor(Qt::white));
+}
+
+TEST_F(FormPictureTest, WhatIsScrolledOutOfSightIsOnItToo) {
+    auto tall = std::make_unique<ChartForm>(test.program);
+    Find<QLabel>(*tall, "Label1")->setMinimumHeight(2000);
+    tall->Load();
+    tall->show();
+    QApplication::processEvents();
+    ASSERT_LT(tall->height(), 2000);
+    const PictureJob job = PictureOf(*tall);
+    EXPECT_GT(job.size.height(), 2100) << "the heading and the chart below it";
+    const auto words = ReadPdfWords(PdfOf(TaskOf(job), {})).at(0);
+    const QRectF title = words.Word(QStringLiteral("Frequency"));
+    EXPECT_GT(title.top(), words.size.height() * 0.8);
+    EXPECT_LT(title.bottom(), words.size.height());
 }
 
 TEST(TaskOfPicture, APictureFillsTheRoomInItsProportions) {

@@ -104,9 +104,11 @@ TEST_F(PrintPreviewTest, ZoomsByListAndKeys) {
     EXPECT_NEAR(width, 210 / 25.4 * View().logicalDpiX() + 32, 2);
     QTest::keyClick(form.get(), Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_EQ(Text("ZoomShown"), QStringLiteral("125 %"));
+    EXPECT_EQ(zoom->Index(), -1) << "no entry of the list";
     EXPECT_GT(View().widget()->width(), width);
     QTest::keyClick(form.get(), Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(Text("ZoomShown"), QStringLiteral("100 %"));
+    EXPECT_EQ(zoom->currentText(), QStringLiteral("100 %"));
     zoom->SetIndex(1);
     EXPECT_EQ(zoom->currentText(), QStringLiteral("Page width"));
     EXPECT_NEAR(View().widget()->width(), View().viewport()->width(), 24);
