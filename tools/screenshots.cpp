@@ -19,13 +19,17 @@
 #include <QThread>
 #include <set>
 
+#include "core/draw_database.h"
 #include "core/settings.h"
+#include "core/text.h"
+#include "platform/forms/PrintPreview.h"
 #include "platform/system/DesktopPrinters.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "printing/PrintRoutines.h"
+#include "printing/grid_reports.h"
 #include "printing/slip_template.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
@@ -253,6 +257,28 @@ bool SaveForm(const CatalogueEntry& entry, Program& program, QWidget& window, co
     return Save(*form, path);
 }
 
+/// Some draws as the preview shows them.
+bool SavePreview(Program& program, QWidget& window, const QString& path) {
+    LoadDatabase(program.state, program.folder, 0);
+    const State& state = View(program.state);
+    ReportTable draws = {{"Date", "Num1", "Num2", "Num3", "Num4", "Num5", "Num6", "", "Bonus"}};
+    for (int row = 1; row <= 99 && state.Draws(row, 1) > 0; ++row) {
+        auto& draw = draws.emplace_back();
+        draw.push_back(DrawDate(DaysAfter(Today, -7 * row)));
+        for (int column = 1; column <= 8; ++column) {
+            const int number = state.Draws(row, column);
+            draw.push_back(number > 0 ? PlainDigits(number) : std::string());
+        }
+    }
+    const PrintJob job = {
+        .title = "Lottery draw results", .options = {}, .compose = [&](const SheetRoom& room) {
+            return DrawsReport(draws, state.LotteryName, {.lines = 99}, room);
+        }};
+    PrintPreview preview(program, TaskOf(job), DesktopExits(*program.services.printers), &window);
+    preview.Load();
+    return Save(preview, path);
+}
+
 int TakePictures(Program& program, const QString& outFolder) {
     QDir().mkpath(outFolder);
     Quillon window(program);
@@ -267,6 +293,7 @@ int TakePictures(Program& program, const QString& outFolder) {
         const QString path = outFolder % QLatin1Char('/') % name % QStringLiteral(".png");
         good = SaveForm(entry, program, window, path) && good;
     }
+    good = SavePreview(program, window, outFolder % QStringLiteral("/PrintPreview.png")) && good;
     return good ? 0 : 1;
 }
 
