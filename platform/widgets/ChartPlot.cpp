@@ -20,6 +20,7 @@ constexpr int mostLabelRows = 3;
 constexpr int readableOnDark = 110;
 constexpr double airAbove = 0.06;  // of the height, more where figures stand above the bars
 constexpr double airForFigures = 0.13;
+constexpr int usualWidth = 900;  // of a chart that stands on no form
 
 QFont Bold(QFont font) {
     font.setBold(true);
@@ -265,7 +266,8 @@ QPixmap ChartPlot::Picture(const QSize& size, double scale) {
 }
 
 void ChartPlot::Paint(QPainter& painter, const QRectF& rectangle) {
-    constexpr int paintedWidth = 900;
+    // Letters are as large beside the bars as on the screen.
+    const int paintedWidth = plot_->isVisible() ? plot_->width() : usualWidth;
     const double factor = rectangle.width() / paintedWidth;
     const int height = static_cast<int>(std::lround(rectangle.height() / factor));
     const QPicture picture = InLight([&] {

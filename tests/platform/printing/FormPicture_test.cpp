@@ -106,6 +106,9 @@ TEST_F(FormPictureTest, FitsWholeOnTheSheetInItsProportionsWithTextsOfChartsAsTe
     const QRectF title = sheets[0].Word(QStringLiteral("Frequency"));
     EXPECT_GT(title.left(), 0);
     EXPECT_LT(title.right(), 297);
+    // Letters of charts are as large beside the form's as on the screen.
+    const double millimetresPerPixel = 297.0 / 600;
+    EXPECT_NEAR(title.height() / millimetresPerPixel, form->fontMetrics().height(), 3);
 }
 
 /// A form of so many labels that no screen has the room for it.
