@@ -43,11 +43,11 @@ void InfoPanels::SetShown(bool shown) {
 }
 
 Notes InfoPanels::CurrentNotes() const {
-    return {.checklist = checklist_->Checklist(), .note = notes_->Note()};
+    return {.checklist = checklist_->Items(), .note = notes_->Note()};
 }
 
 void InfoPanels::ShowNotes(const Notes& notes) {
-    checklist_->ShowChecklist(notes.checklist);
+    checklist_->ShowItems(notes.checklist);
     notes_->ShowNote(notes.note);
 }
 

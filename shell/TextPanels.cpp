@@ -8,6 +8,7 @@
 
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
+#include "platform/widgets/NotesControls.h"
 #include "platform/widgets/Widgets.h"
 
 DatabasesPanel::DatabasesPanel(QWidget* parent)
@@ -59,13 +60,7 @@ NotesPanel::NotesPanel(QWidget* parent)
     sheet->addWidget(keys, 1, 0);
 }
 
-std::string NotesPanel::Note() const {
-    // The raw text keeps hard blanks, which the plain text would turn into common ones.
-    QString text = note_->document()->toRawText();
-    text.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));
-    text.replace(QChar::LineSeparator, QStringLiteral("\r\n"));
-    return FromQString(text);
-}
+std::string NotesPanel::Note() const { return NoteIn(*note_); }
 
 void NotesPanel::ShowNote(const std::string& note) { note_->setPlainText(ToQString(note)); }
 
