@@ -6,13 +6,18 @@
 
 namespace {
 
-constexpr int lastRow = 100;
-constexpr int lastColumn = 10;
+constexpr int lastColumn = member_column::SyndicateName;
 
 }  // namespace
 
+int MemberCount(const State& state) {
+    int count = 0;
+    while (!state.Members(count + 1, member_column::Name).empty()) ++count;
+    return count;
+}
+
 void LoadSyndicate(State& state, const ProgramFolder& folder) {
-    for (int row = 0; row <= lastRow; ++row) {
+    for (int row = 0; row <= lastMember; ++row) {
         for (int column = 0; column <= lastColumn; ++column) state.Members(row, column).clear();
     }
     std::string& file = state.Settings(setting::SyndicateFile);
@@ -23,10 +28,23 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
     }
     const std::string content = folder.Read(file);
     FieldReader reader(content, file, FieldReader::Quotes::Removed);
-    for (int row = 0; row <= lastRow; ++row) {
+    for (int row = 0; row <= lastMember; ++row) {
         for (int column = 0; column <= lastColumn; ++column) {
             state.Members(row, column) =
                 reader.ReadField("a field of row " + std::to_string(row) + " of the syndicate");
         }
     }
+}
+
+void SaveSyndicate(const State& state, ProgramFolder& folder) {
+    const std::string& file = state.Settings(setting::SyndicateFile);
+    if (file.empty()) return;
+    std::string content;
+    for (int row = 0; row <= lastMember; ++row) {
+        for (int column = 0; column <= lastColumn; ++column) {
+            content += (column == 0 ? "\"" : ",\"") + state.Members(row, column) + '"';
+        }
+        content += "\r\n";
+    }
+    folder.Write(file, content);
 }

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 
+#include "core/syndicate.h"
 #include "platform/forms/FormPicture.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"

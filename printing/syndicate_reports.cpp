@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/syndicate_reports.h"
 
+#include "core/syndicate.h"
+
 namespace {
 
 constexpr double bodyDown = 50;
@@ -70,12 +72,6 @@ void PrintDiaryHead(ReportSetter& setter, const DiaryHead& head) {
 }
 
 }  // namespace
-
-int MemberCount(const State& state) {
-    int count = 0;
-    while (!state.Members(count + 1, 0).empty()) ++count;
-    return count;
-}
 
 Document MembersReport(const State& state, const ReportChoice& choice, const SheetRoom& room) {
     ReportSetter setter(choice, room);

@@ -8,9 +8,6 @@
 #include "core/state.h"
 #include "printing/report_frame.h"
 
-/// How many members the syndicate has, its manager not counted.
-int MemberCount(const State& state);
-
 /// Name, address, phone, e-mail and way of paying of each person, the manager first. The number of
 /// lines chosen counts the members behind the manager.
 Document MembersReport(const State& state, const ReportChoice& choice, const SheetRoom& room);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "core/syndicate.h"
 #include "tests/core/regions.h"
 #include "tests/printing/printed_texts.h"
 #include "tests/support/plain_room.h"
