@@ -33,10 +33,17 @@
 #include "printing/PrintSetup.h"
 #include "printing/PrintTickets.h"
 #include "printing/PrinterCorrection.h"
+#include "syndicates/DeleteSyndicate.h"
+#include "syndicates/NewSyndicate.h"
+#include "syndicates/OpenSyndicate.h"
+#include "syndicates/SManager.h"
+#include "syndicates/SMembers.h"
+#include "syndicates/SNotes.h"
+#include "syndicates/SPayments.h"
 #include "wheels/PBudgetWheel.h"
 #include "wheels/PDIYWheels.h"
-#include "wheels/PHotWheels.h"
 #include "wheels/PGuaranteed.h"
+#include "wheels/PHotWheels.h"
 #include "wheels/PThreeMatch.h"
 #include "wheels/PWheel2.h"
 #include "wheels/PWheel3.h"
@@ -129,13 +136,25 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "PlayStarSign", .form = "PStarSign", .make = Make<PStarSign>},
     {.menuEntry = "PlayLucky", .form = "PLuckyNumbers", .make = Make<PLuckyNumbers>},
 
-    {.menuEntry = "SyndicateNew", .form = "NewSyndicate", .changesSyndicate = true},
-    {.menuEntry = "SyndicateOpen", .form = "OpenSyndicate", .changesSyndicate = true},
-    {.menuEntry = "SyndicatesDelete", .form = "DeleteSyndicate", .changesSyndicate = true},
-    {.menuEntry = "SyndicateManager", .form = "SManager", .changesSyndicate = true},
-    {.menuEntry = "SyndicateMembers", .form = "SMembers"},
-    {.menuEntry = "SyndicatePayments", .form = "SPayments"},
-    {.menuEntry = "SyndicatesNotes", .form = "SNotes"},
+    {.menuEntry = "SyndicateNew",
+     .form = "NewSyndicate",
+     .make = Make<NewSyndicate>,
+     .changesSyndicate = true},
+    {.menuEntry = "SyndicateOpen",
+     .form = "OpenSyndicate",
+     .make = Make<OpenSyndicate>,
+     .changesSyndicate = true},
+    {.menuEntry = "SyndicatesDelete",
+     .form = "DeleteSyndicate",
+     .make = Make<DeleteSyndicate>,
+     .changesSyndicate = true},
+    {.menuEntry = "SyndicateManager",
+     .form = "SManager",
+     .make = Make<SManager>,
+     .changesSyndicate = true},
+    {.menuEntry = "SyndicateMembers", .form = "SMembers", .make = Make<SMembers>},
+    {.menuEntry = "SyndicatePayments", .form = "SPayments", .make = Make<SPayments>},
+    {.menuEntry = "SyndicatesNotes", .form = "SNotes", .make = Make<SNotes>},
 
     {.menuEntry = "HelpLotteryInfo", .form = "LotteryInfo"},
     {.menuEntry = "HelpAbout", .form = "About"},

@@ -388,7 +388,7 @@ TEST_F(InfoPanelsOfWindow, WithoutASyndicateTheDesignTextGivesWayToEmptyTexts) {
     EXPECT_FALSE(Entry("SyndicateManager")->isEnabled());
 }
 
-TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
+TEST_F(InfoPanelsOfWindow, ASyndicateEnablesItsEntries) {
     MakeDefaultSettings(program.state, program.folder);
     program.state.Settings(setting::SyndicateFile) = "SMembers.000";
     SaveSettings(program.state, program.folder);
@@ -396,7 +396,7 @@ TEST_F(InfoPanelsOfWindow, ASyndicateEnablesNoEntryWhoseFormDoesNotExistYet) {
     Start();
     for (const char* entry :
          {"SyndicateMembers", "SyndicatePayments", "SyndicatesNotes", "SyndicateManager"}) {
-        EXPECT_FALSE(Entry(entry)->isEnabled()) << entry;
+        EXPECT_TRUE(Entry(entry)->isEnabled()) << entry;
     }
 }
 

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "core/settings.h"
+#include "core/syndicate.h"
 #include "shell/MainMenu.h"
 #include "shell/Toolbar.h"
 #include "shell/form_catalogue.h"
@@ -117,7 +118,16 @@ const std::vector<MenuOfTable>& Table() {
     return table;
 }
 
-class MainMenuOfWindow : public MainWindow {};
+class MainMenuOfWindow : public MainWindow {
+  protected:
+    void StartWithASyndicate() {
+        WriteSettings(setting::SyndicateFile, "SMembers.000");
+        program.state.Members(0, member_column::Name) = "Ann";
+        program.state.Members(0, member_column::SyndicateName) = "Winners";
+        SaveSyndicate(program.state, program.folder);
+        Start();
+    }
+};
 
 TEST_F(MainMenuOfWindow, HasTheSevenMenusInOrder) {
     Start();
@@ -144,7 +154,7 @@ TEST_F(MainMenuOfWindow, HasEveryEntryUnderItsNameAndCaptionInOrder) {
 }
 
 TEST_F(MainMenuOfWindow, DisablesExactlyTheEntriesThatCannotBeAnsweredYet) {
-    Start();
+    StartWithASyndicate();
     for (const MenuOfTable& menu : Table()) {
         for (const EntryOfTable& entry : menu.entries) {
             const CatalogueEntry* form = FindCatalogueEntry(QString::fromLatin1(entry.name));
@@ -186,7 +196,7 @@ TEST_F(MainMenuOfWindow, WhatFollowsTheClosingOfAFormDependsOnItsEntry) {
 }
 
 TEST_F(MainMenuOfWindow, EveryFormOfTheCatalogueHasItsMenuEntry) {
-    Start();
+    StartWithASyndicate();
     std::set<std::string> seen;
     for (const CatalogueEntry& form : FormCatalogue()) {
         if (std::string(form.menuEntry).empty()) continue;
