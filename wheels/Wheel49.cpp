@@ -63,6 +63,7 @@ void Wheel49::ShowProof() {
 
 bool Wheel49::MayGenerate() {
     if (wheel49::Suits(state())) return true;
+    // Kept on purpose: two blanks at the end, where the like messages have four.
     services().messages.Show(this, {.title = tr("Sorry!"),
                                     .text = tr("This method is not suitable for this lottery.  "),
                                     .sign = Sign::Exclamation});
