@@ -89,7 +89,8 @@ class Chart final : public QWidget {
     /// Draws what has been set.
     void Refresh();
 
-    /// Draws the chart into a rectangle of a page, a picture or whatever `painter` paints on.
+    /// Draws the chart into a rectangle of a page, a picture or whatever `painter` paints on. Its
+    /// letters are as large beside its bars as on the screen.
     void Paint(QPainter& painter, const QRectF& rectangle);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -582,6 +582,30 @@ TEST(AChart, FillsItsPlaceOnAPageOfAnyResolution) {
     }
 }
 
+TEST(AChart, KeepsTheSizeOfItsLettersOnPaper) {
+    for (const int width : {300, 1100}) {
+        const auto chart = FrequencyChart(3, width);
+        const QImage shown = chart->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        QImage page(2 * width, 600, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        chart->Paint(painter, page.rect());
+        painter.end();
+        // The labels below the bars: the lowest dark rows.
+        const auto letters = [](const QImage& image) {
+            QRect dark;
+            for (int y = image.height() * 9 / 10; y < image.height() - 4; ++y) {
+                for (int x = image.width() / 4; x < image.width() * 3 / 4; ++x) {
+                    if (qGray(image.pixel(x, y)) < 100) dark |= QRect(x, y, 1, 1);
+                }
+            }
+            return dark.height();
+        };
+        EXPECT_GT(letters(shown), 5) << width;
+        EXPECT_NEAR(letters(page), 2 * letters(shown), 3) << width;
+    }
+}
+
 TEST(AChart, IsLightOnPaperOnADarkDesktop) {
     QApplication::setPalette(QPalette(QColor(30, 30, 30)));
     const auto chart = FrequencyChart(9);
