@@ -54,7 +54,9 @@ class LastCupsError {
         const auto text = reinterpret_cast<LastErrorText>(library_.resolve("cupsLastErrorString"));
         constexpr int firstError = 0x400;
         if (error == nullptr || text == nullptr || error() < firstError) return {};
-        return QString::fromUtf8(text());
+        QString reason = QString::fromUtf8(text()).trimmed();
+        while (reason.endsWith(QLatin1Char('.'))) reason.chop(1);
+        return reason;
     }
 
   private:
