@@ -30,6 +30,12 @@ constexpr int parkingRow = 99;
 constexpr int extraBallColumn = 8;
 constexpr int lastColumn = 9;
 
+QString LoadedInWords(int entries, const QString& lottery) {
+    if (entries == 0) return WhatIf::tr("There are no saved entries of %1").arg(lottery);
+    if (entries == 1) return WhatIf::tr("1 saved entry of %1 loaded").arg(lottery);
+    return WhatIf::tr("%1 saved entries of %2 loaded").arg(entries).arg(lottery);
+}
+
 }  // namespace
 
 void WhatIf::Load() {
@@ -102,8 +108,7 @@ void WhatIf::LoadSavedEntries() {
     if (lines > 0) ShowLines(state(), *grid_);
     grid_->SetCurrentCell(parkingRow, 0);
     state().Busy = 0;
-    Say(lines > 0 ? tr("%n saved entries of %1 loaded", nullptr, lines).arg(lottery)
-                  : tr("There are no saved entries of %1").arg(lottery));
+    Say(LoadedInWords(lines, lottery));
 }
 
 // Kept on purpose: the numbers behind the fourth and the extra ball are never looked at, and the

@@ -285,6 +285,17 @@ TEST_F(WhatIfForm, LoadsTheSavedEntriesOfTheLottery) {
     EXPECT_EQ(test_.state.Busy, 0);
 }
 
+TEST_F(WhatIfForm, SaysHowManyEntriesItLoaded) {
+    test_.folder.Write("MyLottery.txt", savedEntries);
+    Open();
+    ChooseAnswering(0, Answer::Yes);
+    EXPECT_EQ(Text("Said"), QStringLiteral("2 saved entries of UK Lotto loaded"));
+    ChooseAnswering(1, Answer::Yes);
+    EXPECT_EQ(Text("Said"), QStringLiteral("1 saved entry of UK Thunderball loaded"));
+    ChooseAnswering(2, Answer::Yes);
+    EXPECT_EQ(Text("Said"), QStringLiteral("There are no saved entries of UK Daily Play"));
+}
+
 TEST_F(WhatIfForm, WipesWhatIsLeftBelowTheEntriesItLoads) {
     test_.folder.Write("MyLottery.txt", savedEntries);
     Open();
