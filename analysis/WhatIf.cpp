@@ -60,11 +60,13 @@ void WhatIf::ShowEntriesInUse() {
     }
 }
 
+// The row that the current one is parked in may hold an entry, which can be chosen like any other.
 void WhatIf::GoToRow(int row) {
-    grid_->SetCurrentCell(row, lastColumn);
     const QAbstractItemModel& model = *grid_->model();
-    grid_->selectionModel()->select({model.index(row - 1, 1), model.index(row - 1, lastColumn)},
-                                    QItemSelectionModel::ClearAndSelect);
+    const QModelIndex last = model.index(row - 1, lastColumn);
+    QItemSelectionModel& selection = *grid_->selectionModel();
+    selection.setCurrentIndex(last, QItemSelectionModel::NoUpdate);
+    selection.select({model.index(row - 1, 1), last}, QItemSelectionModel::ClearAndSelect);
 }
 
 int WhatIf::FirstFreeRow() const {

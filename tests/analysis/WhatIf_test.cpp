@@ -253,6 +253,23 @@ TEST_F(WhatIfForm, DeletesNothingWhileNoRowIsCurrent) {
     EXPECT_TRUE(RowIsMarked(1));
 }
 
+TEST_F(WhatIfForm, DeletesTheEntryOfTheParkingRowOnlyWhereItWasChosen) {
+    std::string content;
+    for (int entry = 1; entry <= 120; ++entry) {
+        content += "x," + std::to_string(entry) + ",2,3,4,5,6,,,UK Lotto,,\r\n";
+    }
+    test_.folder.Write("MyLottery.txt", content);
+    Open();
+    ChooseAnswering(0, Answer::Yes);
+    Click(*form_, deleteButton);
+    EXPECT_EQ(Row(99), "99,99,2,3,4,5,6,,,");
+    EXPECT_EQ(Row(120), "120,120,2,3,4,5,6,,,");
+    ClickRow(99);
+    Click(*form_, deleteButton);
+    EXPECT_EQ(Row(99), "100,100,2,3,4,5,6,,,");
+    EXPECT_EQ(Row(120), ",,,,,,,,,");
+}
+
 TEST_F(WhatIfForm, AsksForSavedEntriesOnlyWhereThereAreAny) {
     Open();
     Choose(0);
@@ -415,6 +432,15 @@ TEST_F(WhatIfForm, GoesOnCountingNoMatchesFromCheckToCheck) {
     Choose(1);
     Enter({"1", "2", "3", "5", "6"}, "1");
     EXPECT_NE(Check().find(" 0 - match = 3 times"), std::string::npos);
+}
+
+TEST_F(WhatIfForm, BeginsAllOtherCountsAnew) {
+    Open();
+    Choose(0);
+    Enter({"1", "2", "3", "4", "5", "6"});
+    for (int index = 1; index <= 20; ++index) test_.state.Pool(index) = 700;
+    EXPECT_EQ(Check().find(" 70"), std::string::npos);
+    EXPECT_EQ(test_.state.Pool(20), 0);
 }
 
 TEST_F(WhatIfForm, EndsInTheReportWhereACountOverflows) {
