@@ -138,6 +138,7 @@ TEST(NumberStats, RoundAHalfOfTheAverageUp) {
 TEST(NumberStats, CountUpToSeventyAndShowUpToTheHighestNumber) {
     const auto state = Lottery(2, 3);
     EXPECT_EQ(TableOfDraws(*state, {{1, 70}}).size(), 3U);
+    EXPECT_EQ(state->Pool(70), 0);
     state->MaxNum = 70;
     EXPECT_EQ(TableOfDraws(*state, {{1, 70}})[69][1], "1 draws ago");
 }

@@ -330,10 +330,21 @@ TEST_F(InfoPanelsOfWindow, QuittingKeepsTheBirthDateOfTheLastDrawing) {
     EXPECT_EQ(Setting(setting::BirthDate), "01-Jan-1970");
 }
 
-TEST_F(InfoPanelsOfWindow, MoreWaitsForTheBiorhythmForm) {
+TEST_F(InfoPanelsOfWindow, MoreOpensTheBiorhythmsWhichReadTheSettingsAndLeaveThePanelAsItIs) {
     StartShown();
-    EXPECT_EQ(Find<QPushButton>(*window, moreButton)->isEnabled(),
-              Entry("AnalyseBiorhythms")->isEnabled());
+    auto* picker = Find<DatePicker>(*window, birthDatePicker);
+    picker->SetValue(program.today);
+    InDialog([this] { Click(*window, moreButton); },
+             [](QDialog& form) {
+                 EXPECT_EQ(form.objectName(), QStringLiteral("Biorhythm"));
+                 auto* ownPicker = Find<DatePicker>(form, birthDatePicker);
+                 EXPECT_EQ(MediumDate(ownPicker->Value()), "01-Jan-1970");
+                 ownPicker->SetValue(std::chrono::year(1985) / 7 / 23);
+                 Click(form, "Command1");
+             });
+    EXPECT_EQ(Setting(setting::BirthDate), "23 Jul 1985");
+    EXPECT_EQ(picker->Value(), program.today);
+    EXPECT_NEAR(Value(1), Wave(12935, 33), 1e-9);
 }
 
 TEST_F(InfoPanelsOfWindow, ListTheDatabasesWithNoneChosen) {
