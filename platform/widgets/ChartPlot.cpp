@@ -16,7 +16,6 @@ namespace {
 constexpr double roomForBars = 0.62;       // of the distance between two places on the axis
 constexpr double roomForDenseBars = 0.74;  // the same with more than 12 places
 constexpr int airBetweenLabels = 4;
-constexpr int narrowest = 240;  // of what is painted elsewhere than on the screen
 constexpr int mostLabelRows = 3;
 constexpr int readableOnDark = 110;
 constexpr double airAbove = 0.06;  // of the height, more where figures stand above the bars
