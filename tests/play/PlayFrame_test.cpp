@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "play/PlayFrame.h"
 
+#include <QPushButton>
+
 #include "core/settings.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
