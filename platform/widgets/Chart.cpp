@@ -15,13 +15,13 @@
 #include "core/failure.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/ChartPlot.h"
+#include "platform/widgets/ChartShades.h"
 #include "platform/widgets/Icons.h"
 #include "platform/widgets/Widgets.h"
 #include "platform/widgets/WindowShade.h"
 
 namespace {
 
-const QColor frameColour(0xd5, 0xd7, 0xda);
 const QColor focusColour(0x2a, 0x6f, 0xb8);
 constexpr double copiedScale = 2;
 
@@ -37,7 +37,7 @@ void CheckIndex(const QObject& chart, const char* what, int index, int count) {
 Chart::Chart(int rowCount, int columnCount, QWidget* parent)
     : QWidget(parent),
       figures_(rowCount, columnCount),
-      shade_(new WindowShade(*this, [this] { Refresh(); })) {
+      shade_(new WindowShade(*this, [this] { TakeShade(); })) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(1, 1, 1, 1);
     setFocusPolicy(Qt::StrongFocus);
@@ -234,9 +234,16 @@ void Chart::resizeEvent(QResizeEvent* event) {
     if (plot_ != nullptr) plot_->FitToWidget();
 }
 
+void Chart::TakeShade() {
+    Refresh();
+    ShowFocus(hasFocus());
+}
+
 /// The margin of one pixel around the plot is the frame.
 void Chart::ShowFocus(bool focused) {
     QPalette palette;
-    palette.setColor(QPalette::Window, focused ? focusColour : frameColour);
+    const bool dark = shade_->IsDark();
+    const QColor focus = dark ? OnDark(focusColour) : focusColour;
+    palette.setColor(QPalette::Window, focused ? focus : ShadesOf(dark).frame);
     setPalette(palette);
 }

@@ -111,6 +111,7 @@ class Chart final : public QWidget {
     void CopyTable() const;
     void NameItself();
     void ShowFocus(bool focused);
+    void TakeShade();
 
     ChartFigures figures_;
     std::unique_ptr<ChartPlot> plot_;  // none before the chart is seen

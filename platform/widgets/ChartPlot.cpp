@@ -16,6 +16,7 @@ namespace {
 constexpr double roomForBars = 0.62;       // of the distance between two places on the axis
 constexpr double roomForDenseBars = 0.74;  // the same with more than 12 places
 constexpr int airBetweenLabels = 4;
+constexpr int airAtSides = 16;  // of the drawing, together
 constexpr int mostLabelRows = 3;
 constexpr int readableOnDark = 110;
 constexpr double airAbove = 0.06;  // of the height, more where figures stand above the bars
@@ -51,7 +52,6 @@ void ChartPlot::SetUp() {
         axis->setTickLabelPadding(6);
     }
     plot_->xAxis->grid()->setVisible(false);
-    plot_->axisRect()->setMinimumMargins(QMargins(8, 4, 12, 4));
     plot_->setAutoAddPlottableToLegend(false);
 }
 
@@ -83,6 +83,7 @@ void ChartPlot::Draw() {
 void ChartPlot::DrawAll() {
     plot_->clearPlottables();
     plot_->clearItems();
+    plot_->axisRect()->setMinimumMargins(QMargins(8, 4, std::max(12, RoomForAverage()), 4));
     DrawHeading();
     DrawAxes();
     for (int column = 1; column <= figures_.Columns(); ++column) {
@@ -223,7 +224,8 @@ void ChartPlot::FitLabels(int width) {
         widest = std::max(widest, metrics.horizontalAdvance(figures_.PlaceLabel(place)));
     }
     const int axisWidth = QFontMetrics(plot_->font()).horizontalAdvance(QStringLiteral("00000"));
-    const double room = std::max(1.0, (width - axisWidth - 16) / (figures_.Places() + 0.2));
+    const int drawingWidth = width - axisWidth - airAtSides - RoomForAverage();
+    const double room = std::max(1.0, drawingWidth / (figures_.Places() + 0.2));
     const int needed = static_cast<int>(std::ceil((widest + airBetweenLabels) / room));
     const int rows = std::clamp(needed, 1, mostLabelRows);
     const int step = std::max(1, (needed + mostLabelRows - 1) / mostLabelRows);

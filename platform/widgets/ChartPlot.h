@@ -50,6 +50,9 @@ class ChartPlot {
     BarLook ShownLook(int row, int column) const;
     void DrawAll();
     void DrawAverage();
+
+    /// The width of the average's words at the right of the drawing.
+    int RoomForAverage() const;
     void DrawRankedFigures();
     template <typename Drawing>
     auto InLight(const Drawing& drawing);

@@ -9,6 +9,24 @@
 #include "platform/widgets/ChartPlot.h"
 #include "platform/widgets/ChartShades.h"
 
+namespace {
+
+constexpr int airBesideWords = 4;
+
+/// In two lines, as they stand at the side.
+QString WordsOf(double average) {
+    return QCoreApplication::translate("Chart", "average\n%1").arg(std::lround(average));
+}
+
+}  // namespace
+
+int ChartPlot::RoomForAverage() const {
+    if (!figures_.average) return 0;
+    const QFontMetrics metrics(SmallFont(plot_->font()));
+    return metrics.size(0, WordsOf(*figures_.average)).width() + 2 * airBesideWords;
+}
+
+// The words stand beside the bars, which they would hide.
 void ChartPlot::DrawAverage() {
     if (!figures_.average) return;
     const QColor colour = ShadesOf(drawnDark_).text;
@@ -17,13 +35,13 @@ void ChartPlot::DrawAverage() {
     line->point2->setCoords(1, *figures_.average);
     line->setPen(QPen(colour, 1, Qt::DashLine));
     auto* words = new QCPItemText(plot_);
-    words->setText(
-        QCoreApplication::translate("Chart", "average %1").arg(std::lround(*figures_.average)));
+    words->setText(WordsOf(*figures_.average));
     words->setFont(SmallFont(plot_->font()));
     words->setColor(colour);
-    words->setBrush(ShadesOf(drawnDark_).background);
-    words->setPadding(QMargins(3, 0, 3, 0));
-    words->setPositionAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    words->setClipToAxisRect(false);
+    words->setPadding(QMargins(airBesideWords, 0, 0, 0));
+    words->setTextAlignment(Qt::AlignLeft);
+    words->setPositionAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     words->position->setTypeX(QCPItemPosition::ptAxisRectRatio);
     words->position->setTypeY(QCPItemPosition::ptPlotCoords);
     words->position->setCoords(1, *figures_.average);

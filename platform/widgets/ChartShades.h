@@ -11,6 +11,7 @@ struct Shades {
     QColor text;
     QColor axis;
     QColor grid;
+    QColor frame;  // around the whole chart
 };
 
 inline Shades ShadesOf(bool dark) {
@@ -18,12 +19,14 @@ inline Shades ShadesOf(bool dark) {
         return {.background = {0x1e, 0x20, 0x23},
                 .text = {0xe8, 0xea, 0xed},
                 .axis = {0x8a, 0x90, 0x99},
-                .grid = {0x36, 0x3a, 0x40}};
+                .grid = {0x36, 0x3a, 0x40},
+                .frame = {0x5a, 0x60, 0x68}};
     }
     return {.background = Qt::white,
             .text = {0x1f, 0x23, 0x28},
             .axis = {0x8a, 0x90, 0x99},
-            .grid = {0xe6, 0xe8, 0xec}};
+            .grid = {0xe6, 0xe8, 0xec},
+            .frame = {0xd5, 0xd7, 0xda}};
 }
 
 /// From so many places on, bars and labels stand close.

@@ -4,9 +4,11 @@
 #include <QWidget>
 
 class QLabel;
+class WindowShade;
 
 /// The ten hottest or coldest numbers: a heading on the mode's colour, the numbers beside it in
-/// that colour, red for hot and blue for cold. The numbers stand on white on every desktop.
+/// that colour, red for hot and blue for cold. The numbers stand on white; in a dark window the
+/// band is dark and the numbers light, while the labels' palettes keep the colours told.
 class HotColdBand final : public QWidget {
     Q_OBJECT
   public:
@@ -20,6 +22,9 @@ class HotColdBand final : public QWidget {
     void SetCold(bool cold);
 
   private:
+    void TakeShade();
+
     QLabel* heading_;
     QLabel* numbers_;
+    WindowShade* shade_;
 };

@@ -230,6 +230,31 @@ TEST_F(AChartInAWindow, DrawsALineAtTheAverage) {
     EXPECT_EQ(rowsWithInk(), without);
 }
 
+TEST_F(AChartInAWindow, WritesTheAverageBesideTheBarsAndCoversNone) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    const QColor series(0xc0, 0xd0, 0xff);
+    chart.SetSeriesColour(1, series);
+    const auto inkBesideTheBars = [&] {
+        chart.Refresh();
+        QApplication::processEvents();
+        const QImage image = chart.grab().toImage();
+        int lastBar = 0;
+        int ink = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = 0; y < image.height() - 60; ++y) {
+                if (image.pixelColor(x, y) == series) lastBar = x;
+            }
+        }
+        for (int x = lastBar + 20; x < image.width() - 2; ++x) {
+            for (int y = 40; y < image.height() - 60; ++y) ink += qGray(image.pixel(x, y)) < 120;
+        }
+        return ink;
+    };
+    EXPECT_EQ(inkBesideTheBars(), 0);
+    chart.SetAverage(25);
+    EXPECT_GT(inkBesideTheBars(), 40);
+}
+
 TEST_F(AChartInAWindow, WritesTheFiguresOfRankedBarsAboveThem) {
     Show(QColor(0xf0, 0xf0, 0xf0));
     const auto inkAbove = [this](int row) {
