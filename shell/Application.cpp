@@ -9,6 +9,7 @@
 #include "core/failure.h"
 #include "platform/system/FailureReport.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/OutlinedStyle.h"
 
 // A static library's resources are linked in only where somebody asks for them.
 static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
@@ -33,7 +34,7 @@ Application::Application(int& argumentCount, char** arguments)
     RegisterIcons();
     setApplicationName(QStringLiteral("quillon"));
     setDesktopFileName(QStringLiteral("quillon"));
-    setStyle(QStringLiteral("Fusion"));
+    setStyle(new OutlinedStyle);
     QIcon::setFallbackThemeName(QStringLiteral("breeze"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/quillon.svg")));
 }

@@ -6,19 +6,12 @@
 
 #include "platform/widgets/Contrast.h"
 
-namespace {
-
-/// Nobody's desktop comes near to black on white but one that is set so for eyes that need it.
-constexpr double extremeContrast = 19;
-
-}  // namespace
-
 void PaintSheet(QWidget& widget, int radius) {
     QPainter painter(&widget);
     painter.setRenderHint(QPainter::Antialiasing);
     QColor background = widget.palette().color(QPalette::Window);
     QColor edge = widget.palette().color(QPalette::WindowText);
-    if (Contrast(background, edge) < extremeContrast) {
+    if (!IsExtreme(widget.palette())) {
         background.setAlpha(238);
         edge.setAlpha(60);
     }

@@ -12,7 +12,6 @@
 #include <QListWidget>
 #include <QLocale>
 #include <QScrollBar>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 #include <QTextStream>
@@ -333,7 +332,6 @@ void TakeScreen(const QString& size, QTemporaryFile& file) {
 
 /// The desktop's look as the options say.
 void Dress(const QCommandLineParser& parser) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setCursorFlashTime(0);
     QFont font = QApplication::font();
     font.setPointSize(parser.value(QStringLiteral("points")).toInt());

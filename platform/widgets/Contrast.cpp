@@ -30,6 +30,12 @@ double Contrast(const QColor& one, const QColor& other) {
     return (high + 0.05) / (low + 0.05);
 }
 
+bool IsExtreme(const QPalette& palette) {
+    constexpr double least = 19;
+    const QColor words = palette.color(QPalette::WindowText);
+    return Contrast(palette.color(QPalette::Window), words) >= least;
+}
+
 QColor StandingOut(QColor colour, const QColor& other, double contrast) {
     constexpr int steps = 20;
     const QColor away =
