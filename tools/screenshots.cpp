@@ -20,6 +20,7 @@
 
 #include "core/draw_database.h"
 #include "core/settings.h"
+#include "core/syndicate.h"
 #include "core/text.h"
 #include "platform/forms/PrintPreview.h"
 #include "platform/system/DesktopPrinters.h"
@@ -27,6 +28,7 @@
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Lists.h"
 #include "printing/PrintRoutines.h"
 #include "printing/grid_reports.h"
 #include "printing/slip_template.h"
@@ -100,12 +102,42 @@ void Supply(const QString& folder, const QString& databases) {
     CopyFiles(databases, {QStringLiteral("dbase*.txt")}, folder);
 }
 
+/// A syndicate of eight with its diary.
+void WriteSyndicate(State& state, DiskFolder& folder) {
+    state.Settings(setting::SyndicateFile) = "SMembers.000";
+    const std::array<std::array<const char*, 11>, 9> people = {{
+        {"Anna Miller", "12, Mill Lane", "Little Waltham", "CM3 3XX", "", "01245 555 010",
+         "anna@mail.example", "Cash", "5.00", "08-Jan-2025", "The Wednesday Club"},
+        {"Bob Young", "3, High Street", "Chelmsford", "", "", "01245 555 011", "bob@mail.example",
+         "Cheque", "20.00", "29-Jan-2025", ""},
+        {"Carol Smith", "", "", "", "", "", "", "Cash", "5.00", "01-Jan-2025", ""},
+        {"David Hill", "", "", "", "", "", "", "Internet transfer", "12.50", "15-Jan-2025", ""},
+        {"Emma Price", "", "", "", "", "", "", "Credit/debit card", "5.00", "08-Jan-2025", ""},
+        {"Frank Moore", "", "", "", "", "", "", "Cash", "", "", ""},
+        {"Grace Lee", "", "", "", "", "", "", "Cash", "10.00", "02-Jan-2025", ""},
+        {"Tom Baker", "", "", "", "", "", "", "Cheque", "20.00", "25-Dec-2024", ""},
+        {"Zoe Adams", "", "", "", "", "", "", "Cash", "5.00", "08-Jan-2025", ""},
+    }};
+    for (std::size_t row = 0; row < people.size(); ++row) {
+        std::copy(people.at(row).begin(), people.at(row).end(),
+                  state.Members.Row(static_cast<long long>(row)));
+    }
+    SaveSyndicate(state, folder);
+    folder.Write(
+        "Diary.000",
+        "\"11-Dec-2024\",\"9\",\"9\",\"0\",\"-9\",\"first draw together\"\r\n"
+        "\"18-Dec-2024\",\"9\",\"9\",\"30\",\"21\",\"three numbers, twice\"\r\n"
+        "\"25-Dec-2024\",\"12\",\"12\",\"0\",\"-12\",\"three lines more for Christmas\"\r\n"
+        "\"01-Jan-2025\",\"9\",\"9\",\"0\",\"-9\",\"\"\r\n");
+}
+
 /// What a user of some weeks has in his folder.
 void WriteUserFiles(State& state, DiskFolder& folder) {
     LoadSettings(state, folder);
     state.Settings(setting::BirthDate) = "12-May-1980";
     state.Settings(setting::PlayerName) = "Anna";
     state.Settings(setting::InfoPanels) = "1";
+    WriteSyndicate(state, folder);
     SaveSettings(state, folder);
     folder.Write(
         "Notes.txt",
@@ -204,6 +236,11 @@ void Use(Form& form, bool hasSamples) {
         Find<QLineEdit>(form, QStringLiteral("Text1"))->setText(QStringLiteral("12"));
     } else if (name == QLatin1String("PrintFrm") || name == QLatin1String("PrintTickets")) {
         Find<QLineEdit>(form, QStringLiteral("Text2"))->setText(QStringLiteral("12"));
+    } else if (name == QLatin1String("SMembers")) {
+        Find<ListBox>(form, QStringLiteral("List1"))->SetIndex(0);
+    } else if (name == QLatin1String("NewSyndicate")) {
+        Find<QLineEdit>(form, QStringLiteral("Text1(7)"))->setText(QStringLiteral("Office pool"));
+        Find<QLineEdit>(form, QStringLiteral("Text1(0)"))->setText(QStringLiteral("Anna"));
     } else if (name == QLatin1String("StoreMyDrawsW")) {
         Find<QLineEdit>(form, QStringLiteral("TextPName"))->setText(QStringLiteral("Anna"));
         TypeEntry(form, QStringLiteral("3 11 19 27 34 48").split(QLatin1Char(' ')));
