@@ -44,6 +44,19 @@ TEST_F(AGrid, ShowsRowZeroInTheHeaderAndTheOthersInTheModel) {
     EXPECT_EQ(grid.Cell(1, 2), QStringLiteral("9"));
 }
 
+TEST_F(AGrid, AlignsAColumnWithItsHeading) {
+    grid.SetColumnAlignment(2, Qt::AlignRight);
+    const auto alignment = [this](int column) {
+        return grid.model()->index(0, column).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
+    };
+    EXPECT_EQ(alignment(1), Qt::Alignment(Qt::AlignCenter));
+    EXPECT_EQ(alignment(2), Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_EQ(
+        grid.model()->headerData(2, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>(),
+        Qt::AlignRight | Qt::AlignVCenter);
+    EXPECT_THROW(grid.SetColumnAlignment(3, Qt::AlignRight), Failure);
+}
+
 TEST_F(AGrid, TellsColoursAndAlignmentThroughTheStandardRoles) {
     grid.SetCellColour(1, 2, QColor(0xa0, 0, 0));
     grid.SetCellColour(0, 2, QColor(0xa0, 0, 0));
