@@ -29,7 +29,7 @@ NewSyndicate::NewSyndicate(Program& program, QWidget* parent)
                            "syndicates as you need.")),
                body, BuildActions());
     TabInReadingOrder();
-    SetOpeningSize({520, 460});
+    SetOpeningSize({520, 400});
 }
 
 QLayout* NewSyndicate::BuildActions() {

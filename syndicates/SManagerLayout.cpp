@@ -54,8 +54,9 @@ void SManager::MakeGrid() {
         if (HoldsMoney(column)) grid_->SetColumnAlignment(column, Qt::AlignRight);
     }
     grid_->SetColumnAlignment(diary_column::Notes, Qt::AlignLeft);
+    constexpr int padding = 12;  // a cell's own margins, beside the text
     const auto widthOf = [this](const QString& text) {
-        return fontMetrics().horizontalAdvance(text);
+        return fontMetrics().horizontalAdvance(text) + padding;
     };
     grid_->SetColumnWidths(
         {widthOf(QStringLiteral("__00 Jun 00__")), widthOf(QStringLiteral("_Tickets_")),
@@ -83,6 +84,7 @@ QLayout* SManager::BuildEditors() {
     text_->SetReplaced(QLatin1Char('"'), QLatin1Char('\''));
     date_->setAccessibleName(tr("Date"));
     date_->installEventFilter(this);
+    text_->setMinimumWidth(240);
     editors_ = new QStackedLayout;
     editors_->addWidget(Titled(title, text_));
     editors_->addWidget(date_);

@@ -97,6 +97,7 @@ QLayout* SMembers::BuildBoxes() {
         Connect(MakeButton(QStringLiteral("Command5"), tr("Clear")), &SMembers::Clear);
     clear->setToolTip(tr("Clear the input boxes"));
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     buttons->addWidget(add);
     buttons->addWidget(clear);
     buttons->addStretch(1);
@@ -115,6 +116,7 @@ QLayout* SMembers::BuildList() {
         Connect(MakeDeletingButton(QStringLiteral("Command2"), tr("Delete")), &SMembers::Delete);
     remove->setToolTip(tr(" Delete the member selected in the Members list "));
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     buttons->addWidget(sort);
     AddApart(*buttons, remove);
     buttons->addStretch(1);

@@ -70,7 +70,7 @@ QLayout* SNotes::BuildChecklist() {
                               tr("Replace a checklist item with your own by clicking the Clear "
                                  "button, then entering the text below and clicking the Add "
                                  "button.")),
-                     Checklist::rows, 0, 1, 2);
+                     Checklist::rows - 1, 0, 1, 2, Qt::AlignBottom);
     return items;
 }
 
