@@ -92,6 +92,19 @@ struct MatchBits::Kernel {
         AddFour(draws, counters[Matches]);
     }
 
+    // Four matches with a ball come so seldom that most steps have none of them to add.
+    template <std::size_t Matches>
+    INLINED static void AddHitsIf(bool fourOrMore, const Sums& sums, const Draws& hits,
+                                  Counters& counters) {
+        if (Matches < 4 || fourOrMore) AddHits<Matches>(sums, hits, counters);
+    }
+
+    INLINED static bool AnyHasFour(const Sums& sums, const Draws& hits) {
+        Words found = sums[0].fours & hits[0];
+        for (std::size_t part = 1; part < 4; ++part) found |= sums[part].fours & hits[part];
+        return (found[0] | found[1] | found[2] | found[3]) != 0;
+    }
+
     // The draws that have one of the balls.
     INLINED static void Join(const Rows& balls, std::size_t word, Draws& hits) {
         hits = {};
@@ -117,7 +130,8 @@ struct MatchBits::Kernel {
         Draws hits;
         Join(line.balls, word, hits);
         AddHits<0>(sums, hits, bits.hits_);
-        (AddHits<Pick + 1>(sums, hits, bits.hits_), ...);
+        const bool fourOrMore = AnyHasFour(sums, hits);
+        (AddHitsIf<Pick + 1>(fourOrMore, sums, hits, bits.hits_), ...);
     }
 
     template <std::size_t Picks>
