@@ -168,21 +168,6 @@ void ChartPlot::DrawAxes() {
     DrawTicks();
 }
 
-void ChartPlot::DrawTicks() {
-    constexpr double fewSteps = 20;
-    if (figures_.AllWhole() && plot_->yAxis->range().size() < fewSteps) {
-        const QSharedPointer<QCPAxisTickerFixed> steps(new QCPAxisTickerFixed);
-        steps->setTickStep(1);
-        steps->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
-        steps->setTickCount(4);
-        plot_->yAxis->setTicker(steps);
-        return;
-    }
-    const QSharedPointer<QCPAxisTicker> steps(new QCPAxisTicker);
-    steps->setTickCount(4);
-    plot_->yAxis->setTicker(steps);
-}
-
 void ChartPlot::DrawBars(int column) {
     auto* bars = new RoundedBars(plot_->xAxis, plot_->yAxis);
     const int besides = figures_.ColumnsAreApart() ? 1 : figures_.Columns();
@@ -215,7 +200,7 @@ void ChartPlot::DrawLine(int column) {
 
 // All labels stand in one row where they have room, else in two or three, and where even these are
 // too narrow only some are shown.
-void ChartPlot::FitLabels(int width) {
+int ChartPlot::FitLabels(int width) {
     QFont font = plot_->font();
     if (figures_.Places() >= denseFrom) font = SmallFont(font);
     const QFontMetrics metrics(font);
@@ -239,10 +224,11 @@ void ChartPlot::FitLabels(int width) {
     plot_->xAxis->setTickLabels(widest > 0);
     plot_->xAxis->setTickLabelFont(font);
     plot_->xAxis->setTicker(labels);
+    return rows;
 }
 
 void ChartPlot::FitToWidget() {
-    FitLabels(plot_->width());
+    FitTicks(FitLabels(plot_->width()));
     plot_->replot(QCustomPlot::rpQueuedReplot);
 }
 

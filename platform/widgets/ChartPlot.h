@@ -63,7 +63,8 @@ class ChartPlot {
     void DrawTicks();
     void DrawBars(int column);
     void DrawLine(int column);
-    void FitLabels(int width);
+    int FitLabels(int width);  ///< Returns in how many rows they stand.
+    void FitTicks(int labelRows);
 
     const ChartFigures& figures_;
     QCustomPlot* plot_;

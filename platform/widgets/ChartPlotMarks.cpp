@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What a chart says beyond its bars: the average and the figures of the ranked ones.
+// What a chart says beyond its bars: the figures of the axis, the average, those of ranked bars.
 #include "platform/widgets/RoundedBars.h"
 // The plotting library comes first, as its header is written with Qt's keywords.
 #include <QCoreApplication>
+#include <algorithm>
 #include <cmath>
 
 #include "platform/widgets/ChartFigures.h"
@@ -12,6 +13,7 @@
 namespace {
 
 constexpr int airBesideWords = 4;
+constexpr int mostTicks = 4;
 
 /// In two lines, as they stand at the side.
 QString WordsOf(double average) {
@@ -19,6 +21,31 @@ QString WordsOf(double average) {
 }
 
 }  // namespace
+
+void ChartPlot::DrawTicks() {
+    constexpr double fewSteps = 20;
+    if (figures_.AllWhole() && plot_->yAxis->range().size() < fewSteps) {
+        const QSharedPointer<QCPAxisTickerFixed> steps(new QCPAxisTickerFixed);
+        steps->setTickStep(1);
+        steps->setScaleStrategy(QCPAxisTickerFixed::ssMultiples);
+        steps->setTickCount(mostTicks);
+        plot_->yAxis->setTicker(steps);
+        return;
+    }
+    const QSharedPointer<QCPAxisTicker> steps(new QCPAxisTicker);
+    steps->setTickCount(mostTicks);
+    plot_->yAxis->setTicker(steps);
+}
+
+// In a low chart the figures of the axis would stand upon each other.
+void ChartPlot::FitTicks(int labelRows) {
+    constexpr int linesForTick = 2;
+    const int headings = (heading_ != nullptr ? 1 : 0) + (legendLine_ != nullptr ? 1 : 0) +
+                         (plot_->xAxis->label().isEmpty() ? 0 : 1);
+    const int lines = plot_->height() / QFontMetrics(plot_->font()).height();
+    const int ticks = (lines - labelRows - headings - 1) / linesForTick;
+    plot_->yAxis->ticker()->setTickCount(std::clamp(ticks, 1, mostTicks));
+}
 
 int ChartPlot::RoomForAverage() const {
     if (!figures_.average) return 0;

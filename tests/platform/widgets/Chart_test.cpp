@@ -230,6 +230,28 @@ TEST_F(AChartInAWindow, DrawsALineAtTheAverage) {
     EXPECT_EQ(rowsWithInk(), without);
 }
 
+TEST_F(AChartInAWindow, HasFewerFiguresAtItsAxisWhereItIsLow) {
+    Show(QColor(0xf0, 0xf0, 0xf0));
+    // The lines across the drawing, one for each figure.
+    const auto figures = [this](int height) {
+        chart.setMinimumHeight(height);
+        chart.resize(500, height);
+        QApplication::processEvents();
+        const QImage image = chart.grab().toImage();
+        int lines = 0;
+        for (int y = 2; y < image.height() - 2; ++y) {
+            int grey = 0;
+            for (int x = 60; x < 480; ++x) grey += qGray(image.pixel(x, y)) < 240;
+            lines += grey > 380 ? 1 : 0;
+        }
+        return lines;
+    };
+    const int high = figures(300);
+    const int low = figures(90);
+    EXPECT_GT(high, low);
+    EXPECT_GE(low, 1);
+}
+
 TEST_F(AChartInAWindow, WritesTheAverageBesideTheBarsAndCoversNone) {
     Show(QColor(0xf0, 0xf0, 0xf0));
     const QColor series(0xc0, 0xd0, 0xff);
