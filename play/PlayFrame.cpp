@@ -112,6 +112,8 @@ QLayout* PlayFrame::BuildInputs(const PlayFormText& text, const PlayControlNames
     lotteries->addWidget(lotteries_, 0, 0);
     lotteries->addLayout(besideList_, 0, 1);
     lotteries->setColumnStretch(0, 1);
+    // Where the list is as wide as it may be, the rest stays free beside it.
+    lotteries->addItem(new QSpacerItem(0, 0, QSizePolicy::Expanding), 0, 2);
     auto* column = new QVBoxLayout;
     column->addWidget(title);
     column->addLayout(lotteries, 1);

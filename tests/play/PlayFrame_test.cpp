@@ -151,6 +151,7 @@ TEST_F(ThePlayFrame, GivesTheRoomOfAWideWindowToTheSideOfTheGrid) {
     EXPECT_EQ(grid.width(), width) << "the columns keep their widths";
     const auto* list = Find<QWidget>(*form, lotteryList);
     EXPECT_LE(list->width(), 320);
+    EXPECT_EQ(list->x(), Find<QWidget>(*form, lotteryPrompt)->x());
     const auto* filter = Find<QWidget>(*form, usualFilters.highLow);
     EXPECT_LE(filter->mapTo(form.get(), filter->rect().topRight()).x() - list->x(), 320);
 }
