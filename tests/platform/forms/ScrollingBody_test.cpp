@@ -118,6 +118,36 @@ TEST_F(AFormThatMayScroll, LeadsTheTabKeyThroughAllThatScrollsAndOnToTheButtons)
     EXPECT_EQ(form->save->previousInFocusChain(), form->boxes.back());
 }
 
+TEST_F(AFormThatMayScroll, ShowsAllOfEachControlOnTheWayBackToo) {
+    Open(tooMany);
+    form->boxes.back()->setFocus();
+    for (auto box = form->boxes.rbegin(); box != form->boxes.rend(); ++box) {
+        EXPECT_EQ(form->focusWidget(), *box);
+        EXPECT_TRUE(InSight(**box)) << (*box)->objectName().toStdString();
+        QTest::keyClick(form->focusWidget(), Qt::Key_Backtab);
+    }
+}
+
+TEST_F(AFormThatMayScroll, ShowsAllOfAControlThatGetsTheFocusByCode) {
+    Open(tooMany);
+    for (const std::size_t box : {50U, 10U, 59U, 0U}) {
+        form->boxes[box]->setFocus();
+        EXPECT_TRUE(InSight(*form->boxes[box])) << box;
+    }
+}
+
+TEST_F(AFormThatMayScroll, DoesWhereItsTextNeedsMoreLinesThanTheScreenHasRoomFor) {
+    form = std::make_unique<FormOfBoxes>(program.program, few);
+    auto* text = new QLabel(QStringLiteral("one two three four five ").repeated(600));
+    text->setWordWrap(true);
+    qobject_cast<QVBoxLayout*>(form->layout())->insertWidget(0, text);
+    form->show();
+    QApplication::processEvents();
+    ASSERT_NE(Body(), nullptr);
+    EXPECT_GE(text->height(), text->heightForWidth(text->width()));
+    EXPECT_TRUE(InSight(*form->save));
+}
+
 TEST_F(AFormThatMayScroll, LeavesInPlaceWhatIsClicked) {
     Open(tooMany);
     QScrollBar* bar = Body()->verticalScrollBar();
