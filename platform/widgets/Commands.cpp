@@ -53,13 +53,19 @@ QList<QKeySequence> KeysOf(Command command) {
     }
 }
 
+/// An icon alone may be narrow, a word is not cut.
+void GiveWord(IconButton& button, const QString& word) {
+    button.setText(word);
+    button.setMinimumWidth(0);
+}
+
 }  // namespace
 
 QPushButton* MakeCommandButton(const QString& name, Command command, const QString& toolTip,
                                QWidget* parent) {
     const CommandLook look = LookOf(command);
     IconButton* button = MakeIconButton(name, QString::fromLatin1(look.icon), toolTip, parent);
-    button->setText(QCoreApplication::translate("Commands", look.word));
+    GiveWord(*button, QCoreApplication::translate("Commands", look.word));
     if (command == Command::Generate) button->StandOut();
     return WithKeysOf(command, button);
 }
@@ -73,9 +79,9 @@ QPushButton* WithKeysOf(Command command, QPushButton* button) {
 }
 
 QPushButton* MakeDeletingButton(const QString& name, const QString& caption, QWidget* parent) {
-    auto* button =
+    IconButton* button =
         MakeIconButton(name, QString::fromLatin1(LookOf(Command::Delete).icon), {}, parent);
-    button->setText(ShownCaption(caption));
+    GiveWord(*button, ShownCaption(caption));
     return button;
 }
 

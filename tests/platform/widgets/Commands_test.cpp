@@ -134,6 +134,22 @@ TEST(ADeletingButton, HasItsCaptionAndTheDeleteIcon) {
     EXPECT_FALSE(button->icon().isNull());
 }
 
+TEST(ACommandButton, IsNeverTooNarrowForItsWord) {
+    const QString name = QStringLiteral("Command2");
+    for (QPushButton* made : {MakeCommandButton(name, Command::Down, QStringLiteral("Down")),
+                              MakeDeletingButton(name, QStringLiteral("Delete Draw"))}) {
+        const std::unique_ptr<QPushButton> button(made);
+        QWidget window;
+        auto* row = new QHBoxLayout(&window);
+        row->addWidget(button.get());
+        window.show();
+        window.resize(window.minimumSize());
+        QApplication::processEvents();
+        EXPECT_GE(button->width(), button->sizeHint().width());
+        button->setParent(nullptr);
+    }
+}
+
 TEST(ADeletingButton, StandsApartFromItsNeighbour) {
     QWidget window;
     auto* row = new QHBoxLayout(&window);
