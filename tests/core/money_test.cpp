@@ -39,6 +39,14 @@ TEST(AmountOfMoney, IsShownInTheFormOfTheRegion) {
               "0.05");
 }
 
+TEST(AmountOfMoney, HasTwoDecimalsWhateverTheyAre) {
+    for (std::int64_t pennies = 0; pennies < 100; ++pennies) {
+        const std::string text = Shown(pennies, american);
+        EXPECT_EQ(text.size(), 5U) << text;
+        EXPECT_EQ(Pennies(MoneyInCell(text, american)), pennies);
+    }
+}
+
 TEST(AmountOfMoney, HasGroupsOfThreeDigits) {
     EXPECT_EQ(Shown(99999),
               "\xA3"

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "core/memory_folder.h"
@@ -138,6 +139,13 @@ TEST_F(ADiary, Has999RecordsAtMost) {
     EXPECT_EQ(Load(content), 999);
     EXPECT_EQ(FailureOf([&] { Load(content + "\"\",\"1\",\"\",\"\",\"\",\"\"\r\n"); }),
               "Diary.000, line 1000: a diary has 999 records at most.");
+}
+
+TEST_F(ADiary, IsWrittenToItsLastRow) {
+    FillTo(999);
+    const std::string content = DiaryText(diary_);
+    EXPECT_EQ(std::count(content.begin(), content.end(), '\n'), 999);
+    EXPECT_TRUE(content.ends_with("\"\",\"999\",\"\",\"\",\"\",\"\"\r\n"));
 }
 
 TEST_F(ADiary, TakesNoAmountThatCannotBeCounted) {

@@ -129,6 +129,19 @@ TEST_F(Members, OfOneNameKeepTheirOrderWhenSorted) {
     EXPECT_EQ(state_.Members(2, 5), "first");
 }
 
+TEST_F(Members, OfOneNameKeepTheirOrderHoweverManyThereAre) {
+    AddHundred();
+    for (int row = 1; row <= 100; ++row) {
+        state_.Members(row, 0) = row % 2 == 0 ? "Ann" : "Bob";
+        state_.Members(row, 5) = std::to_string(row);
+    }
+    SortMembers(state_);
+    for (int row = 1; row <= 50; ++row) {
+        EXPECT_EQ(state_.Members(row, 5), std::to_string(2 * row));
+        EXPECT_EQ(state_.Members(row + 50, 5), std::to_string(2 * row - 1));
+    }
+}
+
 TEST_F(Members, PayInFourWays) {
     EXPECT_EQ(PayByIndex("Cash"), 0);
     EXPECT_EQ(PayByIndex("Internet transfer"), 3);
