@@ -63,6 +63,21 @@ std::string_view FieldReader::ReadLine(std::string_view expected) {
     return line;
 }
 
+void FieldReader::PassRestOfLine() {
+    if (nextLine_ != line_) return;
+    fieldPending_ = false;
+    while (position_ < content_.size() && !IsLineEnd(content_[position_])) ++position_;
+    PassLineEnd();
+}
+
+void FieldReader::PassStrayLineFeeds() {
+    while (position_ >= 2 && content_.substr(position_ - 2, 3) == "\r\n\n") {
+        PassLineEnd();
+        if (!content_.substr(position_).starts_with("\r\n")) return;
+        PassLineEnd();
+    }
+}
+
 std::string_view FieldReader::Rest() {
     line_ = nextLine_;
     fieldPending_ = false;

@@ -40,6 +40,14 @@ class FieldReader {
     /// The rest of the current line. Throws like `ReadField` at the end of the file.
     std::string_view ReadLine(std::string_view expected);
 
+    /// Passes over what is left of the line in which the last field stands; that is nothing where
+    /// the field was the last one of its line.
+    void PassRestOfLine();
+
+    /// Passes over line feeds that stand at the head of a line behind CR LF, each with the line end
+    /// behind it where the line holds nothing else: what a file has whose lines were cut at CR.
+    void PassStrayLineFeeds();
+
     /// All that is left, as it stands.
     std::string_view Rest();
 

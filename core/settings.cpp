@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/settings.h"
 
+#include <algorithm>
 #include <string_view>
 
+#include "core/default_settings.h"
 #include "core/field_reader.h"
 
 namespace {
@@ -59,6 +61,11 @@ constexpr Default defaults[] = {
 
 std::string PlaceOf(setting::Slot slot) {
     return std::string(settingsFile) + ", line " + std::to_string(slot);
+}
+
+std::string_view DefaultSetting(int slot) {
+    const auto* found = std::ranges::find(defaults, slot, &Default::slot);
+    return found == std::end(defaults) ? std::string_view() : found->text;
 }
 
 void LoadSettings(State& state, ProgramFolder& folder) {

@@ -174,6 +174,38 @@ TEST(FieldReader, LeavesWhatIsNoShortNumberToBeRead) {
     }
 }
 
+TEST(FieldReader, PassesOverTheRestOfTheLineOfAField) {
+    FieldReader reader("a,b,c\r\nd\r\ne,\"f", "test.txt", Quotes::Removed);
+    EXPECT_EQ(reader.ReadField("a field"), "a");
+    reader.PassRestOfLine();
+    EXPECT_EQ(reader.ReadField("a field"), "d");
+    reader.PassRestOfLine();
+    EXPECT_EQ(reader.ReadField("a field"), "e");
+    reader.PassRestOfLine();
+    EXPECT_TRUE(reader.AtEnd());
+    reader.PassRestOfLine();
+    EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, PassesOverTheEmptyRestBehindACommaAtTheVeryEnd) {
+    FieldReader reader("a,", "test.txt");
+    reader.ReadField("a field");
+    reader.PassRestOfLine();
+    EXPECT_TRUE(reader.AtEnd());
+}
+
+TEST(FieldReader, PassesOverLineFeedsAtTheHeadOfLines) {
+    FieldReader reader("\r\n\n\r\n\na\r\n\n\nb\nc\n\nd\r\n", "test.txt");
+    std::vector<std::string> fields;
+    std::vector<int> lines;
+    for (reader.PassStrayLineFeeds(); !reader.AtEnd(); reader.PassStrayLineFeeds()) {
+        fields.emplace_back(reader.ReadField("a field"));
+        lines.push_back(reader.Line());
+    }
+    EXPECT_EQ(fields, (Texts{"", "a", "", "b", "c", "", "d"}));
+    EXPECT_EQ(lines, (std::vector{1, 5, 7, 8, 9, 10, 11}));
+}
+
 TEST(FieldReader, GivesAllThatIsLeftAsItStands) {
     FieldReader reader("a\r\n b, c\r\n\r\n", "test.txt");
     reader.ReadField("a field");

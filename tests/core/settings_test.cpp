@@ -5,6 +5,7 @@
 
 #include <memory>
 
+#include "core/default_settings.h"
 #include "core/memory_folder.h"
 #include "tests/core/failures.h"
 
@@ -28,6 +29,15 @@ class SettingsFile : public testing::Test {
         return FailureOf([this] { LoadSettings(state_, folder_); });
     }
 };
+
+TEST(DefaultSetting, IsTheTextThatANewFileHolds) {
+    const auto state = std::make_unique<State>();
+    MemoryFolder folder;
+    MakeDefaultSettings(*state, folder);
+    for (int slot = 1; slot <= setting::last; ++slot) {
+        EXPECT_EQ(DefaultSetting(slot), state->Settings(slot)) << slot;
+    }
+}
 
 }  // namespace
 
