@@ -84,7 +84,7 @@ QLayout* SManager::BuildEditors() {
     text_->SetReplaced(QLatin1Char('"'), QLatin1Char('\''));
     date_->setAccessibleName(tr("Date"));
     date_->installEventFilter(this);
-    text_->setMinimumWidth(240);
+    text_->setMinimumWidth(180);
     editors_ = new QStackedLayout;
     editors_->addWidget(Titled(title, text_));
     editors_->addWidget(date_);
@@ -111,8 +111,7 @@ QLayout* SManager::BuildEditors() {
     row->addSpacing(24);
     row->addWidget(Connect(MakeButton(QStringLiteral("Command7"), tr("Total")), &SManager::AddUp));
     total_->setAccessibleName(tr("Total"));
-    total_->setMaximumWidth(
-        fontMetrics().horizontalAdvance(QStringLiteral("_\u00A300,000,000.00_")));
+    total_->setFixedWidth(fontMetrics().horizontalAdvance(QStringLiteral("_\u00A300,000,000.00_")));
     row->addWidget(total_);
     return row;
 }

@@ -161,6 +161,13 @@ TEST_F(Managing, ALossIsShownInDarkRed) {
     EXPECT_EQ(TotalShown().palette().color(QPalette::Text), darkRed);
 }
 
+TEST_F(Managing, HasRoomForALargeTotal) {
+    Open();
+    const int needed =
+        TotalShown().fontMetrics().horizontalAdvance(QStringLiteral("-\u00A399,999.99"));
+    EXPECT_GT(TotalShown().width(), needed);
+}
+
 TEST_F(Managing, MarksTheCellThatIsEdited) {
     OpenWith(twoRecords);
     EXPECT_EQ(Table().CellBackground(1, 1), paleYellow);

@@ -196,6 +196,15 @@ TEST_F(OpeningASyndicate, CancelAndEscChangeNothing) {
     EXPECT_EQ(File(), "SMembers.001");
 }
 
+TEST_F(OpeningASyndicate, TakesNoColourOfTheSettings) {
+    const QColor before = form_->palette().color(QPalette::Window);
+    MakeDefaultSettings(test_.state, test_.folder);
+    test_.state.Settings(setting::SkinBits) = "2";
+    test_.state.Settings(setting::BackgroundColour) = "&HC0FFC0";
+    Open();
+    EXPECT_EQ(form_->palette().color(QPalette::Window), before);
+}
+
 TEST_F(OpeningASyndicate, AFileCutShortEndsTheRun) {
     test_.folder.Write("SMembers.002", "\"Ann\",\"\"");
     OpenSyndicate form(test_.program, nullptr);
