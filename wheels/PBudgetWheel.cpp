@@ -51,7 +51,10 @@ wheels::Outcome PBudgetWheel::Play(const wheels::Boxes& boxes) {
         return wheels::Outcome::Refused;
     }
     const Hourglass hourglass;
-    return budget_wheels::Generate(state(), services().random, Size(), boxes);
+    const auto outcome = budget_wheels::Generate(state(), services().random, Size(), boxes);
+    if (outcome != wheels::Outcome::Done) return outcome;
+    ShowResult();
+    return wheels::Outcome::Shown;
 }
 
 // Of the filters only the one that looks at all draws shows the hourglass.

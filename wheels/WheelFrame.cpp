@@ -221,7 +221,7 @@ void WheelFrame::MakeLines() {
         ShowResult();
         return;
     }
-    if (outcome == wheels::Outcome::Refused) return;
+    if (outcome == wheels::Outcome::Shown || outcome == wheels::Outcome::Refused) return;
     ShowTip(services(), this, inputTip);
     if (outcome == wheels::Outcome::CheckInput) FocusWrongBox();
 }

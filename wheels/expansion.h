@@ -12,7 +12,8 @@ namespace wheels {
 
 /// What came of generating a wheel.
 enum class Outcome {
-    Done,           ///< The lines stand; the form shows them.
+    Done,           ///< The lines stand and are to be shown.
+    Shown,          ///< The lines stand, and the form has shown them itself.
     CheckInput,     ///< A box holds no number that can be played.
     NoOtherNumber,  ///< A line needs one more number and none is left that differs.
     Refused,        ///< The form has said why there are no lines; the grid stays as it is.

@@ -210,6 +210,19 @@ TEST_F(BudgetWheelsForm, IsBusyFromWhereTheNumbersHavePassed) {
     EXPECT_EQ(test_.state.Busy, 0);
 }
 
+TEST_F(BudgetWheelsForm, ShowsTheLinesWhileItIsBusyUnderTheHourglass) {
+    Open();
+    TypeCounting(9);
+    Lines().SetRowCount(2);
+    std::set<std::pair<int, bool>> seen;
+    QObject context;
+    QObject::connect(Lines().model(), &QAbstractItemModel::modelReset, &context,
+                     [&] { seen.emplace(test_.state.Busy, UnderHourglass()); });
+    Click(*form_, generateButton);
+    EXPECT_EQ(seen, (std::set<std::pair<int, bool>>{{-1, true}})) << "as the grid grows";
+    EXPECT_EQ(ShownLines(), 3);
+}
+
 TEST_F(BudgetWheelsForm, GeneratesNothingWhileBusy) {
     Open();
     ChooseLottery(Seven);
