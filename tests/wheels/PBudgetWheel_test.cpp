@@ -343,6 +343,11 @@ TEST_F(BudgetWheelsForm, SelectsDifferentNumbersForTheBoxesInUse) {
     }
 }
 
+TEST_F(BudgetWheelsForm, SelectsAndMixesWhileBusyToo) {
+    Open();
+    ExpectRandomButtonsWorkWhileBusy(9);
+}
+
 TEST_F(BudgetWheelsForm, MixesTheBoxesUpToTheLastNumber) {
     Open();
     TypeBox(0, QStringLiteral("12a"));

@@ -245,6 +245,22 @@ TEST_F(CreateAWheel, MixesTheNumbersAndWritesThemPlain) {
     EXPECT_EQ(after, before);
 }
 
+TEST_F(CreateAWheel, WritesEveryBoxWhenItMixesAndEmptiesNoughts) {
+    Open();
+    TypeBox(0, QStringLiteral("0"));
+    TypeBox(1, QStringLiteral("9"));
+    TypeBox(5, QStringLiteral("000"));
+    Click(*form_, randomOrderButton);
+    QStringList expected(boxCount);
+    expected[0] = QStringLiteral("9");
+    EXPECT_EQ(BoxTexts(boxCount), expected);
+}
+
+TEST_F(CreateAWheel, SelectsAndMixesWhileBusyToo) {
+    Open();
+    ExpectRandomButtonsWorkWhileBusy(8);
+}
+
 TEST_F(CreateAWheel, EmptiesInvalidBoxesAndTheGridOnAChangeOfLottery) {
     Open();
     TypeCounting(8);

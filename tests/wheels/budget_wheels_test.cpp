@@ -97,6 +97,17 @@ TEST(BudgetWheels, CutTheSecondGroupForFivePicks) {
     }
 }
 
+TEST(BudgetWheels, CompareInSinglePrecisionWhichNumberTheyDrop) {
+    const auto state = LotteryOf({.picks = 5});
+    Random random = RandomOf(68716939);
+    const double first = random.Next();
+    ASSERT_GT(first, 0.5);
+    ASSERT_EQ(static_cast<float>(first), 0.5F);
+    random.Reset(68716939);
+    Play(*state, random, 0, Counting(9));
+    EXPECT_EQ(LinesOf(*state, 5)[0], (Line{1, 2, 3, 5, 6})) << "as for one half: not above it";
+}
+
 TEST(BudgetWheels, ReadTheBoxesOfTheSizeChosenOnly) {
     const auto state = LotteryOf({});
     Random random = RandomOf(1);
@@ -217,6 +228,15 @@ TEST(BudgetWheels, RefuseNoLineThatCanFindItsSeventhNumber) {
         EXPECT_EQ(Play(*state, random, 0, Holding(texts)), Outcome::Done);
         EXPECT_EQ(LineCount(*state), 3);
     }
+}
+
+TEST(BudgetWheels, FindASeventhNumberThatStandsInTheLastBoxAlone) {
+    // The first line holds 1 to 6 of boxes 0 to 5, and only box 8 differs from them.
+    const auto state = LotteryOf({.picks = 7});
+    Random random = RandomOf(1);
+    ASSERT_EQ(Play(*state, random, 0, Holding({"1", "2", "3", "4", "5", "6", "1", "2", "7"})),
+              Outcome::Done);
+    EXPECT_EQ(LinesOf(*state, 7)[0], (Line{1, 2, 3, 4, 5, 6, 7}));
 }
 
 TEST(BudgetWheels, LookForTheSeventhNumberAmongThoseOfTheSizeOnly) {

@@ -348,6 +348,16 @@ TEST(RandomOrder, OfBudgetWheelsWritesAZeroBetweenNumbersAndStopsAtTheLast) {
     EXPECT_TRUE(seen.contains(Texts{"0", "3", "1", "", "abc"}));
 }
 
+TEST(RandomOrder, OfBudgetWheelsKeepsANegativeNumberAndOthersEmptyItsBox) {
+    const auto state = LotteryOf({});
+    Random random = RandomOf(1);
+    Boxes boxes = BoxesOf(2, {"-4", "3"});
+    wheels::MixOrderUpToLast(*state, random, boxes);
+    EXPECT_EQ(TextsOf(boxes), (Texts{"3", "-4"}));
+    wheels::MixOrder(*state, random, boxes);
+    EXPECT_EQ(TextsOf(boxes), (Texts{"3", ""}));
+}
+
 TEST(RandomOrder, OfBudgetWheelsWithoutNumbersWritesAZeroIntoTheFirstBox) {
     const auto state = LotteryOf({});
     Random random = RandomOf(1);

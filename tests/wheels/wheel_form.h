@@ -139,6 +139,17 @@ class WheelFormTest : public LinesFormTest {
         return texts;
     }
 
+    /// Random selection and random order change the `inUse` boxes whatever `Busy` is.
+    void ExpectRandomButtonsWorkWhileBusy(int inUse) {
+        test_.state.Busy = -1;
+        Click(*form_, randomSelectionButton);
+        const QStringList selected = BoxTexts(inUse);
+        EXPECT_FALSE(selected.contains(QString()));
+        Click(*form_, randomOrderButton);
+        EXPECT_NE(BoxTexts(inUse), selected);
+        EXPECT_EQ(test_.state.Busy, -1);
+    }
+
     void ExpectInputTip() {
         test_.messages.Expect({.title = QStringLiteral("Error"),
                                .text = QStringLiteral(" There was a problem with the input.  \r\n "
