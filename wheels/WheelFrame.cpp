@@ -192,8 +192,8 @@ void WheelFrame::Write(const wheels::Boxes& boxes) {
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         auto& [box, inUse] = inputs_[i];
         inUse = boxes[i].inUse;
-        const QString text = ToQString(boxes[i].text);
-        if (box->text() != text) box->setText(text);
+        const std::string& text = boxes[i].text;
+        if (FromQString(box->text()) != text) box->setText(ToQString(text));
         Paint(*box, inUse ? white : grey);
         box->setFocusPolicy(inUse ? Qt::StrongFocus : Qt::ClickFocus);
         box->setEnabled(inUse || !rules_.boxes.unusedDisabled);

@@ -268,10 +268,12 @@ TEST_F(BudgetWheelsForm, PlaysNumbersAboveTheLotterysAndDigitsBeforeALetter) {
     TypeCounting(9);
     TypeBox(0, QStringLiteral("999"));
     TypeBox(1, QStringLiteral("12a"));
+    Box(2).setText(QStringLiteral("3\u0416"));
     Click(*form_, generateButton);
     EXPECT_EQ(Rows(6)[0], (std::vector<int>{3, 4, 5, 6, 12, 999}));
     EXPECT_EQ(Box(0).text(), QStringLiteral("999"));
     EXPECT_EQ(Box(1).text(), QStringLiteral("12a")) << "a generate leaves the boxes alone";
+    EXPECT_EQ(Box(2).text(), QStringLiteral("3\u0416")) << "letters of any alphabet too";
 }
 
 TEST_F(BudgetWheelsForm, EndsTheGridBeforeALineWithANegativeNumber) {
