@@ -83,7 +83,7 @@ void NumberLabel::SetSelected(bool selected) {
 
 void NumberLabel::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Space) return QLabel::keyPressEvent(event);
-    SetSelected(!selected_);
+    if (!event->isAutoRepeat()) SetSelected(!selected_);
 }
 
 void NumberLabel::mouseReleaseEvent(QMouseEvent* event) {

@@ -119,6 +119,14 @@ TEST_F(ABoardOfSixty, MovesWithTheArrowsAndSelectsWithTheSpaceBar) {
     EXPECT_EQ(board_->SelectedCount(), 1);
 }
 
+TEST_F(ABoardOfSixty, TakesASpaceBarHeldDownForOnePress) {
+    Number(7).setFocus();
+    Press(Qt::Key_Space);
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+    QApplication::sendEvent(&Number(7), &repeated);
+    EXPECT_TRUE(board_->IsSelected(7));
+}
+
 TEST_F(ABoardOfSixty, StaysAmongTheNumbersShown) {
     board_->ShowUpTo(45);
     Number(40).setFocus();
