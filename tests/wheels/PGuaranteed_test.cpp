@@ -118,6 +118,8 @@ TEST_F(GuaranteedWheelsForm, BearsItsWords) {
                     {"Command11", " Help "},
                     {"Command16", "Clear"},
                     {"Command13", "Odd/even"},
+                    {"Command14", "High/low"},
+                    {"Command15", "Long runs"},
                     {"Command9", "Previous draws"}});
     QStringList titles;
     for (const QGroupBox* box : form_->findChildren<QGroupBox*>()) titles << box->title();
@@ -221,9 +223,11 @@ TEST_F(GuaranteedWheelsForm, RefusesFourPicksAtTheEnd) {
     ExpectMessage("Error", " 0 numbers picked. You need 21 for this wheel.    ");
     Click(*form_, "Command2");
     ClickNumbers(1, 21);
+    test_.state.Lines(1, 1) = 7;
     ExpectMessage("Sorry!", "This method is not suitable for this lottery.    ");
     Click(*form_, "Command2");
     EXPECT_EQ(ShownLines(), 0);
+    EXPECT_EQ(test_.state.Lines(1, 1), 7) << "the lines stay";
 }
 
 TEST_F(GuaranteedWheelsForm, SelectsAtRandomFromTheLotteryAndGenerates) {
@@ -270,8 +274,10 @@ TEST_F(GuaranteedWheelsForm, SelectsHiddenNumbersWhereTheWheelTakesMoreThanTheLo
     test_.state.Pool(10) = 33;
     test_.state.Pool(11) = 34;
     test_.state.Pool(12) = 35;
+    test_.state.Lines(1, 1) = 7;
     ExpectMessage("Sorry!", "Too many numbers for this lottery.    ");
     Click(*form_, panels[2].select);
+    EXPECT_EQ(test_.state.Lines(1, 1), 7) << "the lines stay";
     EXPECT_TRUE(IsSelected(35));
     EXPECT_EQ(Selected().size(), 12U);
     ChooseLottery(Six40);
@@ -387,6 +393,10 @@ TEST_F(GuaranteedWheelsForm, LeavesEverythingButTheBoardAloneWhileBusy) {
     EXPECT_EQ(Selected().size(), 8U);
     EXPECT_EQ(test_.state.LotteryName, "Lotto");
     EXPECT_EQ(saves_, 0);
+    Click(*form_, clearButton);
+    EXPECT_EQ(Selected(), std::vector<int>()) << "the board does not wait";
+    EXPECT_EQ(ShownLines(), 0);
+    ClickNumbers(1, 8);
     Click(*form_, closeButton);
     EXPECT_TRUE(form_->isVisible());
     test_.state.Busy = 0;
@@ -412,6 +422,10 @@ TEST_F(GuaranteedWheelsForm, GeneratesTheFirstPanelByTheKeysOfGenerate) {
     QApplication::processEvents();
     QTest::keyClick(form_.get(), Qt::Key_F5);
     EXPECT_EQ(ShownLines(), 15);
+    ExpectMessage("Error", " 21 numbers picked. You need 8 for this wheel.    ");
+    Click(*form_, "Command3");
+    QTest::keyClick(form_.get(), Qt::Key_F5);
+    EXPECT_EQ(test_.messages.Shown(), 1) << "whichever panel was used before";
 }
 
 TEST_F(GuaranteedWheelsForm, FiltersTheShownLines) {
@@ -458,6 +472,25 @@ TEST_F(GuaranteedWheelsForm, TellsWhatHoldsForTheLinesThatAFilterHasLeftInTheirP
     QApplication::processEvents();
     EXPECT_NE(Tip(0).find("22 numbers have a 3-match."), std::string::npos)
         << "the lines are of another wheel";
+}
+
+TEST_F(GuaranteedWheelsForm, CountsTheLinesLeftForItsOwnNumbersAndTheLotterysPicks) {
+    Open();
+    for (const auto& [lottery, left] :
+         {std::pair(Lotto,
+                    "Checked: 0 of 924 selections of 6 from 12 numbers have a 5-match in the 0 "
+                    "lines left; 924 have none, such as 2, 4, 6, 8, 10 and 12."),
+          std::pair(FivePlain,
+                    "Checked: 0 of 792 selections of 5 from 12 numbers have a 5-match in the 0 "
+                    "lines left; 792 have none, such as 2, 4, 6, 8 and 10.")}) {
+        ChooseLottery(lottery);
+        Click(*form_, clearButton);
+        for (int number = 2; number <= 24; number += 2) ClickNumbers(number, number);
+        Click(*form_, "Command4");
+        Click(*form_, usualFilters.oddEven);
+        QApplication::processEvents();
+        EXPECT_EQ(Tip(2), left);
+    }
 }
 
 TEST_F(GuaranteedWheelsForm, GivesColoursOfTheSkinToItsLabels) {

@@ -336,6 +336,10 @@ TEST_F(MatchWheelsForm, TellsWhatHoldsForTheLinesThatAFilterHasLeft) {
     Generate();
     ExpectProof(all);
     Click(*form_, usualFilters.longRuns);
+    Generate();
+    QApplication::processEvents();
+    ExpectProof(all);
+    Click(*form_, usualFilters.longRuns);
     List(threeMatchList).SetIndex(11);
     QApplication::processEvents();
     EXPECT_TRUE(Label(sentenceLabel).toolTip().contains(QStringLiteral("2,002 selections")))
@@ -343,6 +347,19 @@ TEST_F(MatchWheelsForm, TellsWhatHoldsForTheLinesThatAFilterHasLeft) {
     Click(*form_, usualFilters.oddEven);
     QApplication::processEvents();
     EXPECT_FALSE(Label(sentenceLabel).toolTip().contains(QStringLiteral("left")));
+}
+
+TEST_F(MatchWheelsForm, CountsTheLinesLeftForFiveNumbersDrawnWhereTheLotteryDrawsFive) {
+    Open();
+    ChooseLottery(FivePlain);
+    List(threeMatchList).SetIndex(5);
+    for (int index = 0; index < 15; ++index) TypeBox(index, QString::number(2 * index + 2));
+    Generate();
+    Click(*form_, usualFilters.oddEven);
+    QApplication::processEvents();
+    ExpectProof(
+        "Checked: 0 of 3,003 selections of 5 from 15 numbers have a 3-match in the 0 lines left; "
+        "3,003 have none, such as 2, 4, 6, 8 and 10.");
 }
 
 TEST_F(MatchWheelsForm, SaysLessOnceNoWheelIsChosen) {

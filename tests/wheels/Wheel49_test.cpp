@@ -174,6 +174,18 @@ TEST_F(WheelOf49Form, TriesUntilThePreviousDrawsAreKeptFree) {
     }
 }
 
+TEST_F(WheelOf49Form, IsBusyWhileItMakesItsLines) {
+    Open();
+    std::set<int> busy;
+    test_.services.seconds = [&] {
+        busy.insert(test_.state.Busy);
+        return 0.0;
+    };
+    Generate();
+    EXPECT_EQ(busy, std::set<int>{-1});
+    EXPECT_EQ(test_.state.Busy, 0);
+}
+
 TEST_F(WheelOf49Form, LeavesEverythingAloneWhileBusy) {
     Open();
     Generate();
@@ -238,6 +250,12 @@ TEST_F(WheelOf49Form, TellsWhatHoldsForTheLinesThatAFilterHasLeft) {
         << Label(bodyLabel).toolTip().toStdString();
     Generate();
     EXPECT_TRUE(Label(bodyLabel).toolTip().startsWith(QStringLiteral("Checked: all 13,983,816")));
+    MakeOnlyLine({2, 4, 6, 8, 10, 12});
+    Click(*form_, usualFilters.oddEven);
+    QApplication::processEvents();
+    EXPECT_TRUE(Label(bodyLabel).toolTip().endsWith(
+        QStringLiteral("13,983,816 have none, such as 1, 2, 3, 4, 5 and 6.")))
+        << Label(bodyLabel).toolTip().toStdString();
 }
 
 TEST_F(WheelOf49Form, TellsWhatATableOfTheUsersOwnLeavesOut) {
