@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "analysis/WhatIf.h"
 
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "platform/widgets/Grid.h"
 #include "tests/analysis/analysis_form.h"
@@ -37,8 +39,47 @@ constexpr auto savedEntries =
     "01-Jun-2005,4,9,15,27,30,,,6,UK Thunderball,Ann,dbase101.txt\r\n"
     "04-Jun-2005,1,2,13,24,35,9,,,UK Lotto,,dbase100.txt\r\n";
 
+/// Answers No to every question, and looks round while it is asked.
+class AskedMessages final : public MessageBoxes {
+  public:
+    explicit AskedMessages(std::function<void(const Message&)> look) : look_(std::move(look)) {}
+
+    Answer Show(QWidget*, const Message& message) override {
+        look_(message);
+        return Answer::No;
+    }
+
+  private:
+    std::function<void(const Message&)> look_;
+};
+
 class WhatIfForm : public AnalysisFormTest<WhatIf> {
   protected:
+    /// Opens the form with saved entries, and with message boxes of the test's own.
+    void OpenAsking(MessageBoxes& messages) {
+        test_.folder.Write("MyLottery.txt", savedEntries);
+        services_ = std::make_unique<Services>(Services{.seconds = test_.services.seconds,
+                                                        .today = test_.services.today,
+                                                        .random = test_.random,
+                                                        .region = test_.services.region,
+                                                        .messages = messages,
+                                                        .openPage = test_.services.openPage,
+                                                        .saveLines = {},
+                                                        .printLines = {}});
+        program_ = std::make_unique<Program>(Program{test_.state, test_.folder, *services_});
+        form_ = std::make_unique<WhatIf>(*program_, nullptr);
+        form_->Load();
+        form_->show();
+    }
+
+    /// Whether the form is at work, as the pointer and the flag say.
+    bool IsAtWork() const {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        const bool hourglass = cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+        EXPECT_EQ(hourglass, test_.state.Busy == -1);
+        return hourglass;
+    }
+
     void ChooseAnswering(int index, Answer answer) {
         test_.messages.Expect(loadQuestion, answer);
         Choose(index);
@@ -85,6 +126,10 @@ class WhatIfForm : public AnalysisFormTest<WhatIf> {
         QTest::mouseClick(Entries().viewport(), Qt::LeftButton, Qt::NoModifier,
                           Entries().visualRect(Entries().model()->index(row - 1, 3)).center());
     }
+
+  private:
+    std::unique_ptr<Services> services_;
+    std::unique_ptr<Program> program_;
 };
 
 TEST_F(WhatIfForm, OpensWithTheWordsOfItsDesign) {
@@ -236,6 +281,28 @@ TEST_F(WhatIfForm, DeletesTheCurrentEntryAndKeepsTheNumbersOfTheRows) {
     EXPECT_EQ(Row(3), "3,13,14,15,16,,,,,");
 }
 
+TEST_F(WhatIfForm, DeletesTheExtraBallWithItsEntry) {
+    Open();
+    Enter({"1", "2", "3", "4", "5", "6", "7"}, "8");
+    Enter({"9", "10", "11", "12"});
+    ClickRow(1);
+    Click(*form_, deleteButton);
+    EXPECT_EQ(Row(1), "2,9,10,11,12,,,,,");
+}
+
+TEST_F(WhatIfForm, DimsTheColumnsThatTheLotteryDoesNotHave) {
+    Open();
+    const auto headings = [this] { return Entries().horizontalHeader()->grab().toImage(); };
+    const QImage all = headings();
+    Choose(0);
+    const QImage six = headings();
+    EXPECT_NE(six, all);
+    Choose(1);
+    EXPECT_NE(headings(), six);
+    Choose(0);
+    EXPECT_EQ(headings(), six);
+}
+
 TEST_F(WhatIfForm, MakesTheFirstRowCurrentEvenWhereItIsEmpty) {
     Open();
     Enter({"1", "2", "3", "4"});
@@ -302,6 +369,20 @@ TEST_F(WhatIfForm, LoadsTheSavedEntriesOfTheLottery) {
     EXPECT_EQ(test_.state.Busy, 0);
 }
 
+TEST_F(WhatIfForm, LoadsTheSavedEntriesOfALotteryWithAnAccent) {
+    AddLottery(test_.folder, "dbase100.txt",
+               "Loter\xED"
+               "a",
+               "6,49,0,0,0");
+    test_.folder.Write("MyLottery.txt",
+                       "x,1,2,3,4,5,6,,,Loteria,,\r\nx,07,2,3,4,5,60,0,,Loter\xED"
+                       "a,,\r\n");
+    Open();
+    ChooseAnswering(0, Answer::Yes);
+    EXPECT_EQ(Row(1), "1,7,2,3,4,5,60,,,");
+    EXPECT_EQ(Row(2), ",,,,,,,,,");
+}
+
 TEST_F(WhatIfForm, SaysHowManyEntriesItLoaded) {
     test_.folder.Write("MyLottery.txt", savedEntries);
     Open();
@@ -341,30 +422,60 @@ TEST_F(WhatIfForm, ShowsEntriesUpToOneWithoutAFirstNumber) {
 }
 
 TEST_F(WhatIfForm, MarksTheQuestionAsDiscardingWhereEntriesStandInTheGrid) {
-    struct Watching final : MessageBoxes {
-        Answer Show(QWidget*, const Message& message) override {
-            discards.push_back(message.discards);
-            return Answer::No;
-        }
-        std::vector<bool> discards;
-    } watching;
-    test_.folder.Write("MyLottery.txt", savedEntries);
-    Services services{.seconds = test_.services.seconds,
-                      .today = test_.services.today,
-                      .random = test_.random,
-                      .region = test_.services.region,
-                      .messages = watching,
-                      .openPage = test_.services.openPage,
-                      .saveLines = {},
-                      .printLines = {}};
-    Program program{test_.state, test_.folder, services};
-    form_ = std::make_unique<WhatIf>(program, nullptr);
-    form_->Load();
-    form_->show();
+    std::vector<bool> discards;
+    AskedMessages messages([&](const Message& message) { discards.push_back(message.discards); });
+    OpenAsking(messages);
     Choose(0);
     Enter({"1", "2", "3", "4"});
     Choose(1);
-    EXPECT_EQ(watching.discards, (std::vector<bool>{false, true}));
+    EXPECT_EQ(discards, (std::vector<bool>{false, true}));
+}
+
+TEST_F(WhatIfForm, AsksOnceTheFormStandsAndItsWorkIsDone) {
+    std::vector<int> boxes;
+    AskedMessages messages([&](const Message&) {
+        EXPECT_FALSE(IsAtWork());
+        EXPECT_EQ(ResultText(), "");
+        int offered = 0;
+        for (int index = 1; index <= 8; ++index) {
+            EXPECT_EQ(Box(index).text(), QString());
+            if (Box(index).isVisible()) ++offered;
+        }
+        EXPECT_EQ(Label(extraBallTitle).isVisible(), Box(8).isVisible());
+        boxes.push_back(offered);
+    });
+    OpenAsking(messages);
+    Choose(0);
+    Enter({"1", "2", "3", "4", "5", "6"});
+    EXPECT_NE(Check(), "");
+    Box(6).setText(QStringLiteral("6"));
+    Choose(1);
+    Choose(2);
+    EXPECT_EQ(boxes, (std::vector<int>{6, 6, 7}));
+}
+
+TEST_F(WhatIfForm, IsAtWorkWhileItLoadsAndChecks) {
+    test_.folder.Write("MyLottery.txt", savedEntries);
+    Open();
+    std::vector<bool> loading;
+    std::vector<bool> showing;
+    std::vector<bool> checking;
+    const QObject watch;
+    Box(1).setText(QStringLiteral("5"));
+    QObject::connect(&Box(1), &QLineEdit::textChanged, &watch,
+                     [&] { loading.push_back(IsAtWork()); });
+    Entries().ScrollToRow(150);
+    QObject::connect(Entries().verticalScrollBar(), &QScrollBar::valueChanged, &watch,
+                     [&] { showing.push_back(IsAtWork()); });
+    ChooseAnswering(0, Answer::Yes);
+    QObject::connect(&Result(), &QPlainTextEdit::textChanged, &watch,
+                     [&] { checking.push_back(IsAtWork()); });
+    Check();
+    EXPECT_EQ(loading, std::vector<bool>{true});
+    EXPECT_EQ(showing, std::vector<bool>{true});
+    EXPECT_EQ(checking, std::vector<bool>(checking.size(), true));
+    EXPECT_FALSE(checking.empty());
+    EXPECT_FALSE(IsAtWork());
 }
 
 TEST_F(WhatIfForm, ChecksNothingWithoutEntries) {
@@ -439,8 +550,32 @@ TEST_F(WhatIfForm, BeginsAllOtherCountsAnew) {
     Choose(0);
     Enter({"1", "2", "3", "4", "5", "6"});
     for (int index = 1; index <= 20; ++index) test_.state.Pool(index) = 700;
+    test_.state.Pool(21) = 700;
     EXPECT_EQ(Check().find(" 70"), std::string::npos);
     EXPECT_EQ(test_.state.Pool(20), 0);
+    EXPECT_EQ(test_.state.Pool(21), 700);
+}
+
+TEST_F(WhatIfForm, TakesTheEntriesOfTheGridForTheLines) {
+    Open();
+    Choose(1);
+    Enter({"4", "9", "1", "2", "3"}, "6");
+    Enter({"07", "8", "9", "10"});
+    test_.state.Lines(2, 9) = 5;
+    test_.state.Lines(40, 3) = 5;
+    Check();
+    const std::vector<std::vector<int>> lines = {{4, 9, 1, 2, 3, 0, 0, 6, 0},
+                                                 {7, 8, 9, 10, 0, 0, 0, 0, 0}};
+    for (int row = 1; row <= 2; ++row) {
+        for (int column = 1; column <= 9; ++column) {
+            EXPECT_EQ(
+                test_.state.Lines(row, column),
+                lines[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(column - 1)])
+                << row << ", " << column;
+        }
+    }
+    EXPECT_EQ(test_.state.Lines(3, 1), 0);
+    EXPECT_EQ(test_.state.Lines(40, 3), 0) << "all lines are cleared first";
 }
 
 TEST_F(WhatIfForm, EndsInTheReportWhereACountOverflows) {

@@ -234,6 +234,12 @@ TEST_F(WhatIfCheck, ReportsBonusAndExtraBallInListsOfTheirOwn) {
               "Your lottery entries were checked against 2 draw results:\r\n\r\n"
               " 1 - match = 1 times\r\n 0 - match = 0 times\r\n\r\n"
               " 1 - match + powerball = 0 times\r\n 0 - match + powerball = 1 times\r\n");
+    Lottery(1, 9, 5, 1);
+    EXPECT_EQ(Report(*state_),
+              "Your lottery entries were checked against 2 draw results:\r\n\r\n"
+              " 1 - match = 1 times\r\n 0 - match = 0 times\r\n\r\n"
+              " 1 - match + bonus = 0 times\r\n 0 - match + bonus = 1 times\r\n\r\n"
+              " 1 - match + powerball = 0 times\r\n 0 - match + powerball = 1 times\r\n");
 }
 
 TEST_F(WhatIfCheck, ReportsNoDraws) {
