@@ -88,6 +88,15 @@ TEST_F(AveragesForm, ShowsThePositionPicked) {
     EXPECT_EQ(Title(), QStringLiteral(" Value of 7th number over last 2 draws"));
 }
 
+TEST_F(AveragesForm, DrawsBothChartsAnew) {
+    Open();
+    EXPECT_EQ(Hovers("MSChart2").value(2), QStringLiteral("3: 1"));
+    Pick(6);
+    EXPECT_EQ(Hovers("MSChart1").value(0), QStringLiteral("draw 1, the newest: 48"));
+    EXPECT_EQ(Hovers("MSChart2").value(2), QStringLiteral("3: 0"));
+    EXPECT_EQ(Hovers("MSChart2").value(47), QStringLiteral("48: 1"));
+}
+
 TEST_F(AveragesForm, OffersOnlyThePositionsThatTheLotteryHas) {
     Open();
     EXPECT_TRUE(Option(5).isEnabled());

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "analysis/ANumberStats.h"
 
+#include <QScrollBar>
+
 #include "platform/widgets/Grid.h"
 #include "tests/analysis/analysis_form.h"
 #include "tests/support/hourglass_watch.h"
@@ -189,6 +191,20 @@ TEST_F(NumberStatsForm, GoesBackToTheFirstRowAfterASort) {
     Table().SetCurrentCell(30, 2);
     Click(*form_, overdueButton);
     EXPECT_EQ(Table().CurrentRow(), 1);
+}
+
+TEST_F(NumberStatsForm, ShowsTheFirstRowAfterASortAndAChoice) {
+    Open();
+    const auto scrolled = [this] {
+        Table().ScrollToRow(49);
+        return Table().verticalScrollBar()->value();
+    };
+    ASSERT_GT(scrolled(), 0);
+    Click(*form_, overdueButton);
+    EXPECT_EQ(Table().verticalScrollBar()->value(), 0);
+    ASSERT_GT(scrolled(), 0);
+    Choose(1);
+    EXPECT_EQ(Table().verticalScrollBar()->value(), 0);
 }
 
 TEST_F(NumberStatsForm, ReadsTheDatabaseAgainWhenItsEntryIsChosenAgain) {

@@ -7,7 +7,23 @@
 
 namespace {
 
-using OddEvenForm = AnalysisFormTest<AOddEven>;
+class OddEvenForm : public AnalysisFormTest<AOddEven> {
+  protected:
+    /// Bars of both colours stand in the picture of the chart.
+    void ExpectBothColours(const char* chart) {
+        const QImage image = ChartOf(chart).grab().toImage();
+        int odd = 0;
+        int even = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                odd += image.pixelColor(x, y) == OddColour();
+                even += image.pixelColor(x, y) == EvenColours().bars;
+            }
+        }
+        EXPECT_GT(odd, 1000);
+        EXPECT_GT(even, 1000);
+    }
+};
 
 TEST_F(OddEvenForm, HasTheWordsOfItsDesign) {
     Open();
@@ -65,17 +81,21 @@ TEST_F(OddEvenForm, ChartsTheTotalsInTheColoursOfTheirSeries) {
     EXPECT_EQ(Values("MSChart2"), (std::vector<int>{6, 6}));
     EXPECT_EQ(Labels("MSChart2"), QStringLiteral("Odd Even"));
     EXPECT_EQ(ChartOf("MSChart1").fillColour(), OddColour());
-    const QImage image = ChartOf("MSChart2").grab().toImage();
-    int odd = 0;
-    int even = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            odd += image.pixelColor(x, y) == OddColour();
-            even += image.pixelColor(x, y) == EvenColours().bars;
-        }
-    }
-    EXPECT_GT(odd, 1000);
-    EXPECT_GT(even, 1000);
+    ExpectBothColours("MSChart2");
+}
+
+TEST_F(OddEvenForm, ChartsOddNumbersInBlueAndEvenOnesInGreen) {
+    OpenOn("2,9,0,0,0", Repeated(60, "28 May 05,1,2,0,0,0,0,0,0"));
+    ExpectBothColours("MSChart1");
+}
+
+TEST_F(OddEvenForm, DrawsItsTotalsAnew) {
+    Open();
+    EXPECT_EQ(Hovers("MSChart2"),
+              (QStringList{QStringLiteral("Odd: 6"), QStringLiteral("Even: 6")}))
+        << Hovers("MSChart2").join(QLatin1Char('|')).toStdString();
+    Choose(1);
+    EXPECT_NE(Hovers("MSChart2").value(0), QStringLiteral("Odd: 6"));
 }
 
 TEST(TheColoursOfOddAndEven, AreBlueAndGreenAndStayApartWithoutTheirHues) {

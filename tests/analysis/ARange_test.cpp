@@ -46,6 +46,15 @@ TEST_F(RangeForm, SaysWhichDrawABarIs) {
     EXPECT_EQ(Hovers("MSChart1")[49], QStringLiteral("behind the last draw: 0"));
 }
 
+TEST_F(RangeForm, DrawsBothChartsAnew) {
+    Open();
+    EXPECT_EQ(Hovers("MSChart2").value(44), QStringLiteral("45: 2"));
+    Choose(1);
+    EXPECT_EQ(Hovers("MSChart1").value(0), QStringLiteral("draw 1, the newest: 26"));
+    EXPECT_EQ(Hovers("MSChart2").size(), 34);
+    EXPECT_EQ(Hovers("MSChart2").value(25), QStringLiteral("26: 1"));
+}
+
 TEST_F(RangeForm, SortsTheDrawsFirst) {
     OpenOn("3,20,0,0,0", {"05 Jun 05,7,19,2,,,,,1", "04 Jun 05,5,1,8,,,,,20"});
     EXPECT_EQ(Values("MSChart1"), WithZeros({17, 7}, 50));

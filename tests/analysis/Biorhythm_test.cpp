@@ -203,10 +203,36 @@ TEST_F(BiorhythmForm, TakesTheSkinsColours) {
 
 TEST_F(BiorhythmForm, PrintsItselfWherePrintingIsThere) { ExpectPrintsItself(closeButton); }
 
+TEST_F(BiorhythmForm, NamesTheDaysOfItsOpeningAndChartsThoseOfTheCalculation) {
+    Open();
+    test_.today = std::chrono::year(2005) / 6 / 2;
+    Click(*form_, updateButton);
+    EXPECT_EQ(Text("Label1"), QStringLiteral("25 May"));
+    EXPECT_EQ(Text("Label2"), QStringLiteral("1"));
+    EXPECT_EQ(Text("Label3"), QStringLiteral("21 June"));
+    EXPECT_EQ(ChartOf(bodyChart).rowLabel(8), QStringLiteral("2"));
+    ExpectCharts(age + 1, age + 1);
+}
+
 TEST_F(BiorhythmForm, TellsADayByItsFullNameUnderTheMouse) {
     Open();
     const QString told = Hovers(bodyChart).front();
     EXPECT_TRUE(told.startsWith(QStringLiteral("25 May: Physical "))) << told.toStdString();
+}
+
+TEST_F(BiorhythmForm, DrawsEachCalculationAnew) {
+    Open();
+    const auto told = [this] { return Hovers(bodyChart) + Hovers(mindChart) + Hovers(luckChart); };
+    const QStringList first = told();
+    ASSERT_EQ(first.size(), 28 + 28 + 4);
+    EXPECT_TRUE(first[56].startsWith(QStringLiteral("Intellectual: "))) << first[56].toStdString();
+    SetBirthDate(QDate(1985, 7, 20));
+    Click(*form_, updateButton);
+    const QStringList second = told();
+    for (const int place : {0, 28, 56}) EXPECT_NE(first[place], second[place]) << place;
+    SetBirthDate(QDate(1985, 7, 23));
+    Click(*form_, updateButton);
+    EXPECT_EQ(told(), first);
 }
 
 }  // namespace

@@ -115,6 +115,12 @@ TEST(NumberStats, TakeTheFirstDrawWhateverItHolds) {
     EXPECT_EQ(state->Pool(2), 2);
 }
 
+TEST(NumberStats, KeepTheFirstRowWithAnEmptyField) {
+    const auto state = Lottery(2, 3);
+    TableOfDraws(*state, {{1, 3}, {2, 0}, {3, 0}});
+    EXPECT_EQ(state->Pool(0), 2);
+}
+
 TEST(NumberStats, LeavePoolZeroToOthersWhereNoFieldIsEmpty) {
     const auto state = Lottery(2, 3);
     state->Pool(0) = 77;
