@@ -151,8 +151,9 @@ void WhatIf::Add() {
 // not written anew.
 void WhatIf::DeleteEntry() {
     if (state().Busy != 0) return;
+    const int row = grid_->CurrentRow();
     const bool chosen = grid_->currentIndex().isValid();
-    if (chosen) DeleteGridRow(*grid_, grid_->CurrentRow(), lastColumn);
+    if (chosen && !grid_->Cell(row, 0).isEmpty()) DeleteGridRow(*grid_, row, lastColumn);
     ShowEntriesInUse();
     grid_->ScrollToTop();
     GoToRow(1);

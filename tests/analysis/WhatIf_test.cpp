@@ -290,6 +290,19 @@ TEST_F(WhatIfForm, DeletesTheExtraBallWithItsEntry) {
     EXPECT_EQ(Row(1), "2,9,10,11,12,,,,,");
 }
 
+TEST_F(WhatIfForm, DeletesNothingInARowWithoutAnEntry) {
+    Open();
+    Enter({"1", "2", "3", "4"});
+    for (const int row : {2, 100, 180}) {
+        ClickRow(row);
+        EXPECT_TRUE(RowIsMarked(row));
+        Click(*form_, deleteButton);
+        EXPECT_FALSE(TakeFailure().has_value()) << row;
+        EXPECT_EQ(Row(1), "1,1,2,3,4,,,,,");
+        EXPECT_TRUE(RowIsMarked(1));
+    }
+}
+
 TEST_F(WhatIfForm, DimsTheColumnsThatTheLotteryDoesNotHave) {
     Open();
     const auto headings = [this] { return Entries().horizontalHeader()->grab().toImage(); };
