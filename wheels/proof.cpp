@@ -102,7 +102,7 @@ std::vector<int> PoolNumbers(const State& state, int first, int count) {
 std::string LeftText(const State& state, const Played& played) {
     std::vector<int> numbers = played.numbers;
     std::ranges::sort(numbers);
-    numbers.erase(std::ranges::unique(numbers).begin(), numbers.end());
+    numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
     const int count = static_cast<int>(numbers.size());
     if (count < played.drawn) return {};
     const Promise promise{.lines = MasksOfLines(state, numbers),
