@@ -111,6 +111,9 @@ TEST_F(ABoardOfSixty, MovesWithTheArrowsAndSelectsWithTheSpaceBar) {
     Press(Qt::Key_Right);
     Press(Qt::Key_Down);
     EXPECT_EQ(Focused(), 60);
+    Press(Qt::Key_Left);
+    Press(Qt::Key_Right);
+    EXPECT_EQ(Focused(), 60);
     Press(Qt::Key_Home);
     Press(Qt::Key_Left);
     EXPECT_EQ(Focused(), 1);
@@ -148,7 +151,7 @@ TEST_F(ABoardOfSixty, IsOneStopOfTheTabKeyWhereTheUserWasLast) {
     };
     EXPECT_EQ(stops(), QStringList{QStringLiteral("1")});
     QTest::mouseClick(&Number(33), Qt::LeftButton);
-    Number(33).setFocus();
+    EXPECT_EQ(Focused(), 33) << "a click takes the focus";
     EXPECT_EQ(stops(), QStringList{QStringLiteral("33")});
     board_->ShowUpTo(32);
     EXPECT_EQ(stops(), QStringList{QStringLiteral("1")});
@@ -156,11 +159,17 @@ TEST_F(ABoardOfSixty, IsOneStopOfTheTabKeyWhereTheUserWasLast) {
 
 TEST_F(ABoardOfSixty, HidesAndTakesBackWhatTheLotteryDoesNotHave) {
     for (const int number : {45, 46, 60}) board_->Select(number, true);
+    const QRect place = Number(45).geometry();
+    int changes = 0;
+    QObject::connect(board_, &NumberBoard::changed, board_, [&changes] { ++changes; });
     board_->ShowUpTo(45);
+    EXPECT_EQ(changes, 2);
     EXPECT_TRUE(board_->IsSelected(45));
     EXPECT_EQ(board_->SelectedCount(), 1);
     EXPECT_TRUE(Number(45).isVisible());
     EXPECT_FALSE(Number(46).isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(Number(45).geometry(), place) << "what is hidden keeps its place";
     board_->Select(46, true);
     EXPECT_TRUE(board_->IsSelected(46)) << "in code a hidden number can be selected";
     board_->ShowUpTo(90);

@@ -280,6 +280,7 @@ TEST_F(MatchWheelsForm, LeadsEnterFromBoxToBoxAndNeverGenerates) {
     EXPECT_EQ(form_->focusWidget(), &Box(9));
     QTest::keyClick(&Box(9), Qt::Key_Return);
     EXPECT_EQ(form_->focusWidget(), &Box(9)) << "the next one is disabled";
+    EXPECT_EQ(BoxTexts(11).join(QLatin1Char(',')), QStringLiteral("1,2,3,4,5,6,7,8,9,10,"));
     EXPECT_EQ(ShownLines(), 0);
 }
 
