@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QNetworkProxyFactory>
 #include <QStandardPaths>
 #include <cstdlib>
 #include <memory>
@@ -13,6 +14,7 @@
 #include "platform/system/Clock.h"
 #include "platform/system/DesktopPrinters.h"
 #include "platform/system/DiskFolder.h"
+#include "platform/system/FetchURL.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/OpenPage.h"
@@ -29,6 +31,7 @@ int RunProgram(const QString& folderPath) {
     DesktopPrinters printers;
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
+    QNetworkProxyFactory::setUseSystemConfiguration(true);
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
                       .random = random,
@@ -37,6 +40,7 @@ int RunProgram(const QString& folderPath) {
                       .openPage = [&folder](const QString& page) { OpenPage(page, folder.Path()); },
                       .saveLines = {},
                       .printLines = {},
+                      .fetchURL = [](const QString& address) { return FetchURL(address); },
                       .printers = &printers,
                       .windows = &windows};
     Program program{.state = *state, .folder = folder, .services = services};

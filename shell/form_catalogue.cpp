@@ -14,6 +14,8 @@
 #include "analysis/Biorhythm.h"
 #include "analysis/WhatIf.h"
 #include "databases/CreateDbase.h"
+#include "databases/DbaseUpdate.h"
+#include "databases/DbaseUpdateUS.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/DeleteDbaseW.h"
 #include "databases/HistoryW.h"
@@ -79,8 +81,14 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .changesDatabases = true},
     {.menuEntry = "wUpdateDbase", .form = "DbaseUpdateW", .make = Make<DbaseUpdateW>},
     {.menuEntry = "wDatabaseView", .form = "HistoryW", .make = Make<HistoryW>},
-    {.menuEntry = "DatabaseUS", .form = "DbaseUpdateUS", .changesDatabases = true},
-    {.menuEntry = "DatabaseUpdate", .form = "DbaseUpdate", .changesDatabases = true},
+    {.menuEntry = "DatabaseUS",
+     .form = "DbaseUpdateUS",
+     .make = Make<DbaseUpdateUS>,
+     .changesDatabases = true},
+    {.menuEntry = "DatabaseUpdate",
+     .form = "DbaseUpdate",
+     .make = Make<DbaseUpdate>,
+     .changesDatabases = true},
     {.menuEntry = "DatabaseCheck",
      .form = "ShowMyDrawsW",
      .make = Make<ShowMyDrawsW>,

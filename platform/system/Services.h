@@ -4,6 +4,7 @@
 #include <QString>
 #include <array>
 #include <functional>
+#include <string>
 
 #include "core/date.h"
 #include "core/program_folder.h"
@@ -46,6 +47,10 @@ struct Services {
     std::function<void(Form*)> printMembers = {};          ///< Prints the members of the syndicate.
     std::function<void(Form*, Grid&)> printPayments = {};  ///< Prints the members' payments.
     std::function<void(Form*, Grid&, const DiaryFrame&)> printDiary = {};  ///< Prints the diary.
+    /// Fetches a web page and waits for it, while events run; empty where it cannot be had whole.
+    std::function<std::string(const QString& address)> fetchURL = [](const QString&) {
+        return std::string();
+    };
     Printers* printers = nullptr;     ///< The printers; none: nothing is ever printed.
     WindowStates* windows = nullptr;  ///< Where windows keep their sizes; none: they do not.
 };

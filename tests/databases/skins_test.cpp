@@ -5,6 +5,8 @@
 
 #include "core/settings.h"
 #include "databases/CreateDbase.h"
+#include "databases/DbaseUpdate.h"
+#include "databases/DbaseUpdateUS.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/HistoryW.h"
 #include "tests/support/form_test.h"
@@ -57,12 +59,35 @@ class SkinOf : public testing::Test {
 };
 
 using SkinOfCreateDbase = SkinOf<CreateDbase>;
+using SkinOfDbaseUpdate = SkinOf<DbaseUpdate>;
+using SkinOfDbaseUpdateUS = SkinOf<DbaseUpdateUS>;
 using SkinOfDbaseUpdateW = SkinOf<DbaseUpdateW>;
 using SkinOfHistoryW = SkinOf<HistoryW>;
 
 TEST_F(SkinOfCreateDbase, IsItsPictureAndTheColours) {
     ExpectItsPicture();
     ExpectColours({{"Label17", 1}, {"Label16", 2}, {"Label18", 2}, {"Label3", 3}, {"Label7", 3}});
+}
+
+TEST_F(SkinOfDbaseUpdate, IsItsPictureAndTheColours) {
+    ExpectItsPicture();
+    ExpectColours({{"Label5", 1}, {"Label4", 2}, {"Label1", 4}, {"Label3", 4}});
+    for (const char* plain : {"Label2", "Label6(0)", "Label6(4)"}) {
+        EXPECT_EQ(Find<QLabel>(*form_, plain)->palette().color(QPalette::WindowText),
+                  form_->palette().color(QPalette::WindowText))
+            << plain;
+    }
+}
+
+TEST_F(SkinOfDbaseUpdateUS, IsItsPictureAndTheColours) {
+    ExpectItsPicture();
+    ExpectColours({{"Label5", 1},
+                   {"Label4", 2},
+                   {"Label2", 3},
+                   {"Label6", 3},
+                   {"Label7", 3},
+                   {"Label1", 4},
+                   {"Label3", 4}});
 }
 
 TEST_F(SkinOfDbaseUpdateW, IsItsPictureAndTheColours) {

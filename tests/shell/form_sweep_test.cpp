@@ -58,6 +58,8 @@ std::string PictureOf(const std::string& form) {
         {"DeleteSyndicate", ""},
         {"NewSyndicate", "SkinSyndicates.jpg"},
         {"CreateDbase", "SkinDatabases.jpg"},
+        {"DbaseUpdate", "SkinDatabases.jpg"},
+        {"DbaseUpdateUS", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
         {"StoreMyDrawsW", "SkinDatabases.jpg"},
