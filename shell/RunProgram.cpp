@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QLocale>
-#include <QNetworkProxyFactory>
 #include <QStandardPaths>
 #include <cstdlib>
 #include <memory>
@@ -31,7 +30,7 @@ int RunProgram(const QString& folderPath) {
     DesktopPrinters printers;
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
-    QNetworkProxyFactory::setUseSystemConfiguration(true);
+    UseDesktopProxy();
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
                       .random = random,

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QEventLoop>
 #include <QNetworkAccessManager>
+#include <QNetworkProxyFactory>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QTimer>
@@ -86,3 +87,5 @@ std::string FetchURL(const QString& address, const FetchLimits& limits) {
     if (!IsWhole(*reply, body)) return {};
     return Unpacked(*reply, body, limits.bytes);
 }
+
+void UseDesktopProxy() { QNetworkProxyFactory::setUseSystemConfiguration(true); }

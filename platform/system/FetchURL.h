@@ -21,3 +21,6 @@ struct FetchLimits {
 ///
 /// Where a server neither announces a length nor packs the page, Qt does not notice every cut.
 std::string FetchURL(const QString& address, const FetchLimits& limits = {});
+
+/// From now on pages are fetched through the proxy that the desktop is set to, if any.
+void UseDesktopProxy();
