@@ -61,6 +61,7 @@ std::vector<SlipLine> LinesInGrid(const Grid& grid, double limit) {
 void PrintSlips(Program& program, QWidget* form, const Grid& grid, int count) {
     const std::optional<SlipsWanted> wanted = AskForSlips(program, form, count);
     if (!wanted) return;
+    QCoreApplication::processEvents();
     const Document slips = SlipsOf(ReadSlipLayout(program.folder, wanted->templateFile),
                                    LinesInGrid(grid, wanted->lines));
     program.services.printers->Print(

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "printing/PrintTickets.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -124,6 +125,7 @@ void PrintTickets::Print() {
     };
     if (Lines() < 1) return refuse(tr("Error"), tr("Please set number of lines to print.    "));
     ChoosePrinter(services(), *printers_);
+    QCoreApplication::processEvents();
     if (!HasTemplates()) {
         answer_->setText(QStringLiteral("Cancel"));
         refuse(tr("Error!"), tr("No lottery slip templates!    "));

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 
 #include "platform/widgets/Lists.h"
 #include "tests/support/form_test.h"
@@ -187,6 +188,21 @@ TEST_F(PrintFrmTest, ThePrinterBecomesTheCurrentOneOnlyByPrinting) {
     EXPECT_EQ(test_.printers.current, QStringLiteral("Office"));
     Ask(1, [&] { Click(form_, printButton); });
     EXPECT_EQ(test_.printers.current, QStringLiteral("Preview and PDF"));
+}
+
+TEST_F(PrintFrmTest, EventsRunBetweenTheChoiceOfThePrinterAndTheAnswer) {
+    QString chosen;
+    bool open = false;
+    Ask(1, [&] {
+        Choose(printerList, 1);
+        QTimer::singleShot(0, &form_, [&] {
+            chosen = test_.printers.current;
+            open = form_.isVisible();
+        });
+        Click(form_, printButton);
+    });
+    EXPECT_EQ(chosen, QStringLiteral("Preview and PDF"));
+    EXPECT_TRUE(open);
 }
 
 TEST_F(PrintFrmTest, EscAndTheCrossAreCancel) {

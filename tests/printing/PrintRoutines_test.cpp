@@ -15,6 +15,7 @@
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
 #include "tests/printing/printed_texts.h"
+#include "tests/printing/slips.h"
 #include "tests/support/form_test.h"
 #include "tests/support/pdf_reading.h"
 
@@ -177,6 +178,28 @@ TEST_F(Printing, LotteryFormsLeadToSlipsWithTheSelectionGone) {
     EXPECT_EQ(Count(), 0U);
 }
 
+TEST_F(Printing, LotteryFormsAskForTicketsWithTheSelectionGoneAndPrintSlips) {
+    FillLines(3);
+    test_.folder.Write("PTemplate.000", SlipFile("UK Lotto"));
+    InDialog([this] { test_.services.printLines(&form_, *form_.grid); },
+             [this](QDialog& selection) {
+                 QTimer::singleShot(0, &form_, [this] {
+                     auto* tickets = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+                     ASSERT_NE(tickets, nullptr);
+                     EXPECT_EQ(tickets->objectName(), QStringLiteral("PrintTickets"));
+                     EXPECT_EQ(form_.findChild<QDialog*>(QStringLiteral("PrintSelection")),
+                               nullptr);
+                     EXPECT_EQ(Find<QLineEdit>(*tickets, linesBox)->text(), QStringLiteral("3"));
+                     Click(*tickets, printButton);
+                 });
+                 Find<QRadioButton>(selection, "Option1")->click();
+                 Click(selection, printButton);
+             });
+    ASSERT_EQ(Count(), 1U);
+    EXPECT_EQ(Printed().sheets.at(0).rectangles.size(), 18U);
+    EXPECT_TRUE(Printed().sheets.at(0).texts.empty());
+}
+
 TEST_F(Printing, CancelPrintsNothing) {
     FillLines(2);
     InLines([](QDialog& dialog) { Click(dialog, cancelButton); });
@@ -311,6 +334,12 @@ TEST_F(Printing, TheDiaryHasItsFrame) {
           "Total = \xA3"
           "12.00"}) {
         OnlyText(Printed(), text);
+    }
+    // The address stands in the order of its boxes, line below line.
+    for (const auto& [above, below] : {std::pair("Address: a1", "            a2"),
+                                       {"            a2", "            a3"},
+                                       {"            a3", "            a4"}}) {
+        EXPECT_LT(OnlyText(Printed(), above).down, OnlyText(Printed(), below).down);
     }
 }
 

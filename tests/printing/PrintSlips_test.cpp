@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTimer>
+#include <optional>
 
 #include "core/failure.h"
 #include "platform/widgets/Grid.h"
@@ -139,6 +141,22 @@ TEST_F(AskingForTickets, WithoutATemplateTheAnswerIsCancel) {
     EXPECT_EQ(test_.printers.current, QStringLiteral("Preview and PDF"));
 }
 
+TEST_F(AskingForTickets, LetsEventsRunBetweenTheChoiceOfThePrinterAndTheAnswer) {
+    AddTemplate("PTemplate.000", "UK Lotto");
+    Open();
+    form_->SetLines(3);
+    Find<ComboList>(*form_, printerList)->SetIndex(1);
+    QString chosen;
+    bool open = false;
+    QTimer::singleShot(0, form_.get(), [&] {
+        chosen = test_.printers.current;
+        open = form_->isVisible();
+    });
+    Click(*form_, printButton);
+    EXPECT_EQ(chosen, QStringLiteral("Preview and PDF"));
+    EXPECT_TRUE(open);
+}
+
 TEST_F(AskingForTickets, CancelAndEscAreTheSame) {
     Open();
     Click(*form_, cancelButton);
@@ -257,6 +275,21 @@ TEST_F(PrintingSlips, ReadTheTemplateOnlyAfterPrintWasPressed) {
         Click(dialog, printButton);
     });
     EXPECT_EQ(Sheets().at(0).rectangles.at(0).width, 8);
+}
+
+TEST_F(PrintingSlips, LetEventsRunOnceTheFormIsGone) {
+    AddTemplate("PTemplate.000", "UK Lotto");
+    FillLines(1);
+    QObject guard;
+    std::optional<std::size_t> printed;
+    RunAnd([&](QDialog& dialog) {
+        QObject::connect(&dialog, &QObject::destroyed, &guard, [&] {
+            QTimer::singleShot(0, &guard, [&] { printed = test_.printers.printed.size(); });
+        });
+        Click(dialog, printButton);
+    });
+    EXPECT_EQ(printed, 0U);
+    EXPECT_EQ(test_.printers.printed.size(), 1U);
 }
 
 TEST_F(PrintingSlips, StopAtTheNumberOfLinesToPrint) {

@@ -187,6 +187,7 @@ TEST(NumberCell, RoundsTheNumberAtTheHead) {
     EXPECT_EQ(NumberCell("8.57 draws", " "), " 09");
     EXPECT_EQ(NumberCell("8.5", " "), " 09");
     EXPECT_EQ(NumberCell("123", "  "), "  123");
+    EXPECT_EQ(NumberCell("0.4", " "), " 00");
     EXPECT_EQ(NumberCell("0", " "), "0");
     EXPECT_EQ(NumberCell("-4", " "), "-4");
     EXPECT_EQ(NumberCell("", " "), "");

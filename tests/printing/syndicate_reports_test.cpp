@@ -140,6 +140,15 @@ TEST(PaymentsReport, OnlyADateBeforeTodayIsBold) {
     EXPECT_FALSE(OnlyText(document, "Bert").look.bold);
 }
 
+TEST(PaymentsReport, ADateInAnotherColumnIsNeverBold) {
+    ReportTable table = Payments();
+    table[2] = {"28-May-2005", "29-May-2005", "30-May-2005", ""};
+    const Document document = PaymentsReport(table, FirstOfJune(), All(), PlainRoom());
+    for (const char* date : {"28-May-2005", "29-May-2005", "30-May-2005"}) {
+        EXPECT_FALSE(OnlyText(document, date).look.bold) << date;
+    }
+}
+
 TEST(PaymentsReport, TheTextSizeMovesEachColumnByItsOwnMeasure) {
     const Document document = PaymentsReport(
         Payments(), FirstOfJune(), {.lines = 9, .leftMargin = 0, .textSize = 2}, PlainRoom());
