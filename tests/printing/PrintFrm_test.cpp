@@ -115,6 +115,7 @@ TEST_F(PrintFrmTest, BelowOneLineThereIsAMessageAndTheDialogStays) {
                              .text = QStringLiteral("Please set number of lines to print.    "),
                              .sign = Sign::Question};
     EXPECT_FALSE(Ask(0, [&] {
+        Choose(printerList, 1);
         for (const char* few : {"0", "-3", "0.9", "many", ""}) {
             Type(form_, linesBox, QString::fromLatin1(few));
             test_.messages.Expect(message);
@@ -122,6 +123,7 @@ TEST_F(PrintFrmTest, BelowOneLineThereIsAMessageAndTheDialogStays) {
             EXPECT_TRUE(form_.isVisible()) << few;
         }
         EXPECT_EQ(test_.messages.Shown(), 5);
+        EXPECT_EQ(test_.printers.current, QStringLiteral("Office"));
         Click(form_, cancelButton);
     }));
 }

@@ -245,12 +245,15 @@ TEST_F(Printing, OnlyTheReportOfEntriesPutsTheMarginBack) {
     InReport([this] { test_.services.printDraws(&form_, *form_.grid); },
              [](QDialog& dialog) {
                  Type(dialog, marginBox, QStringLiteral("30"));
+                 Find<ComboList>(dialog, "Combo3")->SetIndex(2);
+                 Find<ComboList>(dialog, "Combo4")->SetIndex(8);
                  Click(dialog, printButton);
              });
     InReport([this] { test_.services.printDraws(&form_, *form_.grid); });
-    ExpectAt(OnlyText(Printed(), "Lottery database: UK Lotto"), 30, 36);
+    ExpectAt(OnlyText(Printed(), "Lottery database: UK Lotto"), 30, 40);
     InReport([this] { test_.services.printEntries(&form_, *form_.grid); });
-    ExpectAt(OnlyText(Printed(), "     Lottery Entries               "), 10, 18);
+    ExpectAt(OnlyText(Printed(), "     Lottery Entries               "), 10, 22);
+    EXPECT_EQ(test_.printers.printed.back().job.options.paper, PaperSize::Letter);
 }
 
 TEST_F(Printing, TheChoicesReachThePrinter) {

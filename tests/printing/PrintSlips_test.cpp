@@ -121,6 +121,7 @@ TEST_F(AskingForTickets, ListsTheTemplatesByTheirFirstLinesAndChoosesTheFirst) {
 TEST_F(AskingForTickets, StaysOpenWithoutALineToPrint) {
     AddTemplate("PTemplate.000", "UK Lotto");
     Open();
+    Find<ComboList>(*form_, printerList)->SetIndex(1);
     for (const char* lines : {"0", "", "x", "-3", "0.9"}) {
         Find<QLineEdit>(*form_, linesBox)->setText(QString::fromLatin1(lines));
         test_.messages.Expect(Refusal("Error", "Please set number of lines to print.    "));
@@ -128,6 +129,7 @@ TEST_F(AskingForTickets, StaysOpenWithoutALineToPrint) {
         EXPECT_TRUE(form_->isVisible()) << lines;
         EXPECT_TRUE(form_->IsOk()) << lines;
     }
+    EXPECT_EQ(test_.printers.current, QStringLiteral("Office"));
 }
 
 TEST_F(AskingForTickets, WithoutATemplateTheAnswerIsCancel) {
