@@ -9,6 +9,8 @@
 #include <QNetworkRequest>
 #include <QTimer>
 #include <QUrl>
+#include <algorithm>
+#include <array>
 #include <memory>
 
 #include "platform/system/unpack.h"
@@ -18,11 +20,12 @@ namespace {
 // What packing adds at most to a page of the largest size.
 constexpr qsizetype packingRoom = 64 * 1024;
 
-QNetworkRequest RequestOf(const QUrl& url, int redirects) {
+QNetworkRequest RequestOf(const QUrl& url) {
     QNetworkRequest request(url);
+    // Followed by hand: left to it, Qt now and then gives up where a server closes the connection
+    // right behind the answer that leads on.
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::NoLessSafeRedirectPolicy);
-    request.setMaximumRedirectsAllowed(redirects);
+                         QNetworkRequest::ManualRedirectPolicy);
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
                          QNetworkRequest::AlwaysNetwork);
     request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
@@ -36,7 +39,8 @@ QNetworkRequest RequestOf(const QUrl& url, int redirects) {
 // Qt takes some bodies for whole that were cut off in the middle.
 bool IsWhole(const QNetworkReply& reply, const QByteArray& body) {
     if (!reply.isFinished() || reply.error() != QNetworkReply::NoError) return false;
-    if (reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() >= 400) return false;
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    if (status < 200 || status >= 300) return false;
     if (!reply.hasRawHeader("Content-Length") || reply.hasRawHeader("Transfer-Encoding"))
         return true;
     bool isNumber = false;
@@ -54,17 +58,34 @@ std::string Unpacked(const QNetworkReply& reply, const QByteArray& body, qsizety
     return Unpack({body.data(), static_cast<std::size_t>(body.size())}, most).value_or("");
 }
 
-}  // namespace
-
-std::string FetchURL(const QString& address, const FetchLimits& limits) {
-    const QUrl url(address);
+bool IsWebAddress(const QUrl& url) {
     const bool web =
         url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
-    if (!url.isValid() || !web || url.host().isEmpty()) return {};
+    return url.isValid() && web && !url.host().isEmpty();
+}
 
-    QNetworkAccessManager manager;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(RequestOf(url, limits.redirects)));
+// What one request gave: the page, or where it leads on to; neither where it failed.
+struct Answer {
+    std::string page;
+    QUrl leadsTo;
+};
+
+// Where the answer leads on to, once its head is there.
+QUrl LeadsTo(const QNetworkReply& reply) {
+    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    constexpr std::array leading = {301, 302, 303, 307, 308};
+    if (std::find(leading.begin(), leading.end(), status) == leading.end()) return {};
+    const QUrl next = reply.url().resolved(QUrl::fromEncoded(reply.rawHeader("Location")));
+    const bool lessSafe =
+        reply.url().scheme() == QLatin1String("https") && next.scheme() != QLatin1String("https");
+    return lessSafe ? QUrl() : next;
+}
+
+Answer Request(QNetworkAccessManager& manager, const QUrl& url, const FetchLimits& limits,
+               QTimer& whole) {
+    const std::unique_ptr<QNetworkReply> reply(manager.get(RequestOf(url)));
     QByteArray body;
+    QUrl leadsTo;
     QEventLoop loop;
     QTimer silence;
     const auto answered = [&] { silence.start(limits.silence); };
@@ -72,20 +93,42 @@ std::string FetchURL(const QString& address, const FetchLimits& limits) {
         body += reply->readAll();
         if (body.size() > limits.bytes + packingRoom) reply->abort();
     };
+    const auto readHead = [&] {
+        leadsTo = LeadsTo(*reply);
+        if (leadsTo.isValid()) loop.quit();
+    };
     QObject::connect(&silence, &QTimer::timeout, reply.get(), &QNetworkReply::abort);
+    QObject::connect(&whole, &QTimer::timeout, reply.get(), &QNetworkReply::abort);
     QObject::connect(reply.get(), &QNetworkReply::encrypted, &silence, answered);
-    QObject::connect(reply.get(), &QNetworkReply::redirected, &silence, answered);
     QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &silence, answered);
+    QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &loop, readHead);
     QObject::connect(reply.get(), &QNetworkReply::readyRead, &silence, answered);
     QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    QTimer::singleShot(limits.whole, reply.get(), &QNetworkReply::abort);
     answered();
     if (!reply->isFinished()) loop.exec();
     reply->disconnect();
+    if (leadsTo.isValid()) return {{}, leadsTo};
     body += reply->readAll();
     if (!IsWhole(*reply, body)) return {};
-    return Unpacked(*reply, body, limits.bytes);
+    return {Unpacked(*reply, body, limits.bytes), {}};
+}
+
+}  // namespace
+
+std::string FetchURL(const QString& address, const FetchLimits& limits) {
+    QNetworkAccessManager manager;
+    QTimer whole;
+    whole.setSingleShot(true);
+    whole.start(limits.whole);
+    QUrl url(address);
+    for (int redirects = 0; redirects <= limits.redirects; ++redirects) {
+        if (!IsWebAddress(url) || !whole.isActive()) return {};
+        const Answer answer = Request(manager, url, limits, whole);
+        if (!answer.leadsTo.isValid()) return answer.page;
+        url = answer.leadsTo;
+    }
+    return {};
 }
 
 void UseDesktopProxy() { QNetworkProxyFactory::setUseSystemConfiguration(true); }
