@@ -139,12 +139,11 @@ bool SManager::EnterInto(int row, int column) {
 }
 
 void SManager::AddUp() {
-    Money total;
     for (int row = 1; row <= lastRecord; ++row) {
-        const Money balance = AmountIn(*diary_, row, diary_column::Balance, Currency());
-        if (balance.IsNegative()) grid_->SetCellColour(row, diary_column::Balance, negative);
-        total += balance;
+        if (!AmountIn(*diary_, row, diary_column::Balance, Currency()).IsNegative()) continue;
+        grid_->SetCellColour(row, diary_column::Balance, negative);
     }
+    const Money total = Total(*diary_, Currency());
     total_->Show(ToQString(CurrencyText(total, Currency())), ColourOf(total));
     editor_->GoTo(editor_->Row(), editor_->Column());
 }

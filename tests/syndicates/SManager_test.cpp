@@ -397,6 +397,46 @@ TEST_F(Managing, MovesTheRowUpAndDownWithItsDate) {
     ExpectNoChanges();
 }
 
+TEST_F(Managing, AMoveThatIsRefusedDropsWhatWasNotEntered) {
+    OpenWith(twoRecords);
+    for (const auto& [row, button] : {std::pair(2, downButton), std::pair(4, upButton)}) {
+        ClickCell(row, 5);
+        const std::string shown = Edited();
+        QTest::keyClicks(&Edit(), QStringLiteral("typed"));
+        Run(button);
+        EXPECT_EQ(Edited(), shown);
+        EXPECT_EQ(Table().CurrentRow(), row);
+        EXPECT_EQ(CurrentColumn(), 5);
+    }
+    ClickCell(1, 5);
+    QTest::keyClicks(&Edit(), QStringLiteral("typed"));
+    Run(upButton);
+    EXPECT_EQ(Edited(), "typed") << "above the first row nothing happens at all";
+    ExpectNoChanges();
+}
+
+TEST_F(Managing, TheTotalOfLossesAndAWinCarriesNoGhost) {
+    OpenWith(
+        "\"\",\"\",\"\",\"\",\"0.30\",\"\"\r\n\"\",\"\",\"\",\"\",\"-0.10\",\"\"\r\n"
+        "\"\",\"\",\"\",\"\",\"-0.20\",\"\"\r\n");
+    EXPECT_EQ(TotalText(),
+              "\xA3"
+              "0.00");
+    EXPECT_EQ(TotalShown().Colour(), black);
+    EXPECT_EQ(Table().CellColour(1, 4), black);
+    EXPECT_EQ(Table().CellColour(2, 4), darkRed);
+    EXPECT_EQ(Table().CellColour(3, 4), darkRed);
+}
+
+TEST_F(Managing, ATypedBalanceOnlyLeavesItsColour) {
+    OpenWith("\"\",\"\",\"1\",\"5\",\"4\",\"\"\r\n");
+    Enter(1, 4, "-9");
+    EXPECT_EQ(Cell(1, 4),
+              "\xA3"
+              "4.00");
+    EXPECT_EQ(Table().CellColour(1, 4), darkRed);
+}
+
 TEST_F(Managing, RowsAtTheEndAreMovedAndKeptAsTold) {
     std::string diary;
     for (int row = 1; row <= 998; ++row) {
