@@ -188,6 +188,17 @@ TEST_F(EditingMembers, DeletesTheSelectedMemberWithoutAQuestion) {
     ExpectChanges();
 }
 
+TEST_F(EditingMembers, DeletesUnderTheHourglass) {
+    AddMembers({"Bob", "Cid"});
+    Open();
+    List().SetIndex(0);
+    const HourglassWatch watch(Box(nameBox), QEvent::FocusIn);
+    Run(deleteButton);
+    EXPECT_EQ(watch.Events(), 1);
+    EXPECT_EQ(watch.UnderHourglass(), 1);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(EditingMembers, AsksForAMemberToDelete) {
     AddMembers({"Bob"});
     Open();
@@ -244,6 +255,7 @@ TEST_F(EditingMembers, SavesAndStaysOpen) {
     Add("Bob");
     test_.messages.Expect(saved);
     Run(saveButton);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(form_->isVisible());
     EXPECT_NE(test_.folder.Read("SMembers.000").find("\"Bob\""), std::string::npos);
     ExpectNoChanges();
