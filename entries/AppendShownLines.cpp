@@ -4,10 +4,10 @@
 #include <QCoreApplication>
 #include <vector>
 
+#include "core/saved_entries.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "entries/SaveEntries.h"
-#include "core/saved_entries.h"
 #include "platform/forms/Form.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Grid.h"

@@ -8,9 +8,9 @@
 
 #include "core/date.h"
 #include "core/program_folder.h"
+#include "core/saved_entries.h"
 #include "core/state.h"
 #include "entries/check_summary.h"
-#include "core/saved_entries.h"
 
 /// How the check paints a cell of an entry.
 enum class Mark {

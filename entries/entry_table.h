@@ -5,8 +5,8 @@
 
 #include "core/date.h"
 #include "core/program_folder.h"
-#include "core/table.h"
 #include "core/saved_entries.h"
+#include "core/table.h"
 
 /// Saved entries in rows 1 to 499, columns as the fields of their file. The first row whose column
 /// 0 is empty ends the table.

@@ -72,8 +72,7 @@ void BiochartPanel::LabelChart() {
 
 void BiochartPanel::ShowBirthDate() {
     const Services& services = program_.services;
-    birthDate_->SetValue(
-        biorhythms::BirthDate(program_.state, services.region, services.today()));
+    birthDate_->SetValue(biorhythms::BirthDate(program_.state, services.region, services.today()));
 }
 
 void BiochartPanel::DoBiorhythm() {

@@ -6,9 +6,9 @@
 #include <QCoreApplication>
 
 #include "core/draw_database.h"
+#include "core/saved_entries.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
-#include "core/saved_entries.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/Skin.h"
 #include "platform/forms/WindowSize.h"

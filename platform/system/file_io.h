@@ -15,8 +15,8 @@ struct FileError {
 /// What a path leads to, links followed.
 enum class Entry { None, File, Folder, Other };
 
-/// What is at a path. `None` is only what the system knows not to be there; where it cannot tell, as
-/// on a disk that does not answer, it fails.
+/// What is at a path. `None` is only what the system knows not to be there; where it cannot tell,
+/// as on a disk that does not answer, it fails.
 Entry EntryAt(const std::string& path);
 
 /// Whether there is anything of that name, be it a link that leads nowhere; fails like `EntryAt`.
