@@ -38,10 +38,9 @@ struct Services {
                                                    ///< program's folder, without waiting.
     std::function<void(Form*, Grid&)> saveLines;   ///< Saves the lines of a grid, and says so in
                                                    ///< the form.
-    std::function<void(Form*, Grid&)> printLines;  ///< Prints them; none: not available yet.
-    std::function<void(Form*, Grid&)> printDraws = {};  ///< Prints draws; none: not yet.
-    std::function<void(Form&)> printForm = {};          ///< Prints a form as it stands, landscape;
-                                                        ///< none: not available yet.
+    std::function<void(Form*, Grid&)> printLines;  ///< Prints them; none: no printing.
+    std::function<void(Form*, Grid&)> printDraws = {};  ///< Prints draws.
+    std::function<void(Form&)> printForm = {};          ///< Prints a form as it stands, landscape.
     std::function<void(Form*, Grid&)> printStats = {};  ///< Prints the statistics of numbers.
     std::function<void(Form*, Grid&)> printEntries = {};   ///< Prints saved entries.
     std::function<void(Form*)> printMembers = {};          ///< Prints the members of the syndicate.
