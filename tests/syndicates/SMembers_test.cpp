@@ -40,17 +40,6 @@ class EditingMembers : public SyndicateForm<SMembers> {
         Type(*form_, nameBox, QLatin1String(name));
         Run(addButton);
     }
-
-    void ExpectNoChanges() {
-        Run(closeButton);
-        EXPECT_FALSE(form_->isVisible());
-    }
-
-    void ExpectChanges() {
-        test_.messages.Expect(unsaved, Answer::Cancel);
-        Run(closeButton);
-        EXPECT_TRUE(form_->isVisible());
-    }
 };
 
 TEST_F(EditingMembers, BearsItsWords) {
@@ -114,7 +103,7 @@ TEST_F(EditingMembers, AddsATrimmedNameAndLeavesTheWayToPay) {
     EXPECT_TRUE(Box(nameBox).hasFocus());
     EXPECT_EQ(PayBy().Index(), 2);
     EXPECT_EQ(List().Index(), -1);
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(EditingMembers, AddsNothingWithoutAName) {
@@ -123,7 +112,7 @@ TEST_F(EditingMembers, AddsNothingWithoutAName) {
     Add("   ");
     EXPECT_EQ(Names(), "");
     EXPECT_EQ(Box(phoneBox).text(), QStringLiteral("777"));
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, UpdatesAMemberAndKeepsHisPayments) {
@@ -152,7 +141,7 @@ TEST_F(EditingMembers, ShowsTheMemberThatIsSelected) {
     EXPECT_EQ(Box("Text1(4)").text(), QStringLiteral("Town"));
     EXPECT_EQ(Box("Text1(6)").text(), QStringLiteral("cid@x"));
     EXPECT_EQ(PayBy().Index(), 3);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, TypingAloneIsNoChange) {
@@ -160,7 +149,7 @@ TEST_F(EditingMembers, TypingAloneIsNoChange) {
     Open();
     Type(*form_, phoneBox, QStringLiteral("777"));
     PayBy().SetIndex(1);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, SelectingAMemberOfAnUnknownWayToPayEndsTheRun) {
@@ -185,7 +174,7 @@ TEST_F(EditingMembers, DeletesTheSelectedMemberWithoutAQuestion) {
     EXPECT_EQ(List().Index(), -1);
     EXPECT_EQ(Box(nameBox).text(), QString());
     EXPECT_TRUE(Box(nameBox).hasFocus());
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(EditingMembers, DeletesUnderTheHourglass) {
@@ -205,7 +194,7 @@ TEST_F(EditingMembers, AsksForAMemberToDelete) {
     test_.messages.Expect(selectFirst);
     Run(deleteButton);
     EXPECT_EQ(Names(), "Bob");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, DeletesTheFirstOfTwoNamesakes) {
@@ -227,7 +216,7 @@ TEST_F(EditingMembers, ClearsTheBoxesAndTheSelectionButNotTheMembers) {
     EXPECT_EQ(List().Index(), -1);
     EXPECT_EQ(PayBy().Index(), 1);
     EXPECT_EQ(Names(), "Bob");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, SortsByTheFirstCharactersOfTheNames) {
@@ -237,7 +226,7 @@ TEST_F(EditingMembers, SortsByTheFirstCharactersOfTheNames) {
     Run(sortButton);
     EXPECT_EQ(Names(), "Bob Young,Zoe Adams");
     EXPECT_EQ(Box(nameBox).text(), QString());
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(EditingMembers, SortsNothingBelowTwoMembers) {
@@ -247,7 +236,7 @@ TEST_F(EditingMembers, SortsNothingBelowTwoMembers) {
     Run(sortButton);
     EXPECT_EQ(List().Index(), 0);
     EXPECT_EQ(Box(nameBox).text(), QStringLiteral("Bob"));
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, SavesAndStaysOpen) {
@@ -258,7 +247,7 @@ TEST_F(EditingMembers, SavesAndStaysOpen) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     EXPECT_TRUE(form_->isVisible());
     EXPECT_NE(test_.folder.Read("SMembers.000").find("\"Bob\""), std::string::npos);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, KeepsUnsavedChangesInMemoryWhenItCloses) {
@@ -272,7 +261,7 @@ TEST_F(EditingMembers, KeepsUnsavedChangesInMemoryWhenItCloses) {
     EXPECT_EQ(test_.folder.Snapshot(), before);
     Open();
     EXPECT_EQ(Names(), "Bob");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(EditingMembers, MoreThanAHundredEndTheRunAndLeaveTheFile) {

@@ -35,17 +35,6 @@ class TakingNotes : public SyndicateForm<SNotes> {
         test_.messages.Expect(saved);
         Run(saveButton);
     }
-
-    void ExpectNoChanges() {
-        Run(closeButton);
-        EXPECT_FALSE(form_->isVisible());
-    }
-
-    void ExpectChanges() {
-        test_.messages.Expect(unsaved, Answer::Cancel);
-        Run(closeButton);
-        EXPECT_TRUE(form_->isVisible());
-    }
 };
 
 TEST_F(TakingNotes, BearsItsWords) {
@@ -77,7 +66,7 @@ TEST_F(TakingNotes, StartsWithItsOwnChecklist) {
     Open();
     Save();
     EXPECT_EQ(File(), firstFile);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(TakingNotes, ReturnsWithTheSameLinesAndTicks) {
@@ -91,7 +80,7 @@ TEST_F(TakingNotes, ReturnsWithTheSameLinesAndTicks) {
     EXPECT_EQ(Note().toPlainText(), QStringLiteral("one\n\ntwo, \"three\"\n"));
     EXPECT_FALSE(Item(0).isChecked());
     EXPECT_TRUE(Item(1).isChecked());
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(TakingNotes, BelongsToNoSyndicate) {
@@ -109,7 +98,7 @@ TEST_F(TakingNotes, ClearsAnItemWhichThenStaysEmpty) {
     Click(*form_, "Command4(2)");
     EXPECT_EQ(Item(2).text(), QString());
     EXPECT_FALSE(Item(2).isChecked());
-    ExpectChanges();
+    ExpectChanges(closeButton);
     Save();
     EXPECT_NE(File().find("\r\n 0 ,\r\n"), std::string::npos);
     Open();
@@ -136,28 +125,28 @@ TEST_F(TakingNotes, AddingIsAChangeEvenWhereItDoesNothing) {
     Type(*form_, "Text2", QStringLiteral("mine"));
     Run(addButton);
     EXPECT_EQ(Item(7).text(), QStringLiteral("Distribute winnings to members!"));
-    ExpectChanges();
+    ExpectChanges(closeButton);
     Click(*form_, "Command4(0)");
     Save();
     Box("Text2").clear();
     Run(addButton);
     EXPECT_EQ(Item(0).text(), QString());
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(TakingNotes, TypingANewItemAloneIsNoChange) {
     Open();
     Type(*form_, "Text2", QStringLiteral("mine"));
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(TakingNotes, ANoteAndATickAreChanges) {
     Open();
     QTest::keyClicks(&Note(), QStringLiteral("x"));
-    ExpectChanges();
+    ExpectChanges(closeButton);
     Save();
     Click(*form_, "Check1(0)");
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(TakingNotes, ResetForgetsAllWithoutAQuestion) {

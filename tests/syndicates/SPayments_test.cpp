@@ -36,17 +36,6 @@ class Paying : public SyndicateForm<SPayments> {
         Box(amountBox).setText(QLatin1String(amount));
         Run(enterButton);
     }
-
-    void ExpectNoChanges() {
-        Run(closeButton);
-        EXPECT_FALSE(form_->isVisible());
-    }
-
-    void ExpectChanges() {
-        test_.messages.Expect(unsaved, Answer::Cancel);
-        Run(closeButton);
-        EXPECT_TRUE(form_->isVisible());
-    }
 };
 
 TEST_F(Paying, BearsItsWords) {
@@ -118,7 +107,7 @@ TEST_F(Paying, ShowsTheManagerFirstAndTheMembersBelow) {
     EXPECT_EQ(PayBy().currentText(), QStringLiteral("Cheque"));
     EXPECT_EQ(Box(amountBox).text(), QStringLiteral("5."));
     EXPECT_EQ(Table().CurrentRow(), 1);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(Paying, MarksOverdueDatesRed) {
@@ -188,7 +177,7 @@ TEST_F(Paying, EntersAPayment) {
     EXPECT_TRUE(Box(amountBox).hasFocus());
     Enter("5.");
     EXPECT_EQ(Member(1, 8), "5.") << "a second payment replaces the first";
-    ExpectChanges();
+    ExpectChanges(closeButton);
 }
 
 TEST_F(Paying, ADateInThePastIsEnteredInRed) {
@@ -215,7 +204,7 @@ TEST_F(Paying, NothingIsNoPayment) {
         Enter(amount);
     }
     EXPECT_EQ(Member(0, 8), "");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(Paying, LittleIsAPayment) {
@@ -254,7 +243,7 @@ TEST_F(Paying, ARowWithoutAPersonDoesNothing) {
     EXPECT_EQ(Member(3, 8), "");
     test_.messages.Expect(inputProblem);
     Enter("0");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(Paying, TheAmountTakesDigitsAndPointsOnly) {
@@ -273,7 +262,7 @@ TEST_F(Paying, EnterInTheAmountDoesNothing) {
     QTest::keyClick(&Box(amountBox), Qt::Key_Return);
     EXPECT_TRUE(form_->isVisible());
     EXPECT_EQ(Member(0, 8), "");
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(Paying, AmountsAreShownInTheFormOfTheRegionAndTypedWithAPoint) {
@@ -300,7 +289,7 @@ TEST_F(Paying, SavesAndStaysOpen) {
     EXPECT_TRUE(form_->isVisible());
     EXPECT_NE(test_.folder.Read("SMembers.000").find("\"Cash\",\"5\",\"01-Jun-2005\""),
               std::string::npos);
-    ExpectNoChanges();
+    ExpectNoChanges(closeButton);
 }
 
 TEST_F(Paying, KeepsUnsavedPaymentsInMemoryWhenItCloses) {

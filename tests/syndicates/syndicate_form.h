@@ -56,6 +56,19 @@ class SyndicateForm : public testing::Test {
 
     void Run(const char* command) { Click(*form_, command); }
 
+    /// Closes the form by its button, which is to ask nothing.
+    void ExpectNoChanges(const char* closeButton) {
+        Run(closeButton);
+        EXPECT_FALSE(form_->isVisible());
+    }
+
+    /// Begins to close the form by its button, which is to ask about changes, and stays.
+    void ExpectChanges(const char* closeButton) {
+        test_.messages.Expect(unsaved, Answer::Cancel);
+        Run(closeButton);
+        EXPECT_TRUE(form_->isVisible());
+    }
+
     QString Label(const char* name) { return Find<QLabel>(*form_, name)->text(); }
     QString Tip(const char* name) { return Find<QWidget>(*form_, name)->toolTip(); }
     QString Caption(const char* name) { return Find<QPushButton>(*form_, name)->text(); }
