@@ -2,6 +2,7 @@
 #include "shell/RunProgram.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
 #include <cstdlib>
@@ -11,9 +12,11 @@
 #include "platform/forms/Form.h"
 #include "platform/forms/PrintPreview.h"
 #include "platform/system/Clock.h"
+#include "platform/system/ColourDialog.h"
 #include "platform/system/DesktopPrinters.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/FetchURL.h"
+#include "platform/system/FileDialogs.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/OpenPage.h"
@@ -21,6 +24,17 @@
 #include "printing/PrintRoutines.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
+
+namespace {
+
+void OfferDialogs(Services& services) {
+    services.chooseColour = ChooseColour;
+    services.chooseFolder = ChooseFolder;
+    services.chooseFile = ChooseFile;
+    services.openFolder = [](const QString& path) { return std::make_shared<DiskFolder>(path); };
+}
+
+}  // namespace
 
 int RunProgram(const QString& folderPath) {
     const auto state = std::make_unique<State>();
@@ -40,8 +54,10 @@ int RunProgram(const QString& folderPath) {
                       .saveLines = {},
                       .printLines = {},
                       .fetchURL = [](const QString& address) { return FetchURL(address); },
+                      .folderPath = QDir::toNativeSeparators(folder.Path()),
                       .printers = &printers,
                       .windows = &windows};
+    OfferDialogs(services);
     Program program{.state = *state, .folder = folder, .services = services};
     services.saveLines = [&program](Form* form, Grid& grid) { SaveLines(program, form, grid); };
     printers.PreviewBy([&](QWidget* parent, const PrintTask& task) {

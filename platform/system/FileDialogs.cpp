@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "platform/system/file_io.h"
@@ -20,6 +21,21 @@ QString FileNameOf(QString title) {
     return title.trimmed() % QStringLiteral(".pdf");
 }
 
+/// Where the desktop shows the disks of the user as folders; their own folder where it has none.
+QString DisksFolder() {
+    const QString user = QFileInfo(QDir::homePath()).fileName();
+    for (const char* mounts : {"/run/media/", "/media/"}) {
+        const QString folder = QString::fromLatin1(mounts) % user;
+        if (!user.isEmpty() && QFileInfo(folder).isDir()) return folder;
+    }
+    return QDir::homePath();
+}
+
+QString ChosenIn(QFileDialog& dialog) {
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return dialog.selectedFiles().value(0);
+}
+
 }  // namespace
 
 QString AskForPdfFile(QWidget* parent, const QString& proposed) {
@@ -30,8 +46,23 @@ QString AskForPdfFile(QWidget* parent, const QString& proposed) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
     dialog.selectFile(FileNameOf(proposed));
-    if (dialog.exec() != QDialog::Accepted) return {};
-    return dialog.selectedFiles().value(0);
+    return ChosenIn(dialog);
+}
+
+QString ChooseFolder(QWidget* parent, const QString& title) {
+    QFileDialog dialog(parent, title, DisksFolder());
+    dialog.setObjectName(QStringLiteral("ChooseFolderDialog"));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return ChosenIn(dialog);
+}
+
+QString ChooseFile(QWidget* parent, const QString& title, const QString& filter) {
+    QFileDialog dialog(parent, title,
+                       QStandardPaths::writableLocation(QStandardPaths::DownloadLocation), filter);
+    dialog.setObjectName(QStringLiteral("ChooseFileDialog"));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return ChosenIn(dialog);
 }
 
 QString WriteUserFile(const QString& path, const QByteArray& bytes) {

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QString>
 #include <array>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "core/date.h"
@@ -50,6 +53,21 @@ struct Services {
     std::function<std::string(const QString& address)> fetchURL = [](const QString&) {
         return std::string();
     };
+    /// Lets the user choose a colour without transparency, at first `current`; nothing where they
+    /// think better of it.
+    std::function<std::optional<QColor>(QWidget* parent, const QColor& current)> chooseColour =
+        [](QWidget*, const QColor&) { return std::nullopt; };
+    /// Lets the user choose a folder that there is, and gives its path; empty where they think
+    /// better of it.
+    std::function<QString(QWidget* parent, const QString& title)> chooseFolder =
+        [](QWidget*, const QString&) { return QString(); };
+    /// The same for a file to read; `filter` is such as "Texts (*.txt *.csv);;All files (*)".
+    std::function<QString(QWidget* parent, const QString& title, const QString& filter)>
+        chooseFile = [](QWidget*, const QString&, const QString&) { return QString(); };
+    /// Another folder, of the path that the user has chosen. One that cannot be opened is a
+    /// `Failure`.
+    std::function<std::shared_ptr<ProgramFolder>(const QString& path)> openFolder = {};
+    QString folderPath = {};          ///< Where the program's folder is, as the user reads it.
     Printers* printers = nullptr;     ///< The printers; none: nothing is ever printed.
     WindowStates* windows = nullptr;  ///< Where windows keep their sizes; none: they do not.
 };

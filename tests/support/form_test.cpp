@@ -108,15 +108,23 @@ Answer FakeMessages::Show(QWidget*, const Message& message) {
 TestProgram::TestProgram()
     : today(std::chrono::year(2005), std::chrono::June, std::chrono::day(1)),
       random([this] { return seed; }),
-      services{.seconds = [this] { return now += tick; },
-               .today = [this] { return today; },
-               .random = random,
-               .region = RegionOf(QLocale(QLocale::English, QLocale::UnitedKingdom)),
-               .messages = messages,
-               .openPage = [this](const QString& page) { pages.push_back(page); },
-               .saveLines = {},
-               .printLines = {},
-               .printers = &printers},
+      services{
+          .seconds = [this] { return now += tick; },
+          .today = [this] { return today; },
+          .random = random,
+          .region = RegionOf(QLocale(QLocale::English, QLocale::UnitedKingdom)),
+          .messages = messages,
+          .openPage = [this](const QString& page) { pages.push_back(page); },
+          .saveLines = {},
+          .printLines = {},
+          .chooseColour = [this](QWidget*,
+                                 const QColor& current) { return dialogs.Colour(current); },
+          .chooseFolder = [this](QWidget*, const QString& title) { return dialogs.Folder(title); },
+          .chooseFile = [this](QWidget*, const QString& title,
+                               const QString& filter) { return dialogs.File(title, filter); },
+          .openFolder = [this](const QString& path) { return dialogs.OpenFolder(path); },
+          .folderPath = QStringLiteral("/home/anna/lottery"),
+          .printers = &printers},
       program{.state = state, .folder = folder, .services = services} {
     state.Crlf = "\r\n";
 }

@@ -17,6 +17,7 @@
 #include "platform/forms/Form.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/Services.h"
+#include "tests/support/fake_dialogs.h"
 #include "tests/support/fake_printers.h"
 
 /// Answers to the messages that a test expects, in their order. A message that nobody prepared and
@@ -48,6 +49,7 @@ struct TestProgram {
     std::uint64_t seed = 1;
     Random random;
     FakeMessages messages;
+    FakeDialogs dialogs;
     FakePrinters printers;
     std::vector<QString> pages;
     Services services;
