@@ -9,6 +9,7 @@
 
 #include "databases/CreateDbase.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/widgets/AddressTip.h"
 #include "platform/widgets/BarInput.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
@@ -94,6 +95,10 @@ QLayout* CreateDbase::MakeNames() {
                        tr(" Start Internet Explorer and go to site "));
     connect(openWebSite, &QPushButton::clicked, this,
             [this] { services().openPage(address_->text()); });
+    connect(address_, &QLineEdit::textChanged, openWebSite,
+            [openWebSite, words = openWebSite->toolTip()](const QString& address) {
+                openWebSite->setToolTip(AddressTip(words, address));
+            });
 
     auto* names = new QGridLayout;
     names->setVerticalSpacing(8);

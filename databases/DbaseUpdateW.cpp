@@ -15,6 +15,7 @@
 #include "platform/forms/LotteryList.h"
 #include "platform/forms/ShowTip.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/AddressTip.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
@@ -98,16 +99,15 @@ QLayout* DbaseUpdateW::MakeActions() {
     auto* save = WithKeysOf(
         Command::Save, MakeButton(QStringLiteral("Command1"), tr(" Save lottery draw result ")));
     save->setDefault(true);
-    auto* goToWebsite = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
-    goToWebsite->setToolTip(tr(" Start Intenet Explorer "));
-    goToWebsite->setMinimumWidth(112);
+    goToWebsite_ = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
+    goToWebsite_->setMinimumWidth(112);
     auto* close = MakeButton(QStringLiteral("CancelButton"), tr(" Close "));
     SetCloseButton(close);
     connect(save, &QPushButton::clicked, this, [this] { Save(); });
-    connect(goToWebsite, &QPushButton::clicked, this,
+    connect(goToWebsite_, &QPushButton::clicked, this,
             [this] { services().openPage(ToQString(state().LotteryURL)); });
     connect(close, &QPushButton::clicked, this, [this] { Unload(); });
-    return BuildActionRow({save, goToWebsite}, {close});
+    return BuildActionRow({save, goToWebsite_}, {close});
 }
 
 void DbaseUpdateW::Load() {
@@ -131,6 +131,8 @@ void DbaseUpdateW::ChooseLottery() {
         boxes_[i]->clear();
         boxes_[i]->setVisible(newest.filled[i]);
     }
+    goToWebsite_->setToolTip(
+        AddressTip(tr(" Start Intenet Explorer "), ToQString(state().LotteryURL)));
     lastBoxTitle_->clear();
     if (state().HasBonus > 0) lastBoxTitle_->setText(tr("Bonus"));
     if (state().MaxPball > 0) lastBoxTitle_->setText(tr("Powerball"));

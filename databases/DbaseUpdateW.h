@@ -10,6 +10,7 @@
 class DatePicker;
 class ListBox;
 class QLayout;
+class QPushButton;
 
 /// Takes one draw that the user types in and inserts it at the place of its date. It shows the
 /// newest draws and says when the lottery has a draw of the date already, which bars nothing.
@@ -43,4 +44,5 @@ class DbaseUpdateW final : public Form {
     QLabel* lastBoxTitle_;
     DrawBoxes boxes_;
     QLabel* newestDraws_;
+    QPushButton* goToWebsite_;
 };

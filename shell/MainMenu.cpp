@@ -5,6 +5,7 @@
 
 #include "core/failure.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/AddressTip.h"
 #include "platform/widgets/Widgets.h"
 #include "shell/MenuTexts.h"
 
@@ -43,7 +44,7 @@ void MainMenu::ShowLinks(const State& state) {
         QAction* entry = Entry(Member(QStringLiteral("LinksLink"), i));
         entry->setVisible(!caption.isEmpty());
         if (!caption.isEmpty()) entry->setText(ShownCaption(caption));
-        entry->setToolTip(ToQString(state.Settings(setting::LinkAddresses + i)));
+        entry->setToolTip(AddressTip({}, ToQString(state.Settings(setting::LinkAddresses + i))));
     }
 }
 

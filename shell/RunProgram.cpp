@@ -45,12 +45,13 @@ int RunProgram(const QString& folderPath) {
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
     UseDesktopProxy();
+    const OwnPages own{.folder = folder.Path()};
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
                       .random = random,
                       .region = RegionOf(QLocale::system()),
                       .messages = messages,
-                      .openPage = [&folder](const QString& page) { OpenPage(page, folder.Path()); },
+                      .openPage = [&own](const QString& page) { OpenPage(page, own); },
                       .saveLines = {},
                       .printLines = {},
                       .fetchURL = [](const QString& address) { return FetchURL(address); },

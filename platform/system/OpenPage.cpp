@@ -4,17 +4,67 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 
-QUrl PageAddress(const QString& page, const QString& folderPath) {
-    const QString text = page.trimmed();
-    if (text.isEmpty()) return {};
-    const bool bare = !text.contains(QLatin1Char('/')) && !text.contains(QLatin1Char(':'));
-    const QFileInfo file(QDir(folderPath), text);
-    if (bare && file.isFile()) return QUrl::fromLocalFile(file.absoluteFilePath());
-    return QUrl::fromUserInput(text);
+#include "core/program_folder.h"
+
+namespace {
+
+constexpr const char* ownFiles[] = {"help*.html", "dbase*.txt"};
+
+QString WithoutBlanksAround(const QString& text) {
+    qsizetype first = 0;
+    qsizetype last = text.size();
+    while (first < last && text[first] == QLatin1Char(' ')) ++first;
+    while (first < last && text[last - 1] == QLatin1Char(' ')) --last;
+    return text.mid(first, last - first);
 }
 
-void OpenPage(const QString& page, const QString& folderPath) {
-    const QUrl address = PageAddress(page, folderPath);
+bool IsBlankOrControl(QChar character) { return character.isSpace() || !character.isPrint(); }
+
+bool IsOwnFile(const QString& name) {
+    const std::string bytes = name.toStdString();
+    return bytes.find('/') == std::string::npos &&
+           std::ranges::any_of(ownFiles,
+                               [&](const char* pattern) { return NameMatches(bytes, pattern); });
+}
+
+/// A file of the folder, with the place in it that stands behind a "#".
+QUrl FileAddress(const QString& page, const QString& folder) {
+    const QString name = page.section(QLatin1Char('#'), 0, 0);
+    const QFileInfo file(QDir(folder), name);
+    if (!IsOwnFile(name) || !file.isFile()) return {};
+    QUrl address = QUrl::fromLocalFile(file.absoluteFilePath());
+    if (name.size() < page.size()) address.setFragment(page.mid(name.size() + 1));
+    return address;
+}
+
+bool IsOwnLetter(const QString& page, const QStringList& letters) {
+    return std::ranges::any_of(
+        letters, [&](const QString& letter) { return page == QStringLiteral("mailto:") % letter; });
+}
+
+}  // namespace
+
+QUrl WebAddress(const QString& text) {
+    QString address = WithoutBlanksAround(text);
+    if (std::ranges::any_of(address, IsBlankOrControl)) return {};
+    if (address.startsWith(QStringLiteral("www."), Qt::CaseInsensitive)) {
+        address.prepend(QStringLiteral("http://"));
+    }
+    const QUrl url(address);
+    const bool web =
+        url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+    return web && url.isValid() && !url.host().isEmpty() ? url : QUrl();
+}
+
+QUrl PageAddress(const QString& page, const OwnPages& own) {
+    if (const QUrl file = FileAddress(page, own.folder); file.isValid()) return file;
+    if (IsOwnLetter(page, own.letters)) return QUrl(page);
+    return WebAddress(page);
+}
+
+void OpenPage(const QString& page, const OwnPages& own) {
+    const QUrl address = PageAddress(page, own);
     if (address.isValid()) QDesktopServices::openUrl(address);
 }

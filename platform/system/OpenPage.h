@@ -2,12 +2,26 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 
-/// The address behind the text: a web or mail address as it stands, a bare name as the file of that
-/// name in `folderPath` where there is one, else as a web address without its "http://". Empty
-/// where the text is no address at all.
-QUrl PageAddress(const QString& page, const QString& folderPath);
+/// What is opened beside web pages.
+struct OwnPages {
+    QString folder;            ///< The program's folder: its help pages and draw databases.
+    QStringList letters = {};  ///< Mail addresses that letters may go to.
+};
 
-/// Opens the page on the desktop without waiting. What nothing opens is not noticed.
-void OpenPage(const QString& page, const QString& folderPath);
+/// The web address in the text, which begins with "http://", "https://" or "www."; blanks around it
+/// do not count. Empty where it is none, or holds a blank or a control character.
+QUrl WebAddress(const QString& text);
+
+/// The address behind a page: a web address; "help.html", "help.html#keys" or "dbase1.txt", where
+/// the folder has that file; "mailto:" and one of the mail addresses.
+///
+/// Empty for anything else: addresses come from files and boxes that anybody may have filled, and
+/// none of them is to open a file, start a program or attach something to a letter.
+QUrl PageAddress(const QString& page, const OwnPages& own);
+
+/// Opens the page on the desktop without waiting. What has no address opens nothing, and what
+/// nothing opens is not noticed.
+void OpenPage(const QString& page, const OwnPages& own);

@@ -272,6 +272,16 @@ TEST_F(CreatingADatabase, TheWebAddressOfATemplateMayHoldCommas) {
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("http://one.example/a,b")});
 }
 
+TEST_F(CreatingADatabase, TheButtonOfTheWebSiteShowsWhereItLeads) {
+    Open();
+    ChooseTemplate(0);
+    EXPECT_EQ(Find<QPushButton>(*form_, webSiteButton)->toolTip(),
+              QStringLiteral(" Start Internet Explorer and go to site \nhttp://one.example/a,b"));
+    Line(addressBox).clear();
+    EXPECT_EQ(Find<QPushButton>(*form_, webSiteButton)->toolTip(),
+              QStringLiteral(" Start Internet Explorer and go to site "));
+}
+
 TEST_F(CreatingADatabase, ATemplateBeyondTheBarsEndsTheRun) {
     test_.folder.Write("LotteryTemplates.txt", "One,6,49,0,0,\r\nHuge,6,90,0,0,\r\n");
     Open();

@@ -325,6 +325,19 @@ TEST_F(UpdatingADatabase, OpensTheWebsiteOfTheLottery) {
     EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("http://www.lotto.example")});
 }
 
+TEST_F(UpdatingADatabase, TheButtonOfTheWebsiteShowsWhereItLeads) {
+    AddLottery(test_.folder, "dbase1.txt", "Homeless", "6,49,0,0,0", {"28 May 05,1,2,3,4,5,6,0,0"});
+    test_.folder.Write("dbase100.txt",
+                       "UK Lotto\r\nhttp://www.lotto.example\r\n6,49,0,0,1\r\n"
+                       "28 May 05,1,2,3,4,5,6,0,7\r\n");
+    Open();
+    const auto* button = Find<QPushButton>(*form_, webSiteButton);
+    EXPECT_EQ(button->toolTip(), QStringLiteral(" Start Intenet Explorer "));
+    Find<ListBox>(*form_, "List1")->SetIndex(1);
+    EXPECT_EQ(button->toolTip(),
+              QStringLiteral(" Start Intenet Explorer \nhttp://www.lotto.example"));
+}
+
 TEST_F(UpdatingADatabase, CloseAsksNothing) {
     Open();
     Box(0).setText(QStringLiteral("1"));
