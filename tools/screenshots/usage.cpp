@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/screenshots/usage.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QScrollBar>
+#include <map>
+
+#include "platform/widgets/Lists.h"
+
+namespace {
+
+template <typename Control>
+Control* Find(const QWidget& form, const char* name) {
+    return form.findChild<Control*>(QString::fromLatin1(name));
+}
+
+void Click(const QWidget& form, const char* button) {
+    Find<QAbstractButton>(form, button)->click();
+}
+
+void Type(const QWidget& form, const char* box, const char* text) {
+    Find<QLineEdit>(form, box)->setText(QString::fromLatin1(text));
+}
+
+/// Numbers typed and added to the grid.
+void TypeEntry(Form& form, const char* numbers) {
+    const QStringList words = QString::fromLatin1(numbers).split(QLatin1Char(' '));
+    for (qsizetype place = 0; place < words.size(); ++place) {
+        const QByteArray box = QStringLiteral("Text1(%1)").arg(place + 1).toLatin1();
+        Find<QLineEdit>(form, box.constData())->setText(words[place]);
+    }
+    Click(form, "Command2");
+}
+
+// Play and wheel forms.
+
+void GenerateTwelveLines(Form& form) {
+    Click(form, "Check1");
+    Click(form, "Check3");
+    Find<QScrollBar>(form, "HScroll1")->setValue(12);
+    Click(form, "Command2");
+}
+
+void Generate(Form& form) { Click(form, "Command2"); }
+
+void WheelRandomNumbers(Form& form) {
+    Click(form, "Command12");
+    Click(form, "Command2");
+}
+
+void WheelInThirdSize(Form& form) {
+    Click(form, "Option1(2)");
+    WheelRandomNumbers(form);
+}
+
+void WheelFourteenNumbers(Form& form) {
+    Find<QComboBox>(form, "Combo1")->setCurrentIndex(6);
+    WheelRandomNumbers(form);
+}
+
+void MarkRandomNumbers(Form& form) { Click(form, "Command12(0)"); }
+
+// Entries and analyses.
+
+void SaveTwelveLines(Form& form) { Type(form, "Text1", "12"); }
+
+void StoreTwoEntries(Form& form) {
+    Type(form, "TextPName", "Anna");
+    TypeEntry(form, "3 11 19 27 34 48");
+    TypeEntry(form, "8 15 22 29 36 43");
+}
+
+void SortByLastDraw(Form& form) { Click(form, "Command1"); }
+
+void CheckFourEntries(Form& form) {
+    Find<QListWidget>(form, "List1")->setCurrentRow(0);
+    TypeEntry(form, "3 11 19 27 34 48");
+    TypeEntry(form, "8 15 22 29 36 43");
+    TypeEntry(form, "7 14 17 21 30 38");
+    TypeEntry(form, "1 2 3 4 5 6");
+    Click(form, "Command4");
+    Click(form, "Command3");
+}
+
+void CheckSavedEntries(Form& form) { Click(form, "Command2"); }
+
+// Syndicates and printing.
+
+void SelectFirstMember(Form& form) { Find<ListBox>(form, "List1")->SetIndex(0); }
+
+void NameSyndicate(Form& form) {
+    Type(form, "Text1(7)", "Office pool");
+    Type(form, "Text1(0)", "Anna");
+}
+
+void PrintTwelveLines(Form& form) { Type(form, "Text2", "12"); }
+
+using Usage = void (*)(Form&);
+
+const std::map<std::string, Usage>& Usages() {
+    static const std::map<std::string, Usage> usages = {
+        {"ANumberStats", SortByLastDraw},
+        {"NewSyndicate", NameSyndicate},
+        {"PBudgetWheel", WheelInThirdSize},
+        {"PDIYWheels", WheelFourteenNumbers},
+        {"PGuaranteed", MarkRandomNumbers},
+        {"PLuckyDip", GenerateTwelveLines},
+        {"PThreeMatch", WheelRandomNumbers},
+        {"PWheel2", WheelInThirdSize},
+        {"PWheel3", WheelInThirdSize},
+        {"PrintFrm", PrintTwelveLines},
+        {"PrintTickets", PrintTwelveLines},
+        {"SMembers", SelectFirstMember},
+        {"SaveEntries", SaveTwelveLines},
+        {"ShowMyDrawsW", CheckSavedEntries},
+        {"StoreMyDrawsW", StoreTwoEntries},
+        {"WhatIf", CheckFourEntries},
+        {"Wheel49", Generate},
+    };
+    return usages;
+}
+
+}  // namespace
+
+void Use(Form& form, bool hasSamples) {
+    const std::string name = form.objectName().toStdString();
+    const auto found = Usages().find(name);
+    if (found == Usages().end()) return;
+    const bool needsSamples = name == "ShowMyDrawsW";
+    if (hasSamples || !needsSamples) found->second(form);
+}
