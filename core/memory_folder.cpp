@@ -33,6 +33,11 @@ void MemoryFolder::Write(std::string_view name, std::string_view bytes) {
     Store(name, std::string(bytes));
 }
 
+void MemoryFolder::Write(std::string_view name, std::string_view bytes, FileTime written) {
+    Write(name, bytes);
+    SetFileDate(name, std::chrono::floor<std::chrono::days>(written));
+}
+
 void MemoryFolder::Append(std::string_view name, std::string_view records) {
     Count(name);
     Store(name, Appended(Exists(name) ? Stored(name).bytes : std::string(), records));
@@ -66,6 +71,10 @@ Date MemoryFolder::FileDate(std::string_view name) const {
     const auto found = files_.find(LowerCase(name));
     if (found == files_.end()) throw Refused(name, "there is no such file.");
     return found->second.date;
+}
+
+FileTime MemoryFolder::LastWritten(std::string_view name) const {
+    return std::chrono::sys_days(FileDate(name));
 }
 
 bool MemoryFolder::FolderExists(std::string_view name) const {

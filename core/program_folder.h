@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/date.h"
+
+/// A moment on the disk's clock.
+using FileTime = std::chrono::sys_time<std::chrono::nanoseconds>;
 
 /// The program's folder: the only way to files.
 ///
@@ -26,6 +30,9 @@ class ProgramFolder {
     /// Replaces or creates the file.
     virtual void Write(std::string_view name, std::string_view bytes) = 0;
 
+    /// The same for a file that counts as last written at that moment.
+    virtual void Write(std::string_view name, std::string_view bytes, FileTime written) = 0;
+
     /// Adds whole records to the end of the file, or creates it. Where the file does not end with a
     /// line end, one is put before the records, so that they start on a line of their own.
     virtual void Append(std::string_view name, std::string_view records) = 0;
@@ -35,13 +42,17 @@ class ProgramFolder {
     /// in front.
     virtual std::vector<std::string> Find(std::string_view pattern) const = 0;
 
-    /// Copies a file over another or to a new one; the copy keeps the file's date.
+    /// Copies a file over another or to a new one; the copy keeps the file's date. Where both are
+    /// the same file, nothing changes.
     virtual void Copy(std::string_view from, std::string_view to) = 0;
 
     virtual void Delete(std::string_view name) = 0;
 
     /// The day on which the file was last written.
     virtual Date FileDate(std::string_view name) const = 0;
+
+    /// The moment at which it was, as exact as the disk tells it.
+    virtual FileTime LastWritten(std::string_view name) const = 0;
 
     virtual bool FolderExists(std::string_view name) const = 0;
 

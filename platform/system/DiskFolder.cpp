@@ -95,6 +95,15 @@ std::vector<std::string> FilesLike(const std::string& root, std::string_view pat
     return found;
 }
 
+FileTime ToFileTime(const timespec& time) {
+    return FileTime(std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec));
+}
+
+timespec ToTimespec(FileTime time) {
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
+    return {.tv_sec = seconds.time_since_epoch().count(), .tv_nsec = (time - seconds).count()};
+}
+
 void ClearUnfinishedFiles(const std::string& folder) {
     for (const std::string& name : NamesIn(folder)) {
         if (IsUnfinishedFile(name)) RemoveUnfinishedFile(folder + '/' + name);
@@ -129,6 +138,10 @@ void DiskFolder::Write(std::string_view name, std::string_view bytes) {
     Try(name, "written", [&] { WriteFileSafely(PathOf(name), bytes); });
 }
 
+void DiskFolder::Write(std::string_view name, std::string_view bytes, FileTime written) {
+    Try(name, "written", [&] { WriteFileSafely(PathOf(name), bytes, ToTimespec(written)); });
+}
+
 void DiskFolder::Append(std::string_view name, std::string_view records) {
     Write(name, Appended(Exists(name) ? Read(name) : std::string(), records));
 }
@@ -140,7 +153,10 @@ std::vector<std::string> DiskFolder::Find(std::string_view pattern) const {
 void DiskFolder::Copy(std::string_view from, std::string_view to) {
     const std::string bytes = Read(from);
     const timespec modified = Try(from, "read", [&] { return ModifiedTime(PathOf(from)); });
-    Try(to, "written", [&] { WriteFileSafely(PathOf(to), bytes, modified); });
+    Try(to, "written", [&] {
+        const std::string target = PathOf(to);
+        if (!SameFile(PathOf(from), target)) WriteFileSafely(target, bytes, modified);
+    });
 }
 
 void DiskFolder::Delete(std::string_view name) {
@@ -150,6 +166,10 @@ void DiskFolder::Delete(std::string_view name) {
 Date DiskFolder::FileDate(std::string_view name) const {
     const timespec modified = Try(name, "looked at", [&] { return ModifiedTime(PathOf(name)); });
     return FromQDate(QDateTime::fromSecsSinceEpoch(modified.tv_sec).date());
+}
+
+FileTime DiskFolder::LastWritten(std::string_view name) const {
+    return ToFileTime(Try(name, "looked at", [&] { return ModifiedTime(PathOf(name)); }));
 }
 
 bool DiskFolder::FolderExists(std::string_view name) const {

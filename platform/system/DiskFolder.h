@@ -21,11 +21,13 @@ class DiskFolder final : public ProgramFolder {
     bool Exists(std::string_view name) const override;
     std::string Read(std::string_view name) const override;
     void Write(std::string_view name, std::string_view bytes) override;
+    void Write(std::string_view name, std::string_view bytes, FileTime written) override;
     void Append(std::string_view name, std::string_view records) override;
     std::vector<std::string> Find(std::string_view pattern) const override;
     void Copy(std::string_view from, std::string_view to) override;
     void Delete(std::string_view name) override;
     Date FileDate(std::string_view name) const override;
+    FileTime LastWritten(std::string_view name) const override;
     bool FolderExists(std::string_view name) const override;
     void MakeFolder(std::string_view name) override;
 

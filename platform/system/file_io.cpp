@@ -221,6 +221,13 @@ timespec ModifiedTime(const std::string& path) {
     return status.st_mtim;
 }
 
+bool SameFile(const std::string& one, const std::string& other) {
+    struct stat first {};
+    struct stat second {};
+    if (::stat(one.c_str(), &first) == -1 || ::stat(other.c_str(), &second) == -1) return false;
+    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 void DeleteFile(const std::string& path) {
     const Folder folder(path);
     Check(::unlink(path.c_str()));

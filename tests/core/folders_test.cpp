@@ -54,6 +54,15 @@ TEST(MemoryFolder, MatchesNamesWithoutRegardToCaseAndKeepsTheFirstSpelling) {
     EXPECT_TRUE(folder.Exists("TEMP.TXT"));
 }
 
+TEST(MemoryFolder, DatesAFileAsItIsTold) {
+    MemoryFolder folder;
+    constexpr Date day = std::chrono::June / 1 / 2005;
+    folder.Write("a.txt", "one", std::chrono::sys_days(day) + std::chrono::hours(23));
+    EXPECT_EQ(folder.Read("a.txt"), "one");
+    EXPECT_EQ(folder.FileDate("a.txt"), day);
+    EXPECT_EQ(folder.LastWritten("a.txt"), FileTime(std::chrono::sys_days(day)));
+}
+
 TEST(MemoryFolder, FailsForAFileThatIsNotThere) {
     MemoryFolder folder;
     EXPECT_EQ(FailureOf([&] { folder.Read("a.txt"); }), "a.txt: there is no such file.");

@@ -67,6 +67,7 @@ class ReadOnlyFolder final : public ProgramFolder {
     bool Exists(std::string_view name) const override { return folder_.Exists(name); }
     std::string Read(std::string_view name) const override { return folder_.Read(name); }
     void Write(std::string_view name, std::string_view) override { Refuse(name); }
+    void Write(std::string_view name, std::string_view, FileTime) override { Refuse(name); }
     void Append(std::string_view name, std::string_view) override { Refuse(name); }
     std::vector<std::string> Find(std::string_view pattern) const override {
         return folder_.Find(pattern);
@@ -74,6 +75,7 @@ class ReadOnlyFolder final : public ProgramFolder {
     void Copy(std::string_view, std::string_view to) override { Refuse(to); }
     void Delete(std::string_view name) override { Refuse(name); }
     Date FileDate(std::string_view name) const override { return folder_.FileDate(name); }
+    FileTime LastWritten(std::string_view name) const override { return folder_.LastWritten(name); }
     bool FolderExists(std::string_view name) const override { return folder_.FolderExists(name); }
     void MakeFolder(std::string_view name) override { Refuse(name); }
 

@@ -196,6 +196,35 @@ TEST_F(OnDisk, CopiesOverAnotherFileWithTheDate) {
     EXPECT_EQ(fs::last_write_time(path_ / "b.txt"), before);
 }
 
+TEST_F(OnDisk, DatesAFileAsItIsTold) {
+    const FileTime written(std::chrono::seconds(1117627200) + std::chrono::nanoseconds(123456789));
+    folder_.Write("a.txt", "x", written);
+    EXPECT_EQ(folder_.Read("a.txt"), "x");
+    EXPECT_EQ(folder_.LastWritten("A.TXT"), written);
+    const FileTime longAgo(-std::chrono::nanoseconds(1));
+    folder_.Write("a.txt", "y", longAgo);
+    EXPECT_EQ(folder_.LastWritten("a.txt"), longAgo);
+    EXPECT_EQ(FailureOf([&] { folder_.LastWritten("b.txt"); }),
+              "b.txt could not be looked at: No such file or directory.");
+}
+
+TEST_F(OnDisk, CopiesAFileOntoItselfWithoutTouchingIt) {
+    Put(path_ / "a.txt", "x");
+    fs::create_directory_symlink(".", path_ / "Backup");
+    fs::create_symlink("a.txt", path_ / "b.txt");
+    struct stat before {};
+    ASSERT_EQ(stat((path_ / "a.txt").c_str(), &before), 0);
+    folder_.Copy("a.txt", "Backup/a.txt");
+    folder_.Copy("Backup/A.TXT", "a.txt");
+    folder_.Copy("a.txt", "b.txt");
+    struct stat after {};
+    ASSERT_EQ(stat((path_ / "a.txt").c_str(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_EQ(after.st_ctim.tv_nsec, before.st_ctim.tv_nsec);
+    EXPECT_EQ(folder_.Read("a.txt"), "x");
+    EXPECT_TRUE(fs::is_symlink(path_ / "b.txt"));
+}
+
 TEST_F(OnDisk, DeletesAFile) {
     folder_.Write("a.txt", "x");
     folder_.Delete("A.TXT");
