@@ -9,6 +9,7 @@ packages=(
     libgtest-dev librapidcheck-dev libbenchmark-dev
     breeze-icon-theme fonts-dejavu-core fonts-liberation xdg-utils
     poppler-utils  # tests read printed pages back with it
+    desktop-file-utils appstream  # tests validate what desktops and software centres read
 )
 
 # Builds of several presets share what they can, where ccache is there; precompiled headers are

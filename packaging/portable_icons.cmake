@@ -1,0 +1,31 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The portable program carries the icons that it asks for, as a computer of any kind may lack them:
+# each name of the sources that the icon theme knows, in all its sizes, as resources.
+find_path(QUILLON_BREEZE index.theme PATHS /usr/share/icons/breeze NO_DEFAULT_PATH)
+set(files "")
+if(QUILLON_BREEZE)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*/*.cpp
+        ${PROJECT_SOURCE_DIR}/platform/*/*.h)
+    foreach(folder play wheels analysis databases entries printing syndicates shell)
+        file(GLOB forms CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${folder}/*.cpp)
+        list(APPEND sources ${forms})
+    endforeach()
+    set(names "")
+    foreach(source IN LISTS sources)
+        file(STRINGS ${source} lines REGEX "\"[a-z]+(-[a-z0-9]+)+\"")
+        string(REGEX MATCHALL "\"[a-z]+(-[a-z0-9]+)+\"" found "${lines}")
+        list(APPEND names ${found})
+    endforeach()
+    list(REMOVE_DUPLICATES names)
+    string(APPEND files "        <file alias=\"index.theme\">${QUILLON_BREEZE}/index.theme</file>\n")
+    foreach(name IN LISTS names)
+        string(REPLACE "\"" "" name ${name})
+        file(GLOB pictures RELATIVE ${QUILLON_BREEZE} ${QUILLON_BREEZE}/*/*/${name}.svg)
+        foreach(picture IN LISTS pictures)
+            get_filename_component(real ${QUILLON_BREEZE}/${picture} REALPATH)
+            string(APPEND files "        <file alias=\"${picture}\">${real}</file>\n")
+        endforeach()
+    endforeach()
+endif()
+file(CONFIGURE OUTPUT portable_icons.qrc CONTENT
+    "<!DOCTYPE RCC>\n<RCC version=\"1.0\">\n    <qresource prefix=\"/icons/breeze\">\n${files}    </qresource>\n</RCC>\n")
