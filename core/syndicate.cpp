@@ -29,9 +29,9 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
     const std::string content = folder.Read(file);
     FieldReader reader(content, file, FieldReader::Quotes::Removed);
     for (int row = 0; row <= lastMember; ++row) {
+        const std::string expected = "a field of row " + std::to_string(row) + " of the syndicate";
         for (int column = 0; column <= lastColumn; ++column) {
-            state.Members(row, column) =
-                reader.ReadField("a field of row " + std::to_string(row) + " of the syndicate");
+            state.Members(row, column) = reader.ReadField(expected);
         }
     }
 }

@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view content(reinterpret_cast<const char*>(data), size);
     folder.Write("SMembers.000", content);
     folder.Write(syndicateNotesFile, content);
-    const auto state = std::make_unique<State>();
+    static const auto state = std::make_unique<State>();
     state->Settings(setting::SyndicateFile) = "SMembers.000";
     Read([&] { static_cast<void>(ListSyndicates(folder)); }, "SMembers.000, line ");
     Read(
