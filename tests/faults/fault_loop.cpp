@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/faults/fault_loop.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <exception>
+
+#include "core/failure.h"
+#include "shell/Application.h"
+
+using system_calls::CallKind;
+using system_calls::Fault;
+
+namespace {
+
+// A run takes a fraction of a second; sanitizers and a busy computer are much slower.
+constexpr unsigned longestRun = 120;
+
+// What the functions that are called behind a call to the system work on.
+Record* watchingRecord = nullptr;
+std::string watchedPath;
+
+void RecordCall(const char* call, const char* file) {
+    watchingRecord->Add(Record::Kind::Call, call, file);
+}
+
+void RecordContents() {
+    for (const auto& [name, bytes] : FilesIn(watchedPath)) {
+        watchingRecord->Add(Record::Kind::Content, name, bytes);
+    }
+}
+
+// Reads the report that ends a run, and closes it.
+void AnswerReport() {
+    auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (report == nullptr || report->objectName() != QStringLiteral("FailureReport")) return;
+    watchingRecord->Add(Record::Kind::Report, report->text().toStdString(),
+                        report->informativeText().toStdString());
+    report->buttons().constFirst()->click();
+}
+
+bool IsUnfinished(const std::string& name) { return name.find(".quillon-") != std::string::npos; }
+
+std::string Shortened(const std::string& text) {
+    constexpr std::size_t most = 120;
+    return text.size() <= most ? text : text.substr(0, most) + "...";
+}
+
+// A message of the program's own that something could not be done, and why.
+bool TellsReason(const Record::Entry& said) {
+    return said.name.find(" could not be ") != std::string::npos;
+}
+
+bool SoundsSaved(const std::string& text) {
+    constexpr std::array<const char*, 8> words = {"saved",   "Saved",   "created", "updated",
+                                                  "Updated", "deleted", "stored",  "Copied"};
+    for (const char* word : words) {
+        if (text.find(word) != std::string::npos) return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+FaultLoop::FaultLoop(const Scenario& scenario, const std::string& path)
+    : scenario_(scenario), path_(path) {
+    watchingRecord = &record_;
+    watchedPath = path_;
+}
+
+void FaultLoop::Act(const Fault& fault) {
+    system_calls::Arm(path_, fault, RecordCall, RecordContents);
+    if (scenario_.starts) {
+        session_ = std::make_unique<Session>(QString::fromStdString(path_), record_);
+        session_->Start();
+    }
+    scenario_.act(*session_);
+}
+
+FaultLoop::End FaultLoop::RunForked(const Fault& fault) {
+    record_.Clear();
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::alarm(longestRun);
+        QTimer hand;
+        hand.setInterval(0);
+        QObject::connect(&hand, &QTimer::timeout, &hand, AnswerReport);
+        hand.start();
+        auto* application = static_cast<Application*>(QCoreApplication::instance());
+        application->Run([&] {
+            Act(fault);
+            return 0;
+        });
+        if (system_calls::LeavesUnflushed())
+            record_.Add(Record::Kind::Problem, "a power cut could lose it", "not flushed");
+        ::_exit(EXIT_SUCCESS);
+    }
+    int status = 0;
+    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) {
+    }
+    if (WIFSIGNALED(status)) return WTERMSIG(status) == SIGALRM ? End::Hung : End::Died;
+    switch (WEXITSTATUS(status)) {
+        case EXIT_SUCCESS:
+            return End::Finished;
+        case EXIT_FAILURE:
+            return End::Reported;
+        case system_calls::killed:
+            return End::Killed;
+        default:
+            return End::Died;
+    }
+}
+
+std::string FaultLoop::RunSound() {
+    if (!scenario_.starts) {
+        session_ = std::make_unique<Session>(QString::fromStdString(path_), record_);
+        if (scenario_.prepare != nullptr) scenario_.prepare(*session_);
+        session_->Start();
+    } else if (scenario_.prepare != nullptr) {
+        Session preparing(QString::fromStdString(path_), record_);
+        scenario_.prepare(preparing);
+    }
+    before_ = FilesIn(path_);
+    const End end = RunForked({});
+    after_ = Comparable(FilesIn(path_));
+    calls_ = record_.Entries(Record::Kind::Call);
+    said_ = record_.Entries(Record::Kind::Said);
+    for (const auto& [name, bytes] : before_) contents_[name].insert(bytes);
+    for (const Record::Entry& entry : record_.Entries(Record::Kind::Content)) {
+        contents_[entry.name].insert(entry.text);
+    }
+    for (const auto& [name, bytes] : contents_) {
+        if (before_.count(name) == 0 || after_.count(name) == 0) removed_.insert(name);
+    }
+    for (const Record::Entry& problem : record_.Entries(Record::Kind::Problem))
+        return problem.name + ": " + problem.text;
+    for (const Record::Entry& report : record_.Entries(Record::Kind::Report)) return report.name;
+    if (end != End::Finished) return "it does not come to its end";
+    return StartAgain();
+}
+
+std::vector<Fault> FaultLoop::Faults() const {
+    std::vector<Fault> faults;
+    for (std::size_t i = 0; i < calls_.size(); ++i) {
+        const auto call = static_cast<long long>(i);
+        for (const int error : {EIO, ENOSPC, EACCES, ESTALE, EINTR}) {
+            faults.push_back({Fault::Kind::Error, call, error});
+        }
+        faults.push_back({Fault::Kind::Lasting, call, EIO});
+        faults.push_back({Fault::Kind::Kill, call, 0});
+        const CallKind kind = system_calls::KindOf(calls_[i].name);
+        if (kind != CallKind::Other) faults.push_back({Fault::Kind::Short, call, 0});
+        if (kind == CallKind::Write) faults.push_back({Fault::Kind::KillWithin, call, 0});
+    }
+    return faults;
+}
+
+std::string FaultLoop::Run(const Fault& fault, Tally& tally) {
+    PutFiles(path_, before_);
+    const End end = RunForked(fault);
+    ++tally.faults;
+    tally.kills += end == End::Killed ? 1 : 0;
+    tally.reported += end == End::Reported ? 1 : 0;
+    tally.tolerated += end == End::Finished ? 1 : 0;
+    if (end == End::Hung) {
+        ++tally.hangs;
+        return "it hangs";
+    }
+    if (const std::string lost = WhatIsLost(); !lost.empty()) {
+        ++tally.lost;
+        return lost;
+    }
+    if (const std::string said = WhatIsFalselySaid(); !said.empty()) {
+        ++tally.falselySaid;
+        return said;
+    }
+    std::string wrong = WhatIsUntold(end);
+    if (wrong.empty()) wrong = StartAgain();
+    tally.other += wrong.empty() ? 0 : 1;
+    return wrong;
+}
+
+// Every file is the old one or one of those that the sound run made, whole.
+std::string FaultLoop::WhatIsLost() const {
+    const Files left = FilesIn(path_);
+    for (const auto& [name, contents] : contents_) {
+        const bool there = left.count(name) > 0;
+        const bool comesAndGoes =
+            removed_.count(name) > 0 || IsUnfinished(name) || name.starts_with("Backup/Undo/");
+        if (!there && !comesAndGoes) return name + " is gone";
+    }
+    for (const auto& [name, bytes] : left) {
+        if (IsUnfinished(name)) continue;
+        const bool undo = name.starts_with("Backup/Undo/") && name != "Backup/Undo/";
+        bool whole = false;
+        for (const auto& [known, contents] : contents_) {
+            if ((undo || known == name) && contents.count(bytes) > 0) whole = true;
+        }
+        if (!whole) return name + " holds " + Shortened(bytes);
+    }
+    return {};
+}
+
+// What the user has been told is what the sound run tells at the same state of the files.
+std::string FaultLoop::WhatIsFalselySaid() const {
+    std::size_t place = 0;
+    for (const Record::Entry& entry : record_.Entries(Record::Kind::Said)) {
+        if (place < said_.size() && said_[place] == entry) {
+            ++place;
+            continue;
+        }
+        if (TellsReason(entry)) return {};
+        const bool sameWords = place < said_.size() && said_[place].name == entry.name;
+        if (sameWords || SoundsSaved(entry.name)) return "it said \"" + entry.name + "\"";
+        return "it said \"" + entry.name + "\" in place of the reason";
+    }
+    return {};
+}
+
+// A run that does not come to its end tells why; one that does has done all it was to do.
+std::string FaultLoop::WhatIsUntold(End end) const {
+    for (const Record::Entry& problem : record_.Entries(Record::Kind::Problem))
+        return problem.name + ": " + problem.text;
+    if (end == End::Died) return "it died";
+    const auto reports = record_.Entries(Record::Kind::Report);
+    if (end == End::Reported && reports.empty()) return "it ended without a report";
+    const auto said = record_.Entries(Record::Kind::Said);
+    const bool told = std::any_of(said.begin(), said.end(), TellsReason);
+    if (end != End::Finished || told) return {};
+    if (Comparable(FilesIn(path_)) != after_) return "it says nothing and has not done its work";
+    if (said.size() != said_.size()) return "it said too little";
+    return {};
+}
+
+// The program starts, and has cleared what an unfinished write had left.
+std::string FaultLoop::StartAgain() {
+    const Files left = FilesIn(path_);
+    if (startedFrom_.count(left) > 0) return {};
+    Record record;
+    try {
+        Session again(QString::fromStdString(path_), record);
+        again.Start();
+    } catch (const std::exception& failure) {
+        return std::string("it does not start again: ") + failure.what();
+    }
+    for (const auto& [name, bytes] : FilesIn(path_)) {
+        if (IsUnfinished(name)) return name + " is left";
+    }
+    startedFrom_.insert(left);
+    return {};
+}
+
+std::string FaultLoop::InWords(const Fault& fault) const {
+    std::string words;
+    switch (fault.kind) {
+        case Fault::Kind::None:
+            return "no fault";
+        case Fault::Kind::Error:
+            words = ::strerrorname_np(fault.error);
+            break;
+        case Fault::Kind::Lasting:
+            words = std::string(::strerrorname_np(fault.error)) + " from then on";
+            break;
+        case Fault::Kind::Short:
+            words = "half done";
+            break;
+        case Fault::Kind::Kill:
+            words = "killed";
+            break;
+        case Fault::Kind::KillWithin:
+            words = "killed within";
+            break;
+    }
+    const Record::Entry& call = calls_.at(static_cast<std::size_t>(fault.call));
+    return words + " at call " + std::to_string(fault.call) + ", " + call.name + ' ' + call.text;
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Every file below a folder with its bytes, by its path from there, and every folder, whose name
+/// ends with "/".
+using Files = std::map<std::string, std::string>;
+
+Files FilesIn(const std::string& folder);
+
+/// Makes the folder hold these files and folders and nothing else.
+void PutFiles(const std::string& folder, const Files& files);
+
+/// Without what an unfinished write leaves, and with the copies that can be undone in the order of
+/// their contents, as their names tell the moment.
+Files Comparable(const Files& files);
+
+/// What a run of the program tells about itself, in memory that outlives the process.
+///
+/// The run is a forked child, which may end at any moment; the parent reads what it has written.
+class Record {
+  public:
+    enum class Kind : char {
+        Call = 'c',     ///< A call to the system, with the file.
+        Said = 's',     ///< A message or a line that the user sees, with the state of the files.
+        Report = 'r',   ///< The report that ended the run.
+        Content = 'f',  ///< What a file holds after something was renamed or removed.
+        Problem = 'p'   ///< What only a broken test can do.
+    };
+
+    struct Entry {
+        Kind kind;
+        std::string name;
+        std::string text;
+        bool operator==(const Entry&) const = default;
+    };
+
+    Record();
+    ~Record();
+    Record(const Record&) = delete;
+    Record& operator=(const Record&) = delete;
+
+    void Clear();
+    void Add(Kind kind, std::string_view name, std::string_view text = {});
+
+    std::vector<Entry> Entries(Kind kind) const;
+
+  private:
+    struct Memory;
+    Memory* memory_;
+};

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/faults/session.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+
+#include "entries/AppendShownLines.h"
+#include "platform/system/LocaleRegion.h"
+#include "platform/widgets/Grid.h"
+#include "platform/widgets/Lists.h"
+#include "tests/faults/system_calls.h"
+
+namespace {
+
+template <typename Control>
+Control& Find(const QObject& parent, const char* name) {
+    auto* control = parent.findChild<Control*>(QString::fromLatin1(name));
+    if (control == nullptr) throw std::runtime_error(std::string("no such control: ") + name);
+    return *control;
+}
+
+// All files in one text, to be compared with those of another run.
+std::string StateOf(const std::string& folder) {
+    const system_calls::Pause pause;
+    std::string state;
+    for (const auto& [name, bytes] : Comparable(FilesIn(folder))) {
+        state += name + '\n' + std::to_string(bytes.size()) + '\n' + bytes + '\n';
+    }
+    return state;
+}
+
+}  // namespace
+
+Session::Session(const QString& path, Record& record)
+    : folder(path),
+      record_(record),
+      path_(path.toStdString()),
+      random_([] { return std::uint64_t{1}; }),
+      messages_(*this),
+      services_{.seconds = [] { return 0.0; },
+                .today = [] { return std::chrono::year(2005) / 6 / 1; },
+                .random = random_,
+                .region = RegionOf(QLocale(QLocale::English, QLocale::UnitedKingdom)),
+                .messages = messages_,
+                .openPage = [](const QString&) {},
+                .saveLines = [this](Form* form, Grid& grid) { SaveLines(program_, form, grid); },
+                .printLines = {}},
+      program_{.state = state, .folder = folder, .services = services_} {
+    services_.fetchURL = [this](const QString& address) { return pages[address]; };
+    services_.chooseFolder = [this](QWidget*, const QString&) { return chosenPath; };
+    services_.openFolder = [](const QString& other) { return std::make_shared<DiskFolder>(other); };
+    services_.folderPath = path;
+    services_.printers = &printers_;
+    state.Crlf = "\r\n";
+}
+
+void Session::Start() {
+    window_ = std::make_unique<Quillon>(program_);
+    window_->Load();
+    window_->show();
+}
+
+void Session::Choose(const char* entry) {
+    auto* action = &Find<QAction>(*window_, entry);
+    bool done = false;
+    QTimer::singleShot(0, action, [action, &done] {
+        action->trigger();
+        done = true;
+    });
+    while (!done) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void Session::InForm(const char* entry, const char* form,
+                     const std::function<void(QDialog&)>& step) {
+    InForm([this, entry] { Choose(entry); }, form, step);
+}
+
+void Session::InForm(const std::function<void()>& open, const char* form,
+                     const std::function<void(QDialog&)>& step) {
+    bool driven = false;
+    QTimer driver;
+    driver.setInterval(0);
+    QObject::connect(&driver, &QTimer::timeout, &driver, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (driven || dialog == nullptr || dialog->objectName() != QLatin1String(form)) return;
+        driven = true;
+        driver.stop();
+        const QPointer<QDialog> guard(dialog);
+        step(*dialog);
+        if (guard && guard->isVisible()) {
+            record_.Add(Record::Kind::Problem, "a form stays open", form);
+            guard->done(0);
+        }
+    });
+    driver.start();
+    open();
+}
+
+void Session::Press(QWidget& form, const char* button) {
+    const QPointer<QWidget> guard(&form);
+    auto& pressed = Find<QAbstractButton>(form, button);
+    if (!pressed.isEnabled()) record_.Add(Record::Kind::Problem, "a button is disabled", button);
+    QTest::mouseClick(&pressed, Qt::LeftButton);
+    if (!guard || !guard->isVisible()) return;
+    const auto* said = form.findChild<QLabel*>(QStringLiteral("Said"));
+    if (said != nullptr && !said->text().isEmpty()) Said(said->text());
+}
+
+void Session::Fill(QWidget& form, const char* box, const char* text) {
+    Find<QLineEdit>(form, box).setText(QString::fromLatin1(text));
+}
+
+void Session::ChooseCell(QWidget& form, int row, int column) {
+    auto& grid = Find<Grid>(form, "MSFlexGrid1");
+    grid.ScrollToRow(row);
+    QApplication::processEvents();
+    const QModelIndex index = grid.model()->index(row - 1, column);
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      grid.visualRect(index).center());
+}
+
+void Session::ChooseLine(QWidget& form, const char* list, int line) {
+    Find<ListBox>(form, list).SetIndex(line);
+}
+
+void Session::Said(const QString& text) {
+    record_.Add(Record::Kind::Said, text.toStdString(), StateOf(path_));
+}
+
+Answer Session::Messages::Show(QWidget*, const Message& message) {
+    session_.Said(message.title % QLatin1Char('|') % message.text);
+    return message.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
+}
