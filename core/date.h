@@ -10,6 +10,9 @@
 
 using Date = std::chrono::year_month_day;
 
+/// A day and the time of that day, as the clock on the wall shows it.
+using Moment = std::chrono::local_seconds;
+
 /// The system's date conversion, or nothing where the text is no date.
 ///
 /// Reads "19 Nov 94", "19-Nov-1994", "November 19, 1994", ISO "1994-11-19" and numeric dates in the

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/failure.h"
+#include "core/old_files.h"
 #include "core/text.h"
 
 namespace {
@@ -15,7 +16,7 @@ Failure Refused(std::string_view name, std::string_view what) {
 }
 
 std::string FolderOf(std::string_view name) {
-    const std::size_t slash = name.find('/');
+    const std::size_t slash = name.rfind('/');
     return slash == std::string_view::npos ? std::string() : LowerCase(name.substr(0, slash));
 }
 
@@ -28,9 +29,18 @@ std::string MemoryFolder::Read(std::string_view name) const {
     return Stored(name).bytes;
 }
 
-void MemoryFolder::Write(std::string_view name, std::string_view bytes) {
+bool MemoryFolder::Create(std::string_view name, std::string_view bytes) {
+    Count(name);
+    if (Exists(name)) return false;
+    Store(name, std::string(bytes));
+    return true;
+}
+
+void MemoryFolder::Write(std::string_view name, std::string_view bytes) try {
     Count(name);
     Store(name, std::string(bytes));
+} catch (const Failure& failure) {
+    throw AfterRescue(*this, name, bytes, failure);
 }
 
 void MemoryFolder::Write(std::string_view name, std::string_view bytes, FileTime written) {
@@ -38,9 +48,11 @@ void MemoryFolder::Write(std::string_view name, std::string_view bytes, FileTime
     SetFileDate(name, std::chrono::floor<std::chrono::days>(written));
 }
 
-void MemoryFolder::Append(std::string_view name, std::string_view records) {
+void MemoryFolder::Append(std::string_view name, std::string_view records) try {
     Count(name);
     Store(name, Appended(Exists(name) ? Stored(name).bytes : std::string(), records));
+} catch (const Failure& failure) {
+    throw AfterRescue(*this, name, records, failure);
 }
 
 std::vector<std::string> MemoryFolder::Find(std::string_view pattern) const {
@@ -83,8 +95,16 @@ bool MemoryFolder::FolderExists(std::string_view name) const {
 
 void MemoryFolder::MakeFolder(std::string_view name) {
     Count(name);
+    const std::string outer = FolderOf(name);
+    if (!outer.empty() && !FolderExists(outer)) throw Refused(name, "there is no such folder.");
     if (!folders_.insert(LowerCase(name)).second)
         throw Refused(name, "there is such a folder already.");
+}
+
+std::string MemoryFolder::Rescue(std::string_view name, std::string_view bytes) {
+    if (!rescueOffered_) return {};
+    rescued_[std::string(name)] = bytes;
+    return "elsewhere/" + std::string(name);
 }
 
 void MemoryFolder::Lock(std::string_view name) {
@@ -99,8 +119,18 @@ void MemoryFolder::SetFileDate(std::string_view name, Date date) {
 
 std::map<std::string, std::string> MemoryFolder::Snapshot() const {
     std::map<std::string, std::string> picture;
-    for (const auto& [key, file] : files_) picture[file.name] = file.bytes;
+    for (const auto& [key, file] : files_) {
+        if (FolderOf(key) != LowerCase(undoFolder)) picture[file.name] = file.bytes;
+    }
     return picture;
+}
+
+std::map<std::string, std::string> MemoryFolder::OldFiles() const {
+    std::map<std::string, std::string> copies;
+    for (const auto& [key, file] : files_) {
+        if (FolderOf(key) == LowerCase(undoFolder)) copies[file.name] = file.bytes;
+    }
+    return copies;
 }
 
 void MemoryFolder::Count(std::string_view name) const {

@@ -16,6 +16,7 @@ class MemoryFolder final : public ProgramFolder {
   public:
     bool Exists(std::string_view name) const override;
     std::string Read(std::string_view name) const override;
+    bool Create(std::string_view name, std::string_view bytes) override;
     void Write(std::string_view name, std::string_view bytes) override;
     void Write(std::string_view name, std::string_view bytes, FileTime written) override;
     void Append(std::string_view name, std::string_view records) override;
@@ -26,6 +27,8 @@ class MemoryFolder final : public ProgramFolder {
     FileTime LastWritten(std::string_view name) const override;
     bool FolderExists(std::string_view name) const override;
     void MakeFolder(std::string_view name) override;
+    std::string Rescue(std::string_view name, std::string_view bytes) override;
+    Moment Now() const override { return now_; }
 
     /// Writing fails once this many more bytes have been written; nothing: it never fails. An
     /// append writes the old bytes too.
@@ -41,8 +44,21 @@ class MemoryFolder final : public ProgramFolder {
     /// Files that nobody dated are of 1 January 2000.
     void SetFileDate(std::string_view name, Date date);
 
-    /// Every file with its bytes, by name, as a picture to compare with a later one.
+    /// What the clock shows; midnight before 1 January 2000 where nobody sets it.
+    void SetNow(Moment now) { now_ = now; }
+
+    /// From now on what could not be written is rescued, to "elsewhere/" and its name.
+    void OfferRescue() { rescueOffered_ = true; }
+
+    /// What has been rescued, by the name of its file.
+    const std::map<std::string, std::string>& Rescued() const { return rescued_; }
+
+    /// Every file with its bytes, by name, as a picture to compare with a later one; without the
+    /// copies of old files.
     std::map<std::string, std::string> Snapshot() const;
+
+    /// The copies of old files, the oldest first.
+    std::map<std::string, std::string> OldFiles() const;
 
   private:
     struct File {
@@ -58,6 +74,9 @@ class MemoryFolder final : public ProgramFolder {
 
     std::map<std::string, File> files_;  // by lower-cased name
     std::set<std::string> folders_;      // lower-cased
+    std::map<std::string, std::string> rescued_;
+    bool rescueOffered_ = false;
+    Moment now_ = std::chrono::local_days(std::chrono::January / 1 / 2000);
     std::optional<std::size_t> bytesLeft_;
     mutable std::optional<std::size_t> operationsLeft_;
 };

@@ -28,6 +28,14 @@ bool NameMatches(std::string_view name, std::string_view pattern) {
     return wanted.find_first_not_of('*', i) == std::string::npos;
 }
 
+Failure AfterRescue(ProgramFolder& folder, std::string_view name, std::string_view bytes,
+                    const Failure& failure) {
+    const std::string path = folder.Rescue(name, bytes);
+    if (path.empty()) return failure;
+    return Failure(std::string(failure.what()) + " What was to be written is kept in " + path +
+                   ".");
+}
+
 std::string Appended(std::string_view oldBytes, std::string_view records) {
     std::string result(oldBytes);
     const bool lineOpen = !result.empty() && result.back() != '\n' && result.back() != '\r';

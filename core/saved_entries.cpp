@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/field_reader.h"
+#include "core/old_files.h"
 
 namespace {
 
@@ -44,5 +45,5 @@ void AppendEntries(ProgramFolder& folder, const std::vector<SavedEntry>& entries
 }
 
 void WriteEntries(ProgramFolder& folder, const std::vector<SavedEntry>& entries) {
-    folder.Write(savedEntriesFile, Records(entries));
+    WriteKeepingOld(folder, savedEntriesFile, Records(entries));
 }

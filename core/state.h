@@ -48,6 +48,9 @@ struct State {
     /// The current syndicate: row 0 itself with its manager, rows 1 to 100 its members.
     Table<std::string, 102, 11> Members{"syndicate members"};
 
+    /// What its file held when `Members` was last read from it or written to it.
+    std::string MembersOnDisk;
+
     /// Lottery definitions offered when a database is created.
     Table<std::string, 201, 7> Templates{"lottery templates"};
 

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/syndicate.h"
 
+#include <utility>
+
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/settings.h"
 
 namespace {
@@ -20,6 +23,7 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
     for (int row = 0; row <= lastMember; ++row) {
         for (int column = 0; column <= lastColumn; ++column) state.Members(row, column).clear();
     }
+    state.MembersOnDisk.clear();
     std::string& file = state.Settings(setting::SyndicateFile);
     if (file.empty()) return;
     if (!folder.Exists(file)) {
@@ -34,17 +38,25 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
             state.Members(row, column) = reader.ReadField(expected);
         }
     }
+    state.MembersOnDisk = content;
 }
 
-void SaveSyndicate(const State& state, ProgramFolder& folder) {
+bool SyndicateChangedOutside(const State& state, const ProgramFolder& folder) {
+    const std::string& file = state.Settings(setting::SyndicateFile);
+    if (file.empty()) return false;
+    return !folder.Exists(file) || folder.Read(file) != state.MembersOnDisk;
+}
+
+void SaveSyndicate(State& state, ProgramFolder& folder) {
     const std::string& file = state.Settings(setting::SyndicateFile);
     if (file.empty()) return;
     std::string content;
     for (int row = 0; row <= lastMember; ++row) {
         for (int column = 0; column <= lastColumn; ++column) {
-            content += (column == 0 ? "\"" : ",\"") + state.Members(row, column) + '"';
+            content += (column == 0 ? "\"" : ",\"") + View(state).Members(row, column) + '"';
         }
         content += "\r\n";
     }
-    folder.Write(file, content);
+    WriteKeepingOld(folder, file, content);
+    state.MembersOnDisk = std::move(content);
 }

@@ -35,6 +35,10 @@ int MemberCount(const State& state);
 /// the slot is emptied too. A file with fewer than 101 rows of eleven fields is a `Failure`.
 void LoadSyndicate(State& state, const ProgramFolder& folder);
 
-/// Writes `state.Members` to that file, all 101 rows, each field in double quotes. Without a name
-/// nothing is done.
-void SaveSyndicate(const State& state, ProgramFolder& folder);
+/// Whether the file no longer holds what was last read from it or written to it: somebody else has
+/// changed or deleted it, and what is shown is not what would be replaced.
+bool SyndicateChangedOutside(const State& state, const ProgramFolder& folder);
+
+/// Writes `state.Members` to that file, all 101 rows, each field in double quotes, and keeps the
+/// old one where a row of it changes. Without a name nothing is done.
+void SaveSyndicate(State& state, ProgramFolder& folder);

@@ -3,6 +3,7 @@
 
 #include <QPushButton>
 
+#include "core/old_files.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Commands.h"
@@ -25,6 +26,6 @@ void DeleteDbaseW::Act() {
                                         .discards = true});
     if (answer == Answer::No) return;
     state().DbaseFile = state().DbaseFiles(Lotteries().Index());
-    folder().Delete(state().DbaseFile);
+    DeleteKeepingOld(folder(), state().DbaseFile);
     Unload();
 }

@@ -11,6 +11,7 @@
 #include <limits>
 
 #include "core/failure.h"
+#include "core/old_files.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "platform/forms/FormLayout.h"
@@ -171,7 +172,7 @@ void DownloadForm::Replace(const Page& page, const std::string& bytes) {
     QCoreApplication::processEvents();
     const std::string source =
         std::string(downloadWorkFile) + " (" + FromQString(page.address) + ")";
-    folder().Write(page.database, page.convert(workText, source));
+    WriteKeepingOld(folder(), page.database, page.convert(workText, source));
     QCoreApplication::processEvents();
 }
 

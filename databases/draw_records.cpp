@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/text.h"
 
 namespace {
@@ -113,11 +114,12 @@ void InsertDraw(const State& state, ProgramFolder& folder, const DrawRecord& dra
     FieldReader reader(content, state.DbaseFile);
     std::string heading = HeadingLines(reader);
     // Nothing tells where a draw belongs; what the database held is safe in the work file.
-    if (reader.AtEnd()) folder.Write(state.DbaseFile, {});
+    if (reader.AtEnd()) WriteKeepingOld(folder, state.DbaseFile, {});
     folder.Write(state.DbaseFile, WithDraw(std::move(heading), reader, draw, rules));
 }
 
 void DeleteDraw(const State& state, ProgramFolder& folder, int draw) {
+    KeepOld(folder, state.DbaseFile);
     folder.Copy(state.DbaseFile, workFile);
     const Shortened rest = WithoutDraw(folder.Read(workFile), state.DbaseFile, draw);
     folder.Write(state.DbaseFile, rest.heading + rest.otherDraws);
@@ -126,6 +128,7 @@ void DeleteDraw(const State& state, ProgramFolder& folder, int draw) {
 void UpdateDraw(const State& state, ProgramFolder& folder, int draw, const DrawRecord& changed,
                 const DateRules& rules) {
     const Shortened rest = WithoutDraw(folder.Read(state.DbaseFile), state.DbaseFile, draw);
+    KeepOld(folder, state.DbaseFile);
     if (rest.otherDraws.empty()) {
         folder.Write(workFile, rest.heading + changed.text + "\r\n");
         folder.Copy(workFile, state.DbaseFile);

@@ -17,9 +17,15 @@ std::string CreateDatabase(ProgramFolder& folder, const NewLottery& lottery) {
     bytes += lottery.picks + "," + lottery.highest + ",1," + lottery.highestExtra + "," +
              (lottery.hasBonus ? "1" : "0") + "\r\n";
     bytes += MakeDrawRecord(lottery.firstDraw, lottery.numbers).text + "\r\n";
-    const std::string file = FirstFreeDatabase(folder);
-    folder.Write(file, bytes);
-    return file;
+    for (;;) {
+        const std::string file = FirstFreeDatabase(folder);
+        try {
+            // Another program may have taken the name meanwhile; then the next one is free.
+            if (folder.Create(file, bytes)) return file;
+        } catch (const Failure& failure) {
+            throw AfterRescue(folder, file, bytes, failure);
+        }
+    }
 }
 
 std::vector<std::string> LotteryNames(const ProgramFolder& folder) {

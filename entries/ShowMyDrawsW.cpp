@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/old_files.h"
 #include "core/text.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/GridEditor.h"
@@ -187,7 +188,7 @@ void ShowMyDrawsW::DeleteAllRows() {
                          tr("all of the lottery entries?    ");
     if (!Confirmed(text)) return;
     grid_->ClearCells();
-    if (folder().Exists(savedEntriesFile)) folder().Delete(savedEntriesFile);
+    if (folder().Exists(savedEntriesFile)) DeleteKeepingOld(folder(), savedEntriesFile);
     services().messages.Show(this, {.title = tr("Help"),
                                     .text = tr("All entries deleted. Nothing to show!  "),
                                     .sign = Sign::Information});
@@ -199,7 +200,7 @@ void ShowMyDrawsW::Save() {
     if (!entries.empty()) {
         WriteEntries(folder(), entries);
     } else if (folder().Exists(savedEntriesFile)) {
-        folder().Delete(savedEntriesFile);
+        DeleteKeepingOld(folder(), savedEntriesFile);
     }
     editor_->GoTo(1, 1);
     editor_->EditCell();

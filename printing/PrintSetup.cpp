@@ -10,6 +10,7 @@
 
 #include "core/draw_database.h"
 #include "core/failure.h"
+#include "core/old_files.h"
 #include "core/text.h"
 #include "platform/forms/GridEditor.h"
 #include "platform/forms/LotteryList.h"
@@ -211,7 +212,7 @@ void PrintSetup::DeleteTemplate() {
     if (answer == Answer::No) return;
     const std::string file = FromQString(files_->item(row)->text());
     try {
-        if (folder().Exists(file)) folder().Delete(file);
+        if (folder().Exists(file)) DeleteKeepingOld(folder(), file);
     } catch (const Failure& failure) {
         // Only here a file that cannot be deleted is told and gone on from.
         services().messages.Show(

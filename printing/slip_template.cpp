@@ -3,6 +3,7 @@
 
 #include "core/failure.h"
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/text.h"
 
 namespace {
@@ -142,7 +143,7 @@ void WriteSlipTemplate(ProgramFolder& folder, const std::string& file, const Sli
             bytes += slip.positions(number, column) + (column < extraY ? "," : "\r\n");
         }
     }
-    folder.Write(file, bytes);
+    WriteKeepingOld(folder, file, bytes);
 }
 
 std::string FirstFreeSlipTemplate(const ProgramFolder& folder) {

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include "core/draw_database.h"
+#include "core/old_files.h"
 #include "core/saved_entries.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
@@ -189,7 +190,7 @@ void Quillon::DeleteSavedEntries() {
                                                .buttons = Buttons::YesNo,
                                                .discards = true});
     if (answer != Answer::Yes) return;
-    program_.folder.Delete(savedEntriesFile);
+    DeleteKeepingOld(program_.folder, savedEntriesFile);
     area_->RenewWelcome();
 }
 

@@ -2,6 +2,7 @@
 #include "shell/notes_file.h"
 
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/text.h"
 
 Notes ReadNotes(const ProgramFolder& folder) {
@@ -17,5 +18,5 @@ Notes ReadNotes(const ProgramFolder& folder) {
 }
 
 void SaveNotes(ProgramFolder& folder, const Notes& notes) {
-    folder.Write(notesFile, NotesText(notes));
+    WriteKeepingOld(folder, notesFile, NotesText(notes));
 }

@@ -5,6 +5,7 @@
 #include <QStackedLayout>
 #include <utility>
 
+#include "core/old_files.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "platform/forms/GridEditor.h"
@@ -183,8 +184,8 @@ void SManager::Save() {
         return;
     }
     PutDetails(state(), details);
-    SaveSyndicate(view(), folder());
-    folder().Write(DiaryFile(), DiaryText(*diary_));
+    SaveSyndicate(state(), folder());
+    WriteKeepingOld(folder(), DiaryFile(), DiaryText(*diary_));
     Unload();
 }
 

@@ -101,7 +101,7 @@ void SMembers::Print() { services().printMembers(this); }
 
 void SMembers::Save() {
     const Hourglass hourglass;
-    SaveSyndicate(view(), folder());
+    SaveSyndicate(state(), folder());
     dirty_.Clear();
     services().messages.Show(this, {.title = tr("Lottery Quillon"),
                                     .text = tr("  Syndicate member list saved...  "),

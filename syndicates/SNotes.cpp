@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 
+#include "core/old_files.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
@@ -114,7 +115,7 @@ void SNotes::Save() {
 }
 
 void SNotes::Reset() {
-    if (folder().Exists(syndicateNotesFile)) folder().Delete(syndicateNotesFile);
+    if (folder().Exists(syndicateNotesFile)) DeleteKeepingOld(folder(), syndicateNotesFile);
     Unload();
 }
 

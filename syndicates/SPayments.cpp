@@ -90,7 +90,7 @@ void SPayments::Enter() {
 }
 
 void SPayments::Save() {
-    SaveSyndicate(view(), folder());
+    SaveSyndicate(state(), folder());
     dirty_.Clear();
     services().messages.Show(this, {.title = tr("Lottery Quillon"),
                                     .text = tr("  Member payments have been saved...  "),

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/settings.h"
 #include "core/text.h"
 
@@ -79,6 +80,6 @@ std::string DiaryFileOf(std::string_view syndicateFile) {
 
 void DeleteSyndicateFiles(ProgramFolder& folder, std::string_view syndicateFile) {
     for (const std::string& file : {std::string(syndicateFile), DiaryFileOf(syndicateFile)}) {
-        if (folder.Exists(file)) folder.Delete(file);
+        if (folder.Exists(file)) DeleteKeepingOld(folder, file);
     }
 }

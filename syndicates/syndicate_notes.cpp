@@ -2,6 +2,7 @@
 #include "syndicates/syndicate_notes.h"
 
 #include "core/field_reader.h"
+#include "core/old_files.h"
 #include "core/text.h"
 
 Notes ReadSyndicateNotes(const ProgramFolder& folder) {
@@ -17,5 +18,5 @@ Notes ReadSyndicateNotes(const ProgramFolder& folder) {
 }
 
 void SaveSyndicateNotes(ProgramFolder& folder, const Notes& notes) {
-    folder.Write(syndicateNotesFile, NotesText(notes));
+    WriteKeepingOld(folder, syndicateNotesFile, NotesText(notes));
 }

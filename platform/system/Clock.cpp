@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/Clock.h"
 
-#include <QDate>
+#include <QDateTime>
 #include <chrono>
 
 #include "platform/system/LocaleRegion.h"
@@ -12,6 +12,12 @@ double MonotonicSeconds() {
 }
 
 Date Today() { return FromQDate(QDate::currentDate()); }
+
+Moment LocalNow() {
+    const QDateTime now = QDateTime::currentDateTime();
+    return std::chrono::local_days(FromQDate(now.date())) +
+           std::chrono::seconds(now.time().msecsSinceStartOfDay() / 1000);
+}
 
 std::uint64_t SeedOfTheMoment() {
     // The clock of the day keeps two starts of the computer apart, the steady one two calls.

@@ -11,5 +11,8 @@ double MonotonicSeconds();
 /// The calendar day where the computer stands.
 Date Today();
 
+/// The day and the time of that day where the computer stands.
+Moment LocalNow();
+
 /// A seed that differs from one call to the next.
 std::uint64_t SeedOfTheMoment();

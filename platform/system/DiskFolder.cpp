@@ -7,8 +7,10 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/failure.h"
+#include "core/old_files.h"
 #include "core/text.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/TextConversion.h"
@@ -16,14 +18,14 @@
 
 namespace {
 
-// A name as the core gives it: bare, or with one folder in front.
+// A name as the core gives it: bare, or with folders in front.
 struct NameParts {
     std::string_view folder;
     std::string_view file;
 };
 
 NameParts PartsOf(std::string_view name) {
-    const std::size_t slash = name.find('/');
+    const std::size_t slash = name.rfind('/');
     if (slash == std::string_view::npos) return {{}, name};
     return {name.substr(0, slash), name.substr(slash + 1)};
 }
@@ -36,9 +38,12 @@ bool IsPlain(std::string_view name) {
 
 // Whether the name stays within the program's folder.
 bool IsWithin(std::string_view name) {
-    const NameParts parts = PartsOf(name);
-    if (!IsPlain(parts.file)) return false;
-    return parts.folder.empty() ? name.front() != '/' : IsPlain(parts.folder);
+    for (std::size_t slash = name.find('/'); slash != std::string_view::npos;
+         slash = name.find('/')) {
+        if (!IsPlain(name.substr(0, slash))) return false;
+        name.remove_prefix(slash + 1);
+    }
+    return IsPlain(name);
 }
 
 // Does what is told, and says of which file it could not be done and why.
@@ -78,9 +83,16 @@ std::string EntryPath(const std::string& folder, std::string_view name) {
     return spelled;
 }
 
+// The path of what lies below a folder, be it in folders of its own.
+std::string PathBelow(const std::string& root, std::string_view name) {
+    if (name.empty()) return root;
+    const NameParts parts = PartsOf(name);
+    return EntryPath(PathBelow(root, parts.folder), parts.file);
+}
+
 std::vector<std::string> FilesLike(const std::string& root, std::string_view pattern) {
     const NameParts parts = PartsOf(pattern);
-    const std::string folder = parts.folder.empty() ? root : EntryPath(root, parts.folder);
+    const std::string folder = PathBelow(root, parts.folder);
     std::vector<std::string> found;
     if (!IsDirectory(folder)) return found;
     for (const auto& [name, onDisk] : TellableNames(folder)) {
@@ -105,6 +117,7 @@ timespec ToTimespec(FileTime time) {
 }
 
 void ClearUnfinishedFiles(const std::string& folder) {
+    if (!IsDirectory(folder)) return;
     for (const std::string& name : NamesIn(folder)) {
         if (IsUnfinishedFile(name)) RemoveUnfinishedFile(folder + '/' + name);
     }
@@ -112,30 +125,48 @@ void ClearUnfinishedFiles(const std::string& folder) {
 
 }  // namespace
 
-DiskFolder::DiskFolder(const QString& path) : path_(path) {
-    Try(FromQString(path), "opened", [&] { ClearUnfinishedFiles(BytesOnDisk(path)); });
+DiskFolder::DiskFolder(const QString& path, Surroundings surroundings)
+    : path_(path), surroundings_(std::move(surroundings)) {
+    const std::string root = BytesOnDisk(path);
+    Try(FromQString(path), "opened", [&root] { NamesIn(root); });
+    for (const char* folder : {"", "Backup", "Backup/Undo"}) {
+        Try(FromQString(path) + '/' + folder, "opened",
+            [&] { ClearUnfinishedFiles(PathBelow(root, folder)); });
+    }
 }
 
 std::string DiskFolder::PathOf(std::string_view name) const {
     if (!IsWithin(name))
         throw Failure(Quoted(name) + " is no name of a file in the program's folder.");
-    const NameParts parts = PartsOf(name);
-    const std::string root = BytesOnDisk(path_);
-    return EntryPath(parts.folder.empty() ? root : EntryPath(root, parts.folder), parts.file);
+    return PathBelow(BytesOnDisk(path_), name);
+}
+
+void DiskFolder::RequireFolder() const {
+    if (!IsDirectory(BytesOnDisk(path_)))
+        throw FileError{"the program's folder " + FromQString(path_) + " is gone"};
 }
 
 bool DiskFolder::Exists(std::string_view name) const {
     if (!IsWithin(name)) return false;
-    const Entry entry = Try(name, "looked for", [&] { return EntryAt(PathOf(name)); });
-    return entry != Entry::None && entry != Entry::Folder;
+    return Try(name, "looked for", [&] {
+        const Entry entry = EntryAt(PathOf(name));
+        if (entry == Entry::None) RequireFolder();
+        return entry != Entry::None && entry != Entry::Folder;
+    });
 }
 
 std::string DiskFolder::Read(std::string_view name) const {
     return Try(name, "read", [&] { return ReadWholeFile(PathOf(name)); });
 }
 
-void DiskFolder::Write(std::string_view name, std::string_view bytes) {
+bool DiskFolder::Create(std::string_view name, std::string_view bytes) {
+    return Try(name, "written", [&] { return CreateFileSafely(PathOf(name), bytes); });
+}
+
+void DiskFolder::Write(std::string_view name, std::string_view bytes) try {
     Try(name, "written", [&] { WriteFileSafely(PathOf(name), bytes); });
+} catch (const Failure& failure) {
+    throw AfterRescue(*this, name, bytes, failure);
 }
 
 void DiskFolder::Write(std::string_view name, std::string_view bytes, FileTime written) {
@@ -143,11 +174,20 @@ void DiskFolder::Write(std::string_view name, std::string_view bytes, FileTime w
 }
 
 void DiskFolder::Append(std::string_view name, std::string_view records) {
-    Write(name, Appended(Exists(name) ? Read(name) : std::string(), records));
+    std::string bytes;
+    try {
+        bytes = Appended(Exists(name) ? Read(name) : std::string(), records);
+    } catch (const Failure& failure) {
+        throw AfterRescue(*this, name, records, failure);
+    }
+    Write(name, bytes);
 }
 
 std::vector<std::string> DiskFolder::Find(std::string_view pattern) const {
-    return Try(pattern, "looked for", [&] { return FilesLike(BytesOnDisk(path_), pattern); });
+    return Try(pattern, "looked for", [&] {
+        RequireFolder();
+        return FilesLike(BytesOnDisk(path_), pattern);
+    });
 }
 
 void DiskFolder::Copy(std::string_view from, std::string_view to) {
@@ -173,11 +213,33 @@ FileTime DiskFolder::LastWritten(std::string_view name) const {
 }
 
 bool DiskFolder::FolderExists(std::string_view name) const {
-    return IsWithin(name) && Try(name, "looked for", [&] { return IsDirectory(PathOf(name)); });
+    if (!IsWithin(name)) return false;
+    return Try(name, "looked for", [&] {
+        RequireFolder();
+        return IsDirectory(PathOf(name));
+    });
 }
 
 void DiskFolder::MakeFolder(std::string_view name) {
     Try(name, "made", [&] { MakeDirectory(PathOf(name)); });
+}
+
+std::string DiskFolder::Rescue(std::string_view name, std::string_view bytes) {
+    constexpr mode_t ownersAlone = 0600;
+    const std::string_view bare = PartsOf(name).file;
+    for (const QString& place : surroundings_.rescuePlaces) {
+        try {
+            QDir().mkpath(place.left(place.lastIndexOf(QLatin1Char('/'))));
+            for (int count = 1;; ++count) {
+                const QString path = place + ToQString(StampedName(Now(), count, bare));
+                if (CreateFileSafely(BytesOnDisk(path), bytes, ownersAlone))
+                    return FromQString(path);
+            }
+        } catch (const FileError&) {
+            // The next place is tried.
+        }
+    }
+    return {};
 }
 
 QString ProgramFolderPath(const QString& executableFolder, const QString& userDataFolder) {
@@ -190,7 +252,7 @@ QString ProgramFolderPath(const QString& executableFolder, const QString& userDa
     const DiskFolder supplied(shared);
     DiskFolder own(userDataFolder);
     for (const std::string& name : supplied.Find("*")) {
-        if (!own.Exists(name)) own.Write(name, supplied.Read(name));
+        if (!own.Exists(name)) static_cast<void>(own.Create(name, supplied.Read(name)));
     }
     return userDataFolder;
 }

@@ -10,6 +10,7 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <cstdio>
 #include <cstring>
 #include <memory>
 #include <utility>
@@ -43,14 +44,17 @@ std::optional<mode_t> ModeAt(const std::string& path, Look look) {
 // An open file, closed at the latest when it goes.
 class Descriptor {
   public:
-    Descriptor(const std::string& path, int flags, mode_t mode = 0)
-        : number_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+    Descriptor() = default;
+    Descriptor(const std::string& path, int flags) { Open(path, flags); }
     ~Descriptor() {
         if (IsOpen()) ::close(number_);
     }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
+    void Open(const std::string& path, int flags, mode_t mode = 0) {
+        number_ = ::open(path.c_str(), flags | O_CLOEXEC, mode);
+    }
     bool IsOpen() const { return number_ != -1; }
     int Number() const { return number_; }
     void Close() { Check(::close(std::exchange(number_, -1))); }
@@ -62,7 +66,7 @@ class Descriptor {
     }
 
   private:
-    int number_;
+    int number_ = -1;
 };
 
 std::string FolderOf(const std::string& path) {
@@ -116,20 +120,43 @@ class Folder : public Descriptor {
     }
 };
 
-// Where the new contents of a file are written; nothing is left there by an earlier run.
-std::string UnfinishedPath(const std::string& target) {
-    std::string path = FolderOf(target) + std::string(unfinishedPrefix) +
-                       std::to_string(::getpid()) + std::string(unfinishedSuffix);
-    RemoveUnfinishedFile(path);
-    return path;
+// What a disk answers to what it does not know how to do.
+bool IsUnknown(int error) {
+    return error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM;
 }
 
-// A new file beside another, removed unless it takes its place.
+// Moves a file to a name that must be free, in one step where the disk knows how: either it renames
+// so, or it gives the file a second name.
+bool MoveToFreeName(const std::string& from, const std::string& to) {
+    const int renamed =
+        ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+    if (renamed == 0) return true;
+    if (errno == EEXIST) return false;
+    if (!IsUnknown(errno)) Fail(errno);
+    if (::link(from.c_str(), to.c_str()) == 0) {
+        ::unlink(from.c_str());
+        return true;
+    }
+    if (errno == EEXIST) return false;
+    if (!IsUnknown(errno)) Fail(errno);
+    if (HasEntry(to)) return false;
+    Check(::rename(from.c_str(), to.c_str()));
+    return true;
+}
+
+// A new file beside another, removed unless it takes its place. Its name is one that nothing bears
+// yet, so what an earlier run or somebody else has put there is not in the way.
 class UnfinishedFile {
   public:
-    explicit UnfinishedFile(const std::string& target)
-        : path_(UnfinishedPath(target)), file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
-        if (!file_.IsOpen()) Fail(errno);
+    explicit UnfinishedFile(const std::string& target, mode_t permissions = 0666) {
+        constexpr int mostNames = 1000;
+        const std::string start =
+            FolderOf(target) + std::string(unfinishedPrefix) + std::to_string(::getpid()) + '-';
+        for (int number = 0; !file_.IsOpen(); ++number) {
+            path_ = start + std::to_string(number) + std::string(unfinishedSuffix);
+            file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, permissions);
+            if (!file_.IsOpen() && (errno != EEXIST || number == mostNames)) Fail(errno);
+        }
         // Held while the file is written, so that no other run of the program clears it away.
         ::flock(file_.Number(), LOCK_EX | LOCK_NB);
     }
@@ -142,13 +169,24 @@ class UnfinishedFile {
     int Number() const { return file_.Number(); }
 
     void TakePlaceOf(const std::string& target) {
-        Check(::fsync(file_.Number()));
-        file_.Close();
+        Complete();
         Check(::rename(path_.c_str(), target.c_str()));
         finished_ = true;
     }
 
+    // Whether nothing was there of that name.
+    bool TakeFreePlace(const std::string& target) {
+        Complete();
+        finished_ = MoveToFreeName(path_, target);
+        return finished_;
+    }
+
   private:
+    void Complete() {
+        Check(::fsync(file_.Number()));
+        file_.Close();
+    }
+
     std::string path_;
     Descriptor file_;
     bool finished_ = false;
@@ -201,6 +239,19 @@ void WriteFileSafely(const std::string& path, std::string_view bytes,
     Flush(folder);
 }
 
+bool CreateFileSafely(const std::string& path, std::string_view bytes, mode_t permissions) {
+    const std::string target = LinkTarget(path);
+    const Folder folder(target);
+    UnfinishedFile file(target, permissions);
+    WriteAll(file.Number(), bytes);
+    if (!file.TakeFreePlace(target)) {
+        if (EntryAt(target) == Entry::Folder) Fail(EISDIR);
+        return false;
+    }
+    Flush(folder);
+    return true;
+}
+
 std::vector<std::string> NamesIn(const std::string& folder) {
     const auto close = [](DIR* opened) { ::closedir(opened); };
     const std::unique_ptr<DIR, decltype(close)> directory(::opendir(folder.c_str()), close);
@@ -246,5 +297,7 @@ bool IsUnfinishedFile(std::string_view fileName) {
 
 void RemoveUnfinishedFile(const std::string& path) {
     const Descriptor file(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
-    if (file.IsOpen() && ::flock(file.Number(), LOCK_EX | LOCK_NB) == 0) ::unlink(path.c_str());
+    const bool beingWritten = file.IsOpen() && ::flock(file.Number(), LOCK_EX | LOCK_NB) == -1;
+    if (beingWritten && errno == EWOULDBLOCK) return;
+    if (::unlink(path.c_str()) == -1 && errno == EISDIR) ::rmdir(path.c_str());
 }

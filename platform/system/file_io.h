@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <sys/types.h>
+
 #include <ctime>
 #include <optional>
 #include <string>
@@ -33,6 +35,11 @@ std::string ReadWholeFile(const std::string& path);
 void WriteFileSafely(const std::string& path, std::string_view bytes,
                      std::optional<timespec> modified = {});
 
+/// Makes a file that is not there yet, as safely. Where there is a file of that name, be it for the
+/// shortest time, it stays and the answer is no; a folder of that name is a failure. A link that
+/// leads nowhere is followed.
+bool CreateFileSafely(const std::string& path, std::string_view bytes, mode_t permissions = 0666);
+
 /// The names of all that lies in a folder, in no particular order.
 std::vector<std::string> NamesIn(const std::string& folder);
 
@@ -49,5 +56,6 @@ void MakeDirectory(const std::string& path);
 /// Whether a file of that name is one of `WriteFileSafely` that was never finished.
 bool IsUnfinishedFile(std::string_view fileName);
 
-/// Removes an unfinished file, unless another run of the program is just writing it.
+/// Removes what bears the name of an unfinished file, unless another run of the program is just
+/// writing it: a file, a link, an empty folder. What cannot be removed stays, and bars nothing.
 void RemoveUnfinishedFile(const std::string& path);

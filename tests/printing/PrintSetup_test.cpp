@@ -66,6 +66,7 @@ class ReadOnlyFolder final : public ProgramFolder {
 
     bool Exists(std::string_view name) const override { return folder_.Exists(name); }
     std::string Read(std::string_view name) const override { return folder_.Read(name); }
+    bool Create(std::string_view name, std::string_view) override { Refuse(name); }
     void Write(std::string_view name, std::string_view) override { Refuse(name); }
     void Write(std::string_view name, std::string_view, FileTime) override { Refuse(name); }
     void Append(std::string_view name, std::string_view) override { Refuse(name); }
@@ -78,6 +79,8 @@ class ReadOnlyFolder final : public ProgramFolder {
     FileTime LastWritten(std::string_view name) const override { return folder_.LastWritten(name); }
     bool FolderExists(std::string_view name) const override { return folder_.FolderExists(name); }
     void MakeFolder(std::string_view name) override { Refuse(name); }
+    std::string Rescue(std::string_view, std::string_view) override { return {}; }
+    Moment Now() const override { return folder_.Now(); }
 
   private:
     [[noreturn]] static void Refuse(std::string_view name) {
@@ -619,9 +622,11 @@ TEST_F(SettingUpSlips, AnErrorOfTheDeletionIsToldAndTheTemplateStays) {
     form_->Load();
     form_->show();
     test_.messages.Expect(Deleting("Slip"), Answer::Yes);
-    test_.messages.Expect({.title = QStringLiteral("Error!"),
-                           .text = QStringLiteral("PTemplate.000: the folder is read-only."),
-                           .sign = Sign::Exclamation});
+    test_.messages.Expect(
+        {.title = QStringLiteral("Error!"),
+         .text = QStringLiteral("PTemplate.000 is left as it is, as no copy of it can be kept: "
+                                "Backup: the folder is read-only."),
+         .sign = Sign::Exclamation});
     Click(*form_, deleteButton);
     EXPECT_EQ(Entries(templateList), QStringList{QStringLiteral("Slip")});
     EXPECT_TRUE(NoPositions());

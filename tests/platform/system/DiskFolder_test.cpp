@@ -312,7 +312,7 @@ TEST_F(OnDisk, FailsForAFileLargerThanAnyOfTheProgram) {
 
 TEST_F(OnDisk, FailsForANameOutsideTheFolder) {
     for (const char* name :
-         {"", ".", "..", "../a.txt", "/etc/hostname", "a/b/c.txt", "Backup/", "/a"}) {
+         {"", ".", "..", "../a.txt", "/etc/hostname", "a/../c.txt", "a//c.txt", "Backup/", "/a"}) {
         EXPECT_FALSE(folder_.Exists(name)) << name;
         EXPECT_FALSE(folder_.FolderExists(name)) << name;
         EXPECT_EQ(FailureOf([&] { folder_.Read(name); }),
@@ -450,10 +450,185 @@ TEST_F(OnDisk, LeavesWhatAnotherRunIsJustWriting) {
     close(other);
 }
 
-TEST_F(OnDisk, WritesOverWhatAnEarlierRunOfItsNumberLeft) {
-    Put(path_ / (".quillon-" + std::to_string(getpid()) + ".tmp"), "half, and longer than the new");
+TEST_F(OnDisk, SavesWhateverStandsWhereItWouldWrite) {
+    const std::string start = ".quillon-" + std::to_string(getpid()) + "-";
+    Put(path_ / (start + "0.tmp"), "half, and longer than the new");
+    fs::create_symlink("victim.txt", path_ / (start + "1.tmp"));
+    fs::create_directory(path_ / (start + "2.tmp"));
     folder_.Write("a.txt", "new");
-    EXPECT_EQ(Snapshot(), (Files{{"a.txt", "new"}}));
+    EXPECT_EQ(folder_.Read("a.txt"), "new");
+    EXPECT_FALSE(fs::exists(path_ / "victim.txt"));
+}
+
+TEST_F(OnDisk, ClearsWhateverBearsTheNameOfAnUnfinishedFile) {
+    fs::create_directories(path_ / "Backup" / "Undo");
+    Put(path_ / ".quillon-1.tmp", "half");
+    fs::create_symlink("a.txt", path_ / ".quillon-2.tmp");
+    fs::create_symlink("nowhere", path_ / ".quillon-3.tmp");
+    fs::create_directory(path_ / ".quillon-4.tmp");
+    ASSERT_EQ(mkfifo((path_ / ".quillon-5.tmp").c_str(), 0600), 0);
+    Put(path_ / "Backup" / ".quillon-6.tmp", "half");
+    Put(path_ / "Backup" / "Undo" / ".quillon-7.tmp", "half");
+    Put(path_ / "a.txt", "x");
+    const DiskFolder reopened(place_.path());
+    EXPECT_EQ(Snapshot(), (Files{{"a.txt", "x"}}));
+    EXPECT_EQ(std::distance(fs::directory_iterator(path_), {}), 2);
+}
+
+TEST_F(OnDisk, LeavesAFolderWithFilesThatBearsSuchAName) {
+    fs::create_directory(path_ / ".quillon-1.tmp");
+    Put(path_ / ".quillon-1.tmp" / "mine.txt", "x");
+    const DiskFolder reopened(place_.path());
+    EXPECT_EQ(Snapshot(), (Files{{".quillon-1.tmp/mine.txt", "x"}}));
+}
+
+TEST_F(OnDisk, MakesANewFile) {
+    EXPECT_TRUE(folder_.Create("dbase1.txt", "new"));
+    EXPECT_EQ(Snapshot(), (Files{{"dbase1.txt", "new"}}));
+}
+
+TEST_F(OnDisk, MakesNoNewFileInPlaceOfAnother) {
+    Put(path_ / "DBASE1.TXT", "old");
+    EXPECT_FALSE(folder_.Create("dbase1.txt", "new"));
+    EXPECT_EQ(Snapshot(), (Files{{"DBASE1.TXT", "old"}}));
+    fs::create_directory(path_ / "dbase2.txt");
+    EXPECT_EQ(FailureOf([&] { static_cast<void>(folder_.Create("dbase2.txt", "new")); }),
+              "dbase2.txt could not be written: Is a directory.");
+    EXPECT_TRUE(fs::is_empty(path_ / "dbase2.txt"));
+}
+
+TEST_F(OnDisk, MakesNoNewFileThatDoesNotFitOnTheDisk) {
+    const FullDisk full(2);
+    EXPECT_EQ(FailureOf([&] { static_cast<void>(folder_.Create("dbase1.txt", "new")); }),
+              "dbase1.txt could not be written: File too large.");
+    EXPECT_TRUE(Snapshot().empty());
+}
+
+TEST_F(OnDisk, KeepsCopiesInAFolderWithinBackup) {
+    folder_.MakeFolder("backup");
+    folder_.MakeFolder("Backup/Undo");
+    EXPECT_TRUE(folder_.FolderExists("BACKUP/UNDO"));
+    EXPECT_TRUE(folder_.Create("Backup/Undo/a.txt", "x"));
+    EXPECT_EQ(folder_.Find("Backup/Undo/*"), Names{"Backup/Undo/a.txt"});
+    EXPECT_TRUE(folder_.Find("Backup/*").empty());
+    EXPECT_EQ(Snapshot(), (Files{{"backup/Undo/a.txt", "x"}}));
+    for (const char* outside : {"Backup/../../a.txt", "/a.txt", "Backup//a.txt", "Backup/"}) {
+        EXPECT_FALSE(folder_.Exists(outside)) << outside;
+        EXPECT_TRUE(FailureOf([&] { folder_.Write(outside, "x"); }).ends_with("folder."));
+    }
+}
+
+TEST_F(OnDisk, SaysWhereTheProgramsFolderIsGone) {
+    folder_.Write("MyLottery.txt", "x");
+    const fs::path elsewhere = path_.string() + " moved";
+    fs::rename(path_, elsewhere);
+    const std::string reason = " could not be looked for: the program's folder " +
+                               FromQString(place_.path()) + " is gone.";
+    EXPECT_EQ(FailureOf([&] { folder_.Exists("MyLottery.txt"); }), "MyLottery.txt" + reason);
+    EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }), "dbase*.txt" + reason);
+    EXPECT_EQ(FailureOf([&] { folder_.FolderExists("Backup"); }), "Backup" + reason);
+    fs::rename(elsewhere, path_);
+    EXPECT_TRUE(folder_.Exists("MyLottery.txt"));
+}
+
+TEST_F(OnDisk, SaysWhereTheProgramsFolderIsLocked) {
+    folder_.Write("MyLottery.txt", "x");
+    fs::permissions(path_, fs::perms::none);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(FailureOf([&] { folder_.Exists("MyLottery.txt"); }),
+                  "MyLottery.txt could not be looked for: Permission denied.");
+        EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }),
+                  "dbase*.txt could not be looked for: Permission denied.");
+    }
+    fs::permissions(path_, fs::perms::owner_all);
+}
+
+TEST_F(OnDisk, TakesAFolderThatCannotBeListedForNoEmptyOne) {
+    folder_.Write("dbase1.txt", "x");
+    fs::permissions(path_, fs::perms(0311));
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }),
+                  "dbase*.txt could not be looked for: Permission denied.");
+    }
+    fs::permissions(path_, fs::perms::owner_all);
+}
+
+namespace {
+
+class Rescuing : public OnDisk {
+  protected:
+    fs::path first_ = path_ / "home" / "Rescued";
+    fs::path second_ = path_ / "tmp";
+    DiskFolder rescuing_{MakeProgramFolder(),
+                         {.now =
+                              [] {
+                                  return std::chrono::local_days(std::chrono::June / 1 / 2005) +
+                                         std::chrono::seconds(34215);
+                              },
+                          .rescuePlaces = {QString::fromStdString(first_) + QLatin1Char('/'),
+                                           QString::fromStdString(second_ / "rescued ")}}};
+
+    QString MakeProgramFolder() const {
+        fs::create_directory(path_ / "program");
+        return QString::fromStdString(path_ / "program");
+    }
+
+    void BarTheFile() { fs::create_directory(path_ / "program" / "a.txt"); }
+};
+
+}  // namespace
+
+TEST_F(Rescuing, PutsWhatCouldNotBeWrittenIntoAnotherPlaceAndNamesIt) {
+    BarTheFile();
+    const std::string path = first_ / "2005-06-01 093015 a.txt";
+    EXPECT_EQ(FailureOf([&] { rescuing_.Write("a.txt", "typed"); }),
+              "a.txt could not be written: Is a directory. What was to be written is kept in " +
+                  path + ".");
+    EXPECT_EQ(BytesOf(path), "typed");
+    EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST_F(Rescuing, NeverReplacesWhatWasRescuedBefore) {
+    BarTheFile();
+    FailureOf([&] { rescuing_.Write("a.txt", "first"); });
+    FailureOf([&] { rescuing_.Write("a.txt", "second"); });
+    EXPECT_EQ(BytesOf(first_ / "2005-06-01 093015 a.txt"), "first");
+    EXPECT_EQ(BytesOf(first_ / "2005-06-01 093015-002 a.txt"), "second");
+}
+
+TEST_F(Rescuing, TakesTheNextPlaceWhereOneDoesNotTakeIt) {
+    BarTheFile();
+    Put(path_ / "home", "a file");
+    EXPECT_TRUE(FailureOf([&] {
+                    rescuing_.Append("a.txt", "typed");
+                }).ends_with("/tmp/rescued 2005-06-01 093015 a.txt."));
+    EXPECT_EQ(BytesOf(second_ / "rescued 2005-06-01 093015 a.txt"), "typed");
+}
+
+TEST_F(Rescuing, SaysNothingOfAPlaceWhereNoneTakesIt) {
+    BarTheFile();
+    Put(path_ / "home", "a file");
+    Put(path_ / "tmp", "a file");
+    EXPECT_EQ(FailureOf([&] { rescuing_.Write("a.txt", "typed"); }),
+              "a.txt could not be written: Is a directory.");
+}
+
+TEST_F(Rescuing, RescuesTheWholeFileThatAnAppendWouldMake) {
+    rescuing_.Write("b.txt", "old\r\n");
+    fs::permissions(path_ / "program" / "b.txt", fs::perms(0666));
+    fs::permissions(path_ / "program", fs::perms(0555));
+    fs::create_directories(first_);
+    fs::permissions(first_, fs::perms::all);
+    fs::permissions(path_, fs::perms::all);
+    fs::permissions(path_ / "home", fs::perms::all);
+    {
+        const OrdinaryUser user;
+        FailureOf([&] { rescuing_.Append("b.txt", "new\r\n"); });
+    }
+    EXPECT_EQ(BytesOf(first_ / "2005-06-01 093015 b.txt"), "old\r\nnew\r\n");
+    fs::permissions(path_ / "program", fs::perms::owner_all);
 }
 
 TEST(DiskFolderAt, FailsForAFolderThatIsNotThere) {
