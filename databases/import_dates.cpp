@@ -1,0 +1,260 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/import_dates.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <tuple>
+#include <utility>
+
+#include "core/text.h"
+#include "databases/import_characters.h"
+
+namespace {
+
+using Form = WrittenDate::Form;
+
+// Twelve a language, January first, without accents.
+constexpr std::string_view monthNames =
+    "january february march april may june july august september october november december "
+    "januar februar marz april mai juni juli august september oktober november dezember "
+    "janvier fevrier mars avril mai juin juillet aout septembre octobre novembre decembre "
+    "enero febrero marzo abril mayo junio julio agosto septiembre octubre noviembre diciembre "
+    "gennaio febbraio marzo aprile maggio giugno luglio agosto settembre ottobre novembre dicembre "
+    "janeiro fevereiro marco abril maio junho julho agosto setembro outubro novembro dezembro "
+    "januari februari maart april mei juni juli augustus september oktober november december "
+    "januari februari mars april maj juni juli augusti september oktober november december "
+    "janner feber mrt april maj juni juli aug setiembre okt nov desember";
+
+// Seven a language, Sunday first. Those of two letters stand for themselves alone.
+constexpr std::string_view weekdayNames =
+    "sunday monday tuesday wednesday thursday friday saturday "
+    "sonntag montag dienstag mittwoch donnerstag freitag samstag "
+    "so mo di mi do fr sa "
+    "dimanche lundi mardi mercredi jeudi vendredi samedi "
+    "domingo lunes martes miercoles jueves viernes sabado "
+    "domenica lunedi martedi mercoledi giovedi venerdi sabato "
+    "domingo segunda terca quarta quinta sexta sabado "
+    "zondag maandag dinsdag woensdag donderdag vrijdag zaterdag "
+    "sondag mandag tirsdag onsdag torsdag fredag lordag "
+    "sunday monday tisdag onsdag thurs friday sonnabend "
+    "su mo tu we th fr sa "
+    "zo ma di wo do vr za "
+    "di lu ma me je ve sa "
+    "do lu ma mi ju vi sa";
+
+constexpr std::string_view fillers = " de del of the le den der am on d t z st nd rd th er ";
+
+template <typename Action>
+void ForEachName(std::string_view names, Action action) {
+    for (int index = 0; !names.empty(); ++index) {
+        const std::size_t end = std::min(names.find(' '), names.size());
+        action(std::string(names.substr(0, end)), index);
+        names.remove_prefix(std::min(end + 1, names.size()));
+    }
+}
+
+std::string_view DigitsAt(std::string_view text) {
+    std::size_t end = 0;
+    while (end < text.size() && IsDigitByte(text[end])) ++end;
+    return text.substr(0, end);
+}
+
+// A time of day ends what is looked at, and so does the "T" of ISO in front of it.
+std::string_view WithoutTime(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos) return text;
+    std::size_t end = colon;
+    while (end > 0 && IsDigitByte(text[end - 1])) --end;
+    return text.substr(0, end);
+}
+
+bool IsYear(int number) { return number >= 1900 && number <= 2100; }
+
+}  // namespace
+
+/// What stands in a date text.
+struct DateReader::Pieces {
+    struct Number {
+        int value = 0;
+        std::size_t digits = 0;
+    };
+    std::array<Number, 3> numbers;
+    std::size_t count = 0;
+    int month = 0;
+    int weekday = 0;
+    bool monthMayBeWeekday = false;
+    bool signs = false;  // "/", "-" or "." between numbers
+};
+
+DateReader::DateReader(const DateRules& rules)
+    : lastYear_(static_cast<int>(rules.today.year()) + 20) {
+    ForEachName(monthNames, [this](std::string name, int index) {
+        names_.push_back({std::move(name), {.month = index % 12 + 1, .weekday = 0}});
+    });
+    ForEachName(weekdayNames, [this](std::string name, int index) {
+        names_.push_back({std::move(name), {.month = 0, .weekday = index % 7 + 1}});
+    });
+    for (std::size_t month = 0; month < 12; ++month) {
+        for (const std::string* name :
+             {&rules.region.monthNames[month], &rules.region.shortMonthNames[month]}) {
+            std::string plain = PlainLetters(*name);
+            if (plain.ends_with('.')) plain.pop_back();
+            if (plain.empty() || !std::all_of(plain.begin(), plain.end(), IsLetterByte)) continue;
+            names_.push_back(
+                {std::move(plain), {.month = static_cast<int>(month) + 1, .weekday = 0}});
+        }
+    }
+    std::sort(names_.begin(), names_.end(),
+              [](const auto& one, const auto& other) { return one.first < other.first; });
+}
+
+// What a word or its beginning says; 8 as weekday where languages differ, months where they do are
+// none.
+DateReader::Word DateReader::Meaning(std::string_view word) const {
+    Word found;
+    if (word.size() < 2 || word.size() > 16) return found;
+    const std::string plain = PlainLetters(word);
+    auto name = std::lower_bound(
+        names_.begin(), names_.end(), plain,
+        [](const auto& entry, const std::string& wanted) { return entry.first < wanted; });
+    bool exact = false;
+    for (; name != names_.end() && name->first.starts_with(plain); ++name) {
+        const bool whole = name->first.size() == plain.size();
+        if (plain.size() == 2 && !whole) continue;
+        const auto [month, weekday] = name->second;
+        if (month > 0 && !(exact && !whole)) {
+            found.month =
+                found.month == 0 || (whole && !exact) || found.month == month ? month : 13;
+            exact = exact || whole;
+        }
+        if (weekday > 0) {
+            found.weekday = found.weekday == 0 || found.weekday == weekday ? weekday : 8;
+        }
+    }
+    if (found.month == 13) found.month = 0;
+    return found;
+}
+
+int DateReader::Weekday(std::string_view text) const {
+    while (!text.empty() && !IsLetterByte(text.front())) text.remove_prefix(1);
+    while (!text.empty() && !IsLetterByte(text.back())) text.remove_suffix(1);
+    if (!std::all_of(text.begin(), text.end(), IsLetterByte)) return 0;
+    return Meaning(text).weekday;
+}
+
+bool DateReader::TakeWord(Pieces& pieces, std::string_view word) const {
+    if (fillers.find(" " + LowerCase(word) + " ") != std::string_view::npos) return true;
+    const Word meaning = Meaning(word);
+    if (meaning.month == 0 && meaning.weekday == 0) return false;
+    // "mar. 12 mars 2024": of two words that may be a month the first is the day of the week.
+    const bool replaces = pieces.month > 0 && pieces.monthMayBeWeekday && meaning.month > 0;
+    if (meaning.month > 0 && (pieces.month == 0 || replaces)) {
+        pieces.month = meaning.month;
+        pieces.monthMayBeWeekday = meaning.weekday > 0;
+        return true;
+    }
+    if (meaning.weekday == 0 || pieces.weekday > 0) return false;
+    pieces.weekday = meaning.weekday;
+    return true;
+}
+
+bool DateReader::Cut(std::string_view text, Pieces& pieces) const {
+    constexpr std::string_view signs = "/-.";
+    constexpr std::string_view passed = " ,()'?_\\\t\xBA\xAA\xB0";
+    while (!text.empty()) {
+        if (const std::string_view digits = DigitsAt(text); !digits.empty()) {
+            if (pieces.count == 3 || digits.size() > 8) return false;
+            pieces.numbers[pieces.count++] = {LeadingWhole(digits), digits.size()};
+            text.remove_prefix(digits.size());
+        } else if (IsLetterByte(text.front())) {
+            std::size_t end = 0;
+            while (end < text.size() && IsLetterByte(text[end])) ++end;
+            if (!TakeWord(pieces, text.substr(0, end))) return false;
+            text.remove_prefix(end);
+        } else {
+            const bool sign = signs.find(text.front()) != std::string_view::npos;
+            if (!sign && passed.find(text.front()) == std::string_view::npos) return false;
+            pieces.signs = pieces.signs || (sign && pieces.count > 0);
+            text.remove_prefix(1);
+        }
+    }
+    return true;
+}
+
+std::optional<WrittenDate> DateReader::Named(const Pieces& pieces) {
+    if (pieces.count != 2) return std::nullopt;
+    auto [day, year] = std::pair(pieces.numbers[0], pieces.numbers[1]);
+    if (day.digits == 4) std::swap(day, year);
+    const bool readable = day.digits <= 2 && (year.digits == 2 || year.digits == 4);
+    if (!readable || (year.digits == 4 && !IsYear(year.value))) return std::nullopt;
+    WrittenDate date{.first = day.value, .second = pieces.month, .year = year.value};
+    date.weekday = pieces.weekday;
+    return date;
+}
+
+std::optional<WrittenDate> DateReader::Numeric(const Pieces& pieces) {
+    const auto& [first, second, third] = pieces.numbers;
+    if (pieces.count == 1 && first.digits == 8) {
+        const WrittenDate yearFirst{.first = first.value % 100,
+                                    .second = first.value / 100 % 100,
+                                    .year = first.value / 10000,
+                                    .weekday = pieces.weekday};
+        const WrittenDate yearLast{.form = Form::YearKnown,
+                                   .first = first.value / 1000000,
+                                   .second = first.value / 10000 % 100,
+                                   .year = first.value % 10000,
+                                   .weekday = pieces.weekday};
+        if (IsYear(yearFirst.year) && yearFirst.second <= 12) return yearFirst;
+        return IsYear(yearLast.year) ? std::optional(yearLast) : std::nullopt;
+    }
+    if (pieces.count != 3) return std::nullopt;
+    std::size_t years = 0;
+    for (const auto& number : pieces.numbers) {
+        if (number.digits == 3 || number.digits > 4) return std::nullopt;
+        if (number.digits == 4) ++years;
+    }
+    WrittenDate date{.form = Form::YearKnown, .weekday = pieces.weekday};
+    if (years == 0) {
+        if (!pieces.signs) return std::nullopt;
+        date.form = Form::NoYear;
+        std::tie(date.first, date.second, date.year) =
+            std::tuple(first.value, second.value, third.value);
+        return date;
+    }
+    if (first.digits == 4) {
+        date.form = Form::Sure;
+        std::tie(date.year, date.second, date.first) =
+            std::tuple(first.value, second.value, third.value);
+    } else if (second.digits == 4) {
+        std::tie(date.first, date.year, date.second) =
+            std::tuple(first.value, second.value, third.value);
+    } else {
+        std::tie(date.first, date.second, date.year) =
+            std::tuple(first.value, second.value, third.value);
+    }
+    return years == 1 && IsYear(date.year) ? std::optional(date) : std::nullopt;
+}
+
+std::optional<WrittenDate> DateReader::Read(std::string_view text) const {
+    if (text.size() < 6 || text.size() > 60) return std::nullopt;
+    Pieces pieces;
+    if (!Cut(WithoutTime(text), pieces)) return std::nullopt;
+    return pieces.month > 0 ? Named(pieces) : Numeric(pieces);
+}
+
+std::optional<Date> DateReader::DateOf(const WrittenDate& written, Region::Order order) const {
+    int day = written.first;
+    int month = written.second;
+    int year = written.year;
+    if (written.form == Form::YearKnown && order != Region::Order::DayMonthYear) {
+        std::swap(day, month);
+    } else if (written.form == Form::NoYear && order == Region::Order::MonthDayYear) {
+        std::swap(day, month);
+    } else if (written.form == Form::NoYear && order == Region::Order::YearMonthDay) {
+        std::swap(day, year);
+    }
+    if (year < 100) year = lastYear_ - (lastYear_ - year) % 100;
+    const Date date(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
+                    std::chrono::day(static_cast<unsigned>(day)));
+    return date.ok() ? std::optional(date) : std::nullopt;
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "databases/import_numbers.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "core/text.h"
+#include "databases/import_characters.h"
+
+namespace {
+
+bool MeansNothing(std::string_view cell) {
+    if (cell.empty()) return true;
+    if (cell.size() > 4) return false;
+    if (cell.find_first_not_of("-.?/*\xB7\x97 ") == std::string_view::npos) return true;
+    const std::string lower = LowerCase(cell);
+    return lower == "nan" || lower == "null" || lower == "none" || lower == "n/a" || lower == "na";
+}
+
+}  // namespace
+
+int PlainNumber(std::string_view cell) {
+    if (cell.empty() || cell.size() > 9) return -1;
+    int number = 0;
+    const auto read = std::from_chars(cell.data(), cell.data() + cell.size(), number);
+    const bool whole = read.ec == std::errc() && read.ptr == cell.data() + cell.size();
+    return whole && number >= 0 && cell.front() != '-' ? number : -1;
+}
+
+int BallNumber(std::string_view cell) {
+    if (cell.size() >= 3 && cell.ends_with(".0")) cell.remove_suffix(2);
+    if (!cell.empty() && cell.size() <= 3 && IsDigitByte(cell.front())) {
+        const int number = PlainNumber(cell);
+        return number >= 0 && number <= 99 ? number : noNumber;
+    }
+    return MeansNothing(cell) ? emptyCell : noNumber;
+}
+
+BallList ReadBallList(std::string_view cell) {
+    constexpr std::string_view between = " -,;/+|.:&()[]{}_*#\t'\"";
+    constexpr std::size_t longestWord = 14;
+    BallList list;
+    for (std::size_t at = 0; at < cell.size();) {
+        std::size_t end = at;
+        if (IsDigitByte(cell[at])) {
+            while (end < cell.size() && IsDigitByte(cell[end])) ++end;
+            if (end - at > 2 || list.count == BallList::most) return {};
+            list.numbers[list.count++] =
+                static_cast<std::int8_t>(PlainNumber(cell.substr(at, end - at)));
+        } else if (IsLetterByte(cell[at])) {
+            while (end < cell.size() && IsLetterByte(cell[end])) ++end;
+            const bool joined = at > 0 && IsDigitByte(cell[at - 1]);
+            if (end - at > longestWord || joined) return {};
+        } else {
+            if (between.find(cell[at]) == std::string_view::npos) return {};
+            end = at + 1;
+        }
+        at = end;
+    }
+    return list;
+}
