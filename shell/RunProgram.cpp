@@ -44,8 +44,8 @@ int RunProgram(const QString& folderPath) {
     DesktopPrinters printers;
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
-    UseDesktopProxy();
     const OwnPages own{.folder = folder.Path()};
+    const WebAccess web{.desktopProxy = ProxyOfDesktop};
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
                       .random = random,
@@ -54,7 +54,11 @@ int RunProgram(const QString& folderPath) {
                       .openPage = [&own](const QString& page) { OpenPage(page, own); },
                       .saveLines = {},
                       .printLines = {},
-                      .fetchURL = [](const QString& address) { return FetchURL(address); },
+                      .fetchURL = [&web](const QString& address) { return FetchURL(address, web); },
+                      .fetchPage =
+                          [&web](const QString& address, const FetchProgress& progress) {
+                              return FetchPage(address, web, progress);
+                          },
                       .folderPath = QDir::toNativeSeparators(folder.Path()),
                       .printers = &printers,
                       .windows = &windows};

@@ -5,7 +5,7 @@
 # What the build, the program and its tests need beyond a bare Debian.
 packages=(
     g++ cmake ninja-build
-    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libqcustomplot-dev zlib1g-dev
+    qt6-base-dev qt6-svg-dev qt6-qpa-plugins libqcustomplot-dev zlib1g-dev libcurl4-openssl-dev
     libgtest-dev librapidcheck-dev libbenchmark-dev
     breeze-icon-theme fonts-dejavu-core fonts-liberation xdg-utils
     poppler-utils  # tests read printed pages back with it

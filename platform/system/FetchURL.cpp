@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/FetchURL.h"
 
-#include <QByteArray>
+#include <QCoreApplication>
 #include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkProxyFactory>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QTimer>
 #include <QUrl>
-#include <algorithm>
-#include <array>
-#include <memory>
 
+#include "platform/system/WebRequest.h"
 #include "platform/system/unpack.h"
 
 namespace {
@@ -20,42 +14,13 @@ namespace {
 // What packing adds at most to a page of the largest size.
 constexpr qsizetype packingRoom = 64 * 1024;
 
-QNetworkRequest RequestOf(const QUrl& url) {
-    QNetworkRequest request(url);
-    // Followed by hand: left to it, Qt now and then gives up where a server closes the connection
-    // right behind the answer that leads on.
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
-                         QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    // Asked for by hand, packed bytes come as they are and can be counted.
-    request.setRawHeader("Accept-Encoding", "gzip");
-    return request;
-}
+QString Said(const char* text) { return QCoreApplication::translate("FetchPage", text); }
 
-// Qt takes some bodies for whole that were cut off in the middle.
-bool IsWhole(const QNetworkReply& reply, const QByteArray& body) {
-    if (!reply.isFinished() || reply.error() != QNetworkReply::NoError) return false;
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    if (status < 200 || status >= 300) return false;
-    if (!reply.hasRawHeader("Content-Length") || reply.hasRawHeader("Transfer-Encoding"))
-        return true;
-    bool isNumber = false;
-    const qlonglong announced = reply.rawHeader("Content-Length").trimmed().toLongLong(&isNumber);
-    return isNumber && announced == body.size();
-}
+FetchedPage NoPage(const QString& problem) { return {.bytes = {}, .problem = problem}; }
 
-std::string Unpacked(const QNetworkReply& reply, const QByteArray& body, qsizetype limit) {
-    const QByteArray encoding = reply.rawHeader("Content-Encoding").trimmed().toLower();
-    const auto most = static_cast<std::size_t>(limit);
-    if (encoding.isEmpty() || encoding == "identity") {
-        return body.size() > limit ? std::string() : body.toStdString();
-    }
-    if (encoding != "gzip" && encoding != "x-gzip" && encoding != "deflate") return {};
-    return Unpack({body.data(), static_cast<std::size_t>(body.size())}, most).value_or("");
+FetchedPage PageOf(std::string bytes) {
+    if (bytes.empty()) return NoPage(Said("The page is empty."));
+    return {.bytes = std::move(bytes), .problem = {}};
 }
 
 bool IsWebAddress(const QUrl& url) {
@@ -64,71 +29,116 @@ bool IsWebAddress(const QUrl& url) {
     return url.isValid() && web && !url.host().isEmpty();
 }
 
-// What one request gave: the page, or where it leads on to; neither where it failed.
-struct Answer {
-    std::string page;
-    QUrl leadsTo;
-};
-
-// Where the answer leads on to, once its head is there.
-QUrl LeadsTo(const QNetworkReply& reply) {
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    constexpr std::array leading = {301, 302, 303, 307, 308};
-    if (std::find(leading.begin(), leading.end(), status) == leading.end()) return {};
-    const QUrl next = reply.url().resolved(QUrl::fromEncoded(reply.rawHeader("Location")));
-    const bool lessSafe =
-        reply.url().scheme() == QLatin1String("https") && next.scheme() != QLatin1String("https");
-    return lessSafe ? QUrl() : next;
+bool IsLessSafe(const QUrl& next, const QUrl& url) {
+    return url.scheme() == QLatin1String("https") && next.scheme() != QLatin1String("https");
 }
 
-Answer Request(QNetworkAccessManager& manager, const QUrl& url, const FetchLimits& limits,
-               QTimer& whole) {
-    const std::unique_ptr<QNetworkReply> reply(manager.get(RequestOf(url)));
-    QByteArray body;
-    QUrl leadsTo;
+/// The fetch of one page, with all that it leads on to.
+class Fetch final : public QObject {
+  public:
+    Fetch(const WebAccess& access, const FetchProgress& progress);
+
+    FetchedPage Run(QUrl url);
+
+  private:
+    void EndBy(QTimer& timer, std::chrono::milliseconds after, const QString& problem);
+    QString ProxyOf(const QUrl& url);
+    FetchedPage Unpacked(const WebRequest& request) const;
+
+    const WebAccess& access_;
+    FetchProgress progress_;
+    QTimer silence_;
+    QTimer whole_;
+    QString problem_;             // Why the fetch ended before its end.
+    std::function<void()> stop_;  // Stops what is being waited for.
+};
+
+Fetch::Fetch(const WebAccess& access, const FetchProgress& progress)
+    : access_(access), progress_(progress) {
+    EndBy(silence_, access.limits.silence, Said("The server fell silent."));
+    EndBy(whole_, access.limits.whole, Said("The page did not come in time."));
+}
+
+void Fetch::EndBy(QTimer& timer, std::chrono::milliseconds after, const QString& problem) {
+    timer.setSingleShot(true);
+    timer.setTimerType(Qt::PreciseTimer);
+    timer.setInterval(after);
+    connect(&timer, &QTimer::timeout, this, [this, problem] {
+        problem_ = problem;
+        if (stop_) stop_();
+    });
+}
+
+// The environment's proxies are left to the library, which knows their variables.
+QString Fetch::ProxyOf(const QUrl& url) {
+    if (!access_.desktopProxy || EnvironmentNamesProxy(url)) return {};
     QEventLoop loop;
-    QTimer silence;
-    const auto answered = [&] { silence.start(limits.silence); };
-    const auto take = [&] {
-        body += reply->readAll();
-        if (body.size() > limits.bytes + packingRoom) reply->abort();
-    };
-    const auto readHead = [&] {
-        leadsTo = LeadsTo(*reply);
-        if (leadsTo.isValid()) loop.quit();
-    };
-    QObject::connect(&silence, &QTimer::timeout, reply.get(), &QNetworkReply::abort);
-    QObject::connect(&whole, &QTimer::timeout, reply.get(), &QNetworkReply::abort);
-    QObject::connect(reply.get(), &QNetworkReply::encrypted, &silence, answered);
-    QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &silence, answered);
-    QObject::connect(reply.get(), &QNetworkReply::metaDataChanged, &loop, readHead);
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, &silence, answered);
-    QObject::connect(reply.get(), &QNetworkReply::readyRead, &loop, take);
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    answered();
-    if (!reply->isFinished()) loop.exec();
-    reply->disconnect();
-    if (leadsTo.isValid()) return {{}, leadsTo};
-    body += reply->readAll();
-    if (!IsWhole(*reply, body)) return {};
-    return {Unpacked(*reply, body, limits.bytes), {}};
+    QString proxy;
+    bool answered = false;
+    AskedProxy* asked = AskedProxy::Ask(access_.desktopProxy, url);
+    connect(asked, &AskedProxy::Answered, this, [&](const QString& answer) {
+        answered = true;
+        proxy = answer;
+        loop.quit();
+    });
+    stop_ = [&loop] { loop.quit(); };
+    loop.exec();
+    stop_ = {};
+    if (!answered) asked->Forget();
+    return proxy;
+}
+
+FetchedPage Fetch::Unpacked(const WebRequest& request) const {
+    const QByteArray encoding = request.Encoding();
+    const auto most = static_cast<std::size_t>(access_.limits.bytes);
+    if (encoding.isEmpty()) {
+        if (request.Body().size() > most) return NoPage(Said("The page is too large."));
+        return PageOf(request.Body());
+    }
+    const bool known = encoding == "gzip" || encoding == "x-gzip" || encoding == "deflate";
+    if (!known) return NoPage(Said("The page is packed in a way that is not known here."));
+    auto text = Unpack(request.Body(), most);
+    if (!text) return NoPage(Said("The page is packed and damaged, or too large."));
+    return PageOf(std::move(*text));
+}
+
+FetchedPage Fetch::Run(QUrl url) {
+    whole_.start();
+    silence_.start();
+    for (int redirects = 0; redirects <= access_.limits.redirects; ++redirects) {
+        if (!IsWebAddress(url)) return NoPage(Said("The address is none of the web."));
+        const QString proxy = ProxyOf(url);
+        if (!problem_.isEmpty()) return NoPage(problem_);
+        WebRequest request({.url = url,
+                            .proxy = proxy,
+                            .authorities = access_.authorities,
+                            .most = access_.limits.bytes + packingRoom});
+        connect(&request, &WebRequest::Heard, this, [this](qsizetype bytes) {
+            silence_.start();
+            if (progress_) progress_(bytes);
+        });
+        stop_ = [&request] { request.Stop(); };
+        silence_.start();
+        const bool whole = request.Run();
+        stop_ = {};
+        if (!problem_.isEmpty()) return NoPage(problem_);
+        if (whole) return Unpacked(request);
+        if (!request.LeadsOn()) return NoPage(request.Problem());
+        const QUrl next = request.Next();
+        if (IsLessSafe(next, url))
+            return NoPage(Said("The page leads on to one that is not safe."));
+        url = next;
+    }
+    return NoPage(Said("The page leads on and on to others."));
 }
 
 }  // namespace
 
-std::string FetchURL(const QString& address, const FetchLimits& limits) {
-    QNetworkAccessManager manager;
-    QTimer whole;
-    whole.setSingleShot(true);
-    whole.start(limits.whole);
-    QUrl url(address);
-    for (int redirects = 0; redirects <= limits.redirects; ++redirects) {
-        if (!IsWebAddress(url) || !whole.isActive()) return {};
-        const Answer answer = Request(manager, url, limits, whole);
-        if (!answer.leadsTo.isValid()) return answer.page;
-        url = answer.leadsTo;
-    }
-    return {};
+FetchedPage FetchPage(const QString& address, const WebAccess& access,
+                      const FetchProgress& progress) {
+    return Fetch(access, progress).Run(QUrl(address));
 }
 
-void UseDesktopProxy() { QNetworkProxyFactory::setUseSystemConfiguration(true); }
+std::string FetchURL(const QString& address, const WebAccess& access) {
+    return FetchPage(address, access).bytes;
+}

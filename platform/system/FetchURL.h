@@ -3,7 +3,11 @@
 
 #include <QString>
 #include <chrono>
+#include <functional>
 #include <string>
+
+#include "platform/system/DesktopProxy.h"
+#include "platform/system/FetchedPage.h"
 
 /// What a fetch is given up at.
 struct FetchLimits {
@@ -13,14 +17,24 @@ struct FetchLimits {
     int redirects = 10;                                            ///< In a row.
 };
 
-/// Fetches a web page and waits for it, while events run; the bytes are given as they came, but for
-/// a content encoding, which is unpacked.
-///
-/// Empty where the page cannot be had whole: no http or https address, no answer, a status of 400
-/// and above, fewer bytes than announced, a limit passed. One request, nothing of it is kept.
-///
-/// Where a server neither announces a length nor packs the page, Qt does not notice every cut.
-std::string FetchURL(const QString& address, const FetchLimits& limits = {});
+/// How pages are reached.
+struct WebAccess {
+    FetchLimits limits = {};
+    /// What the desktop says of proxies, asked where the environment names none; none: no proxy.
+    ProxyQuestion desktopProxy = {};
+    /// File of the certificates that are trusted; empty: those that the system trusts.
+    QString authorities = {};
+};
 
-/// From now on pages are fetched through the proxy that the desktop is set to, if any.
-void UseDesktopProxy();
+/// Fetches a web page and waits for it, while events run; the bytes are given as they came, but for
+/// a content encoding, which is unpacked. One request, nothing of it is kept.
+///
+/// A page is had whole or not at all. It is not where the address is neither http nor https, where
+/// nobody answers, where the certificate is not trusted, with a status that is no success, with
+/// fewer bytes than announced or an unfinished chunk, beyond a limit, or when the program is closed
+/// meanwhile.
+FetchedPage FetchPage(const QString& address, const WebAccess& access = {},
+                      const FetchProgress& progress = {});
+
+/// The bytes of `FetchPage`, empty where the page cannot be had whole.
+std::string FetchURL(const QString& address, const WebAccess& access = {});

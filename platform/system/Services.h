@@ -13,6 +13,7 @@
 #include "core/program_folder.h"
 #include "core/random.h"
 #include "core/state.h"
+#include "platform/system/FetchedPage.h"
 
 class Form;
 class Grid;
@@ -53,6 +54,9 @@ struct Services {
     std::function<std::string(const QString& address)> fetchURL = [](const QString&) {
         return std::string();
     };
+    /// The same; says why where the page cannot be had, and meanwhile how much of it has come.
+    std::function<FetchedPage(const QString& address, const FetchProgress& progress)> fetchPage =
+        [](const QString&, const FetchProgress&) { return FetchedPage(); };
     /// Lets the user choose a colour without transparency, at first `current`; nothing where they
     /// think better of it.
     std::function<std::optional<QColor>(QWidget* parent, const QColor& current)> chooseColour =
