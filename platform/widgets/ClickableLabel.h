@@ -4,7 +4,7 @@
 #include <QLabel>
 
 /// A label that can be clicked.
-class ClickableLabel final : public QLabel {
+class ClickableLabel : public QLabel {
     Q_OBJECT
   public:
     using QLabel::QLabel;
