@@ -19,6 +19,7 @@
 #include "platform/widgets/OneLine.h"
 #include "platform/widgets/Widgets.h"
 #include "shell/BiochartPanel.h"
+#include "shell/HelpCommands.h"
 #include "shell/InfoPanels.h"
 #include "shell/MainArea.h"
 #include "shell/MainMenu.h"
@@ -36,7 +37,8 @@ Quillon::Quillon(Program& program, QWidget* parent)
     : QMainWindow(parent),
       program_(program),
       menu_(new MainMenu(this)),
-      area_(new MainArea(program, this)) {
+      area_(new MainArea(program, this)),
+      help_(new HelpCommands(program, this)) {
     setObjectName(QStringLiteral("Quillon"));
     setWindowTitle(QStringLiteral("Lottery Quillon World"));
     setMenuBar(menu_);
@@ -53,11 +55,11 @@ void Quillon::AnswerMenu() {
     menu_->Answer(QStringLiteral("FileNotes"), [this] { ShowPanels(); });
     menu_->Answer(QStringLiteral("FileDeleteSaved"), [this] { DeleteSavedEntries(); });
     menu_->Answer(QStringLiteral("FileExit"), [this] { Quit(); });
-    menu_->Answer(QStringLiteral("HelpHelp"),
-                  [this] { program_.services.openPage(QStringLiteral("help.html")); });
-    menu_->Answer(QStringLiteral("HelpWebSite"), [this] {
-        program_.services.openPage(ToQString(program_.state.Settings(setting::LinkAddresses)));
-    });
+    menu_->Answer(QStringLiteral("HelpHelp"), [this] { help_->OpenHelp(); });
+    menu_->Answer(QStringLiteral("HelpNewVersion"), [this] { help_->CheckForNewVersion(); });
+    menu_->Answer(QStringLiteral("HelpWebSite"), [this] { help_->OpenWebSite(); });
+    menu_->Answer(QStringLiteral("HelpBackupSite"), [this] { help_->OpenAlternativeSite(); });
+    menu_->Answer(QStringLiteral("HelpEmail"), [this] { help_->WriteToSupport(); });
     for (int i = 0; i < MainMenu::linkCount; ++i) {
         menu_->Answer(Member(QStringLiteral("LinksLink"), i), [this, i] { LinksLink(i); });
     }

@@ -5,6 +5,7 @@
 
 #include "platform/system/Services.h"
 
+class HelpCommands;
 class MainArea;
 class MainMenu;
 struct CatalogueEntry;
@@ -51,4 +52,5 @@ class Quillon final : public QMainWindow {
     Program& program_;
     MainMenu* menu_;
     MainArea* area_;
+    HelpCommands* help_;
 };

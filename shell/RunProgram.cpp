@@ -24,6 +24,7 @@
 #include "printing/PrintRoutines.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
+#include "shell/own_addresses.h"
 
 namespace {
 
@@ -44,7 +45,9 @@ int RunProgram(const QString& folderPath) {
     DesktopPrinters printers;
     WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
                          QStringLiteral("/windows.ini"));
-    const OwnPages own{.folder = folder.Path()};
+    const OwnPages own{
+        .folder = folder.Path(),
+        .letters = {QString::fromLatin1(supportMail), QString::fromLatin1(generalMail)}};
     const WebAccess web{.desktopProxy = ProxyOfDesktop};
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,

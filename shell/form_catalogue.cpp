@@ -35,6 +35,8 @@
 #include "printing/PrintSetup.h"
 #include "printing/PrintTickets.h"
 #include "printing/PrinterCorrection.h"
+#include "shell/About.h"
+#include "shell/LotteryInfo.h"
 #include "syndicates/DeleteSyndicate.h"
 #include "syndicates/NewSyndicate.h"
 #include "syndicates/OpenSyndicate.h"
@@ -164,8 +166,8 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
     {.menuEntry = "SyndicatePayments", .form = "SPayments", .make = Make<SPayments>},
     {.menuEntry = "SyndicatesNotes", .form = "SNotes", .make = Make<SNotes>},
 
-    {.menuEntry = "HelpLotteryInfo", .form = "LotteryInfo"},
-    {.menuEntry = "HelpAbout", .form = "About"},
+    {.menuEntry = "HelpLotteryInfo", .form = "LotteryInfo", .make = Make<LotteryInfo>},
+    {.menuEntry = "HelpAbout", .form = "About", .make = Make<About>},
 
     {.menuEntry = "", .form = "PrintTickets", .make = Make<PrintTickets>},
     {.menuEntry = "", .form = "PrinterCorrection", .make = Make<PrinterCorrection>},

@@ -39,11 +39,6 @@ QUrl FileAddress(const QString& page, const QString& folder) {
     return address;
 }
 
-bool IsOwnLetter(const QString& page, const QStringList& letters) {
-    return std::ranges::any_of(
-        letters, [&](const QString& letter) { return page == QStringLiteral("mailto:") % letter; });
-}
-
 }  // namespace
 
 QUrl WebAddress(const QString& text) {
@@ -58,9 +53,13 @@ QUrl WebAddress(const QString& text) {
     return web && url.isValid() && !url.host().isEmpty() ? url : QUrl();
 }
 
+QString LetterTo(const QString& mailAddress) { return QStringLiteral("mailto:") % mailAddress; }
+
 QUrl PageAddress(const QString& page, const OwnPages& own) {
     if (const QUrl file = FileAddress(page, own.folder); file.isValid()) return file;
-    if (IsOwnLetter(page, own.letters)) return QUrl(page);
+    for (const QString& letter : own.letters) {
+        if (page == LetterTo(letter)) return QUrl(page);
+    }
     return WebAddress(page);
 }
 

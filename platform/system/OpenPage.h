@@ -15,6 +15,9 @@ struct OwnPages {
 /// do not count. Empty where it is none, or holds a blank or a control character.
 QUrl WebAddress(const QString& text);
 
+/// The page that is a letter to the mail address.
+QString LetterTo(const QString& mailAddress);
+
 /// The address behind a page: a web address; "help.html", "help.html#keys" or "dbase1.txt", where
 /// the folder has that file; "mailto:" and one of the mail addresses.
 ///

@@ -52,6 +52,8 @@ std::string PictureOf(const std::string& form) {
         {"PrintTickets", ""},
         {"PrinterCorrection", ""},
         {"PrintSetup", "SkinFile.jpg"},
+        {"About", ""},
+        {"LotteryInfo", "SkinHelp.jpg"},
         {"Biorhythm", "SkinAnalyse.jpg"},
         {"WhatIf", "SkinAnalyse.jpg"},
         {"OpenSyndicate", ""},
@@ -94,6 +96,7 @@ class EveryForm : public testing::TestWithParam<CatalogueEntry> {
         }
         program.folder.Write("dbase1.txt", database);
         program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
+        program.folder.Write("Lottery Info.txt", "#One\r\ntext\r\n#Two\r\ntext\r\n\r\n");
         std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
         program.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
         program.tick = 0.001;

@@ -107,12 +107,12 @@ const std::vector<MenuOfTable>& Table() {
           {"LinksLink(10)", "Link", true}}},
         {"HelpMenu",
          " &Help",
-         {{"HelpNewVersion", "Check for new version", false},
+         {{"HelpNewVersion", "Check for new version", true},
           {"HelpHelp", "Help and tips", true},
           {"HelpLotteryInfo", "Lottery information", false, "LotteryInfo"},
           {"HelpWebSite", "Lottery Quillon website", true},
-          {"HelpBackupSite", "Alternative website", false},
-          {"HelpEmail", "Email technical support", false},
+          {"HelpBackupSite", "Alternative website", true},
+          {"HelpEmail", "Email technical support", true},
           {"HelpAbout", "About...", false, "About"}}},
     };
     return table;
