@@ -49,12 +49,24 @@ void BuildIndex(State& run) {
     }
 }
 
-void LoadHistory(State& run) {
+void LoadFieldByField(::State& state, const ProgramFolder& folder, std::int16_t index) {
+    const std::string content = folder.Read(state.DbaseFiles(index));
+    FieldReader reader(content, state.DbaseFiles(index));
+    ReadDatabaseHeader(state, reader);
+    for (int draw = 1; !reader.AtEnd(); ++draw) {
+        reader.ReadField("the date of a draw");
+        ReadDraw(state.Draws.Row(draw), reader);
+    }
+}
+
+using Load = void (*)(::State& state, const ProgramFolder& folder, std::int16_t index);
+
+void LoadHistory(State& run, Load load) {
     MemoryFolder folder;
     folder.Write("dbase2.txt", DatabaseBytes());
     const auto state = std::make_unique<::State>();
     ListDatabases(*state, folder);
-    for (auto _ : run) LoadDatabase(*state, folder, 0);
+    for (auto _ : run) load(*state, folder, 0);
 }
 
 void RetryLuckyDip(State& run) {
@@ -84,6 +96,11 @@ BENCHMARK_CAPTURE(PruneLines, plain, plain::PruneDuplicates, 179, 20)
 BENCHMARK_CAPTURE(PruneLines, hash, PruneDuplicates, 179, 20)
     ->Name("PruneDuplicates/hash/179_with_20_repeats");
 BENCHMARK(BuildIndex)->Name("DrawIndex/build")->Unit(benchmark::kMicrosecond);
-BENCHMARK(LoadHistory)->Name("LoadDatabase/2999")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(LoadHistory, plain, LoadFieldByField)
+    ->Name("LoadDatabase/plain/2999")
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(LoadHistory, fast, LoadDatabase)
+    ->Name("LoadDatabase/fast/2999")
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(FillLines)->Name("LuckyDip/30_lines");
 BENCHMARK(RetryLuckyDip)->Name("LuckyDipRetry")->MinTime(9)->Unit(benchmark::kSecond);

@@ -2,6 +2,7 @@
 #include "core/field_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "core/text.h"
@@ -9,6 +10,8 @@
 namespace {
 
 bool IsLineEnd(char character) { return character == '\r' || character == '\n'; }
+
+bool IsDigit(char character) { return character >= '0' && character <= '9'; }
 
 std::size_t BehindBlanks(std::string_view text, std::size_t start) {
     while (start < text.size() && text[start] == ' ') ++start;
@@ -41,7 +44,7 @@ std::optional<std::int16_t> FieldReader::ReadShortNumber() {
     const std::size_t longest = std::min(content_.size(), position_ + mostDigits + 1);
     std::size_t end = position_;
     int number = 0;
-    while (end < longest && content_[end] >= '0' && content_[end] <= '9') {
+    while (end < longest && IsDigit(content_[end])) {
         number = 10 * number + (content_[end++] - '0');
     }
     if (end == position_ || end == longest) return std::nullopt;
@@ -50,6 +53,31 @@ std::optional<std::int16_t> FieldReader::ReadShortNumber() {
     position_ = end;
     PassFieldEnd();
     return static_cast<std::int16_t>(number);
+}
+
+bool FieldReader::ReadPlainRecord(std::span<std::int16_t> numbers) {
+    constexpr std::ptrdiff_t mostDigits = 4;
+    std::array<std::int16_t, 8> read{};
+    if (quotes_ == Quotes::Removed || numbers.size() > read.size()) return false;
+    const char* const end = content_.data() + content_.size();
+    const char* next = content_.data() + position_;
+    while (next != end && *next != ',' && !IsLineEnd(*next)) ++next;
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        if (next == end || *next++ != ',') return false;
+        const char* const start = next;
+        int number = 0;
+        while (next != end && IsDigit(*next)) {
+            if (next - start == mostDigits) return false;
+            number = 10 * number + (*next++ - '0');
+        }
+        read[i] = static_cast<std::int16_t>(number);
+    }
+    if (next != end && *next == '\r') ++next;
+    if (next == end || *next++ != '\n') return false;
+    std::copy_n(read.begin(), numbers.size(), numbers.begin());
+    position_ = static_cast<std::size_t>(next - content_.data());
+    line_ = nextLine_++;
+    return true;
 }
 
 std::string_view FieldReader::ReadLine(std::string_view expected) {

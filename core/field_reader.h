@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -36,6 +37,12 @@ class FieldReader {
     /// The next field where it is one to four digits right up to the comma or line end behind it,
     /// as nearly all fields of a draw database are; else nothing, and nothing is read.
     std::optional<std::int16_t> ReadShortNumber();
+
+    /// Reads a plain record: a field that is passed over, then as many numbers as `numbers` takes,
+    /// with commas between and a line end behind, each up to four digits and nothing else; one
+    /// without a digit is 0. Where there is anything else, quotes that are removed included, it
+    /// reads nothing, changes no number and says so: such records are read field by field.
+    bool ReadPlainRecord(std::span<std::int16_t> numbers);
 
     /// The rest of the current line. Throws like `ReadField` at the end of the file.
     std::string_view ReadLine(std::string_view expected);

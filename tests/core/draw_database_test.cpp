@@ -368,6 +368,20 @@ std::optional<Loaded> Load(const std::string& content) {
     return loaded;
 }
 
+// The load with the program's reader, but of one field after the other, so that it fails in the
+// same words.
+void LoadFieldByField(State& state, const std::string& content) {
+    FieldReader reader(content, "dbase1.txt");
+    ReadDatabaseHeader(state, reader);
+    int draw = 1;
+    for (; !reader.AtEnd(); ++draw) {
+        const std::string_view date = reader.ReadField("the date of a draw");
+        if (draw > 3000) throw reader.Unexpected("no more than 3000 draws", date);
+        ReadDraw(state.Draws.Row(draw), reader);
+    }
+    for (; draw <= 3000; ++draw) std::fill_n(state.Draws.Row(draw) + 1, 8, std::int16_t{0});
+}
+
 }  // namespace plain
 
 namespace {
@@ -443,6 +457,42 @@ TEST_F(AnyDrawDatabase, LoadsAsItReadsForRandomBytes) {
         Check(content);
         if (HasFailure()) return;
     }
+}
+
+TEST_F(AnyDrawDatabase, LoadsAndFailsAsItReadsFieldByField) {
+    std::mt19937 random(20261122);
+    const auto any = [&random](const Names& pieces) { return pieces[random() % pieces.size()]; };
+    const Names numbers = {"1",  "23",    "0",      "",   "049", "1234", "9999",
+                           "10", "10000", "-32769", " 7", "8 ",  "x",    "\"5\""};
+    const Names plainNumbers = {"1", "23", "49", "0", "", "07"};
+    const Names dates = {"19 Nov 94", "", "19-Nov-1994", "\"19 Nov 94\"", " 1 ", "\""};
+    const Names ends = {"\r\n", "\r\n", "\r\n", "\n", "\r", ",", "\r\n\r\n", "\r\n\n", ""};
+    const auto fieldByField = std::make_unique<State>();
+    int failures = 0;
+    for (int file = 0; file < 3000; ++file) {
+        std::string content = ukHeader;
+        for (auto draw = random() % 6; draw > 0; --draw) {
+            const bool odd = random() % 4 == 0;
+            content += odd ? any(dates) : dates[0];
+            const auto columns = odd ? 7 + random() % 3 : 8;
+            for (unsigned column = 0; column < columns; ++column) {
+                content += "," + any(odd ? numbers : plainNumbers);
+            }
+            content += odd ? any(ends) : ends[0];
+        }
+        fieldByField->Draws = state_.Draws;
+        const std::string expected =
+            FailureOf([&] { plain::LoadFieldByField(*fieldByField, content); });
+        ASSERT_EQ(FailureOfLoading(content), expected) << content;
+        for (int draw = 0; draw <= 3000; ++draw) {
+            const std::int16_t* row = std::as_const(*fieldByField).Draws.Row(draw);
+            ASSERT_TRUE(std::equal(row, row + 9, std::as_const(state_).Draws.Row(draw)))
+                << "draw " << draw << " of " << content;
+        }
+        failures += expected == "no failure" ? 0 : 1;
+    }
+    EXPECT_GT(failures, 100);
+    EXPECT_LT(failures, 2900);
 }
 
 TEST_F(DrawDatabase, IsListedByItsFirstLineInTheOrderOfTheFileNames) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <vector>
 
@@ -172,6 +173,58 @@ TEST(FieldReader, LeavesWhatIsNoShortNumberToBeRead) {
         EXPECT_EQ(reader.ReadShortNumber(), std::nullopt) << content;
         EXPECT_EQ(reader.ReadField("it"), Trim(field)) << content;
     }
+}
+
+TEST(FieldReader, ReadsAPlainRecordAtOnce) {
+    std::array<std::int16_t, 3> numbers{};
+    FieldReader reader(" any, 1\r\n01 Jun 05,1,,9999\r\n,00,2,3\n\"x,4,5,6\r\n", "a.txt");
+    reader.ReadLine("a line");
+    EXPECT_TRUE(reader.ReadPlainRecord(numbers));
+    EXPECT_EQ(numbers, (std::array<std::int16_t, 3>{1, 0, 9999}));
+    EXPECT_EQ(reader.Line(), 2);
+    EXPECT_TRUE(reader.ReadPlainRecord(numbers));
+    EXPECT_EQ(numbers, (std::array<std::int16_t, 3>{0, 2, 3}));
+    EXPECT_EQ(reader.Line(), 3);
+    EXPECT_TRUE(reader.ReadPlainRecord(numbers));
+    EXPECT_EQ(numbers, (std::array<std::int16_t, 3>{4, 5, 6}));
+    EXPECT_EQ(reader.Line(), 4);
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_FALSE(reader.ReadPlainRecord(numbers));
+}
+
+TEST(FieldReader, LeavesWhatIsNoPlainRecordToBeRead) {
+    for (const char* const content :
+         {"d,1,2", "d,1,2,", "d,1,2,3,4\r\n", "d,1,2\r\n3\r\n", "\r\n1,2,3\r\n", "d,1,2,3",
+          "d,1,2,3\r", "d,1,2,3\rx", "d,12345,2,3\r\n", "d,1, 2,3\r\n", "d,1,2,3 \r\n",
+          "d,-1,2,3\r\n", "d,1,2.5,3\r\n", "d,1,\"2\",3\r\n", "d,1,2,x\r\n", "d", "", ","}) {
+        std::array<std::int16_t, 3> numbers{7, 8, 9};
+        FieldReader reader(content, "a.txt");
+        EXPECT_FALSE(reader.ReadPlainRecord(numbers)) << content;
+        EXPECT_EQ(numbers, (std::array<std::int16_t, 3>{7, 8, 9})) << content;
+        EXPECT_EQ(reader.Rest(), content);
+    }
+}
+
+TEST(FieldReader, LeavesRecordsOfWhichQuotesAreRemovedToBeRead) {
+    std::array<std::int16_t, 1> numbers{};
+    FieldReader reader("d,1\r\n", "a.txt", Quotes::Removed);
+    EXPECT_FALSE(reader.ReadPlainRecord(numbers));
+    EXPECT_EQ(reader.ReadField("a field"), "d");
+}
+
+TEST(FieldReader, LeavesRecordsOfTooManyNumbersToBeRead) {
+    std::array<std::int16_t, 9> numbers{};
+    FieldReader reader("d,1,2,3,4,5,6,7,8,9\r\n", "a.txt");
+    EXPECT_FALSE(reader.ReadPlainRecord(numbers));
+}
+
+TEST(FieldReader, LeavesTheEmptyFieldBehindTheLastCommaToBeRead) {
+    std::array<std::int16_t, 0> none{};
+    FieldReader reader("a,", "a.txt");
+    reader.ReadField("a field");
+    EXPECT_FALSE(reader.ReadPlainRecord(none));
+    EXPECT_EQ(reader.ReadField("a field"), "");
+    EXPECT_TRUE(reader.AtEnd());
 }
 
 TEST(FieldReader, PassesOverTheRestOfTheLineOfAField) {
