@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Copies the supplied files, folder DATA, to the program's folder, PROGRAM.
+# Copies the supplied files, folder DATA and the folders in it, to the program's folder, PROGRAM.
 #
 # What is missing there is copied. A supplied file that nobody has changed since it was copied is
 # brought up to date; one that was changed belongs to the user and stays, and so does every other
@@ -14,7 +14,7 @@ if(EXISTS ${RECORD})
 endif()
 
 set(record "")
-file(GLOB names LIST_DIRECTORIES false RELATIVE ${DATA} ${DATA}/*)
+file(GLOB_RECURSE names LIST_DIRECTORIES false RELATIVE ${DATA} ${DATA}/*)
 foreach(name IN LISTS names)
     file(SHA256 ${DATA}/${name} supplied)
     set(entry "${supplied} ${name}")
@@ -25,6 +25,8 @@ foreach(name IN LISTS names)
             continue()
         endif()
     endif()
+    cmake_path(GET name PARENT_PATH within)
+    file(MAKE_DIRECTORY ${PROGRAM}/${within})
     file(COPY_FILE ${DATA}/${name} ${PROGRAM}/${name} ONLY_IF_DIFFERENT)
     string(APPEND record "${entry}\n")
 endforeach()

@@ -680,6 +680,19 @@ TEST_F(InstalledProgram, LeavesTheUsersOwnFiles) {
     EXPECT_TRUE(fs::exists(own / "SkinMain.jpg"));
 }
 
+TEST_F(InstalledProgram, FillsTheFolderOfTheHelpPages) {
+    Install();
+    fs::create_directories(path_ / "share" / "quillon" / "help");
+    Put(path_ / "share" / "quillon" / "help" / "help.css", "body {}");
+    Put(path_ / "share" / "quillon" / "help" / "Quillon.png", "shared");
+    const fs::path own = user_.toStdString();
+    fs::create_directories(own / "help");
+    Put(own / "help" / "Quillon.png", "mine");
+    ProgramFolderPath(executables_, user_);
+    EXPECT_EQ(BytesOf(own / "help" / "help.css"), "body {}");
+    EXPECT_EQ(BytesOf(own / "help" / "Quillon.png"), "mine");
+}
+
 TEST_F(InstalledProgram, FailsWhereTheUsersFolderCannotBeMade) {
     Install();
     Put(path_ / "home", "a file");
