@@ -26,7 +26,6 @@ SaveEntries::SaveEntries(Program& program, QWidget* parent)
     layout->addLayout(BuildInputs(), 1);
     layout->addLayout(BuildActions());
     setMinimumWidth(440);
-    SetHelpPage(QStringLiteral("helpplay.html"));
 }
 
 QLayout* SaveEntries::BuildInputs() {

@@ -20,8 +20,6 @@
 
 namespace {
 
-const QString helpPage = QStringLiteral("helpplay.html");
-
 // The headings above the lines and the empty row behind them.
 constexpr int rowsAroundLines = 2;
 
@@ -98,7 +96,7 @@ PlayFrame::PlayFrame(Program& program, const PlayFormText& text, const PlayContr
     layout->addLayout(foot_);
     layout->addLayout(BuildActions(names));
     SetOpeningSize({sizeHint().width(), openingHeight});
-    SetHelpPage(helpPage);
+    SetHelpPage(QStringLiteral("helpplay.html"));
 }
 
 QLayout* PlayFrame::BuildInputs(const PlayFormText& text, const PlayControlNames& names) {
@@ -173,7 +171,7 @@ QLayout* PlayFrame::BuildActions(const PlayControlNames& names) {
 
 QPushButton* PlayFrame::MakeHelpButton(const QString& name, const QString& caption) {
     QPushButton* help = MakeButton(name, caption);
-    connect(help, &QPushButton::clicked, this, [this] { services().openPage(helpPage); });
+    connect(help, &QPushButton::clicked, this, [this] { OpenHelp(); });
     return help;
 }
 

@@ -63,7 +63,6 @@ PrintFrm::PrintFrm(Program& program, QWidget* parent)
     layout->addSpacing(8);
     layout->addLayout(MakeActions());
     TabInReadingOrder();
-    SetHelpPage(QStringLiteral("helpprint.html"));
 }
 
 QLayout* PrintFrm::MakeInputs() {

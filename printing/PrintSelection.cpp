@@ -33,7 +33,6 @@ PrintSelection::PrintSelection(Program& program, QWidget* parent)
     layout->addLayout(BuildActionRow({print}, {}));
     setMinimumWidth(420);
     TabInReadingOrder();
-    SetHelpPage(QStringLiteral("helpprint.html"));
 }
 
 bool PrintSelection::OnLotteryForms() const { return lotteryForms_->isChecked(); }

@@ -162,8 +162,7 @@ QLayout* PrintSetup::MakeActions() {
     auto* help = MakeIconButton(QStringLiteral("Command1"), QStringLiteral("help-contents"),
                                 tr(" Get help "));
     help->setText(tr("Help"));
-    connect(help, &QPushButton::clicked, this,
-            [this] { services().openPage(QStringLiteral("helpprint.html")); });
+    connect(help, &QPushButton::clicked, this, [this] { OpenHelp(); });
     auto* close = MakeCommandButton(QStringLiteral("CancelButton"), Command::Close, tr(" Close "));
     connect(close, &QPushButton::clicked, this, [this] { AskAndClose(); });
     SetCloseButton(close);

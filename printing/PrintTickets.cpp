@@ -78,8 +78,7 @@ QLayout* PrintTickets::MakeActions() {
     auto* cancel = MakeButton(QStringLiteral("Command1"), tr(" Cancel "));
     SetCloseButton(cancel);
     connect(print, &QPushButton::clicked, this, [this] { Print(); });
-    connect(help, &QPushButton::clicked, this,
-            [this] { services().openPage(QStringLiteral("helpprint.html")); });
+    connect(help, &QPushButton::clicked, this, [this] { OpenHelp(); });
     connect(cancel, &QPushButton::clicked, this, [this] { Cancel(); });
     return BuildActionRow({print}, {help, cancel});
 }

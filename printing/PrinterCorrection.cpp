@@ -41,7 +41,6 @@ PrinterCorrection::PrinterCorrection(Program& program, QWidget* parent)
     explanation->setMinimumWidth(380);
     LayOutForm(this, title_, explanation, MakeBoxes(), MakeActions());
     TabInReadingOrder();
-    SetHelpPage(QStringLiteral("helpprint.html"));
 }
 
 void PrinterCorrection::Load() {

@@ -47,7 +47,8 @@ int RunProgram(const QString& folderPath) {
                          QStringLiteral("/windows.ini"));
     const OwnPages own{
         .folder = folder.Path(),
-        .letters = {QString::fromLatin1(supportMail), QString::fromLatin1(generalMail)}};
+        .letters = {QString::fromLatin1(supportMail), QString::fromLatin1(generalMail)},
+        .signposts = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)};
     const WebAccess web{.desktopProxy = ProxyOfDesktop};
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,

@@ -61,6 +61,8 @@ void Form::Say(const QString& text) {
     said->Say(text);
 }
 
+void Form::OpenHelp() const { services().openPage(helpPage_ % QLatin1Char('#') % objectName()); }
+
 void Form::reject() { CloseAsTheUserDoes(); }
 
 void Form::CloseAsTheUserDoes() {
@@ -114,7 +116,7 @@ void Form::setVisible(bool visible) {
 
 void Form::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
-        services().openPage(helpPage_);
+        OpenHelp();
         return;
     }
     auto* focused = qobject_cast<QPushButton*>(focusWidget());

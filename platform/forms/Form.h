@@ -62,8 +62,11 @@ class Form : public QDialog {
     /// screen has no room for scrolls, and the size that the user gave the form comes again.
     void SetOpeningSize(const QSize& size) { openingSize_ = size; }
 
-    /// The page that F1 opens; "help.html" where none is set.
+    /// The page that F1 and the help buttons open; "help.html" where none is set.
     void SetHelpPage(const QString& page) { helpPage_ = page; }
+
+    /// Opens the help page at the place of this form, an anchor of the form's name.
+    void OpenHelp() const;
 
     /// Closes the form for good, without a click on the close button.
     void Unload();

@@ -62,7 +62,6 @@ PrintPreview::PrintPreview(Program& program, const PrintTask& task, PreviewExits
     layout->addLayout(MakeActions());
     TabInReadingOrder();
     SetOpeningSize({820, 700});
-    SetHelpPage(QStringLiteral("helpprint.html"));
 }
 
 QPushButton* PrintPreview::MakeTurn(const QString& name, const QString& icon,

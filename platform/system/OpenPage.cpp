@@ -4,6 +4,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <algorithm>
 
 #include "core/program_folder.h"
@@ -63,7 +64,24 @@ QUrl PageAddress(const QString& page, const OwnPages& own) {
     return WebAddress(page);
 }
 
+QUrl Signpost(const QUrl& address, const QString& signposts) {
+    if (!address.isLocalFile() || !address.hasFragment() || signposts.isEmpty()) return address;
+    const QString target = QString::fromLatin1(address.toEncoded()).toHtmlEscaped();
+    const QString page = QStringLiteral(
+                             "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n"
+                             "<meta charset=\"utf-8\">\n"
+                             "<meta http-equiv=\"refresh\" content=\"0; url=%1\">\n"
+                             "<title>Lottery Quillon World: help</title>\n</head>\n"
+                             "<body><p><a href=\"%1\">Help</a></p></body>\n</html>\n")
+                             .arg(target);
+    QDir().mkpath(signposts);
+    QSaveFile file(QDir(signposts).filePath(address.fileName()));
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(page.toUtf8()) > 0 && file.commit();
+    return written ? QUrl::fromLocalFile(file.fileName()) : address;
+}
+
 void OpenPage(const QString& page, const OwnPages& own) {
     const QUrl address = PageAddress(page, own);
-    if (address.isValid()) QDesktopServices::openUrl(address);
+    if (address.isValid()) QDesktopServices::openUrl(Signpost(address, own.signposts));
 }

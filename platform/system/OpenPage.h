@@ -9,6 +9,7 @@
 struct OwnPages {
     QString folder;            ///< The program's folder: its help pages and draw databases.
     QStringList letters = {};  ///< Mail addresses that letters may go to.
+    QString signposts = {};    ///< Where pages may be written that lead to a place in ours.
 };
 
 /// The web address in the text, which begins with "http://", "https://" or "www."; blanks around it
@@ -24,6 +25,13 @@ QString LetterTo(const QString& mailAddress);
 /// Empty for anything else: addresses come from files and boxes that anybody may have filled, and
 /// none of them is to open a file, start a program or attach something to a letter.
 QUrl PageAddress(const QString& page, const OwnPages& own);
+
+/// The file that the desktop is to open for the address.
+///
+/// Desktops open a file without the place in it that stands behind a "#". For such an address a
+/// page of the same name is written into the folder `signposts`, which the browser follows to that
+/// place at once. All other addresses, and those for which nothing can be written, stand.
+QUrl Signpost(const QUrl& address, const QString& signposts);
 
 /// Opens the page on the desktop without waiting. What has no address opens nothing, and what
 /// nothing opens is not noticed.

@@ -276,8 +276,8 @@ TEST_F(LuckyDipForm, HelpAndF1OpenThePlayHelp) {
     Open();
     Click(*form_, helpButton);
     QTest::keyClick(form_.get(), Qt::Key_F1);
-    EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpplay.html"),
-                                                 QStringLiteral("helpplay.html")}));
+    EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpplay.html#PLuckyDip"),
+                                                 QStringLiteral("helpplay.html#PLuckyDip")}));
 }
 
 TEST_F(LuckyDipForm, CloseAndEscCloseTheForm) {

@@ -184,7 +184,7 @@ TEST_F(NumerologyForm, SavesItsLines) {
 TEST_F(NumerologyForm, OpensTheHelpPageByF1AndCloses) {
     Open();
     QTest::keyClick(form_.get(), Qt::Key_F1);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html#PLuckyNumbers")});
     Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
 }

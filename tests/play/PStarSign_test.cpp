@@ -160,7 +160,7 @@ TEST_F(AstrologyForm, SavesItsLinesAndOpensTheHelpPageByF1) {
     Click(*form_, saveButton);
     EXPECT_EQ(saves_, 1);
     QTest::keyClick(form_.get(), Qt::Key_F1);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html#PStarSign")});
 }
 
 TEST_F(AstrologyForm, MakesLinesOnAllRealHistories) {

@@ -93,7 +93,8 @@ void TryingFormTest::ExpectTipAndHelp() {
     EXPECT_EQ(test_.messages.Shown(), 1);
     Click(*form_, helpButton);
     QTest::keyClick(form_.get(), Qt::Key_F1);
-    EXPECT_EQ(test_.pages, std::vector<QString>(2, QStringLiteral("helpplay.html")));
+    EXPECT_EQ(test_.pages,
+              std::vector<QString>(2, QStringLiteral("helpplay.html#") % form_->objectName()));
 }
 
 void TryingFormTest::ExpectNoActionWhileBusy(const FilterNames& filters) {

@@ -685,8 +685,8 @@ TEST_F(SettingUpSlips, HelpOpensThePageOfPrinting) {
     Open();
     Click(*form_, helpButton);
     QTest::keyClick(form_.get(), Qt::Key_F1);
-    EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpprint.html"),
-                                                 QStringLiteral("helpprint.html")}));
+    EXPECT_EQ(test_.pages, (std::vector<QString>{QStringLiteral("helpprint.html#PrintSetup"),
+                                                 QStringLiteral("helpprint.html#PrintSetup")}));
 }
 
 TEST_F(SettingUpSlips, ClosingAlwaysAsks) {

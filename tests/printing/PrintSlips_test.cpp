@@ -173,7 +173,7 @@ TEST_F(AskingForTickets, CancelAndEscAreTheSame) {
 TEST_F(AskingForTickets, HelpOpensThePageOfPrinting) {
     Open();
     Click(*form_, helpButton);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpprint.html")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpprint.html#PrintTickets")});
 }
 
 TEST_F(AskingForTickets, AdjustsThePrinterThatIsChosenInTheList) {

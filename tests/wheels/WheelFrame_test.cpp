@@ -332,7 +332,8 @@ TEST_P(EachWheelForm, RemovesLinesByTheFiltersAndMakesNoOthers) {
 TEST_P(EachWheelForm, OpensTheHelpPageAndCloses) {
     Open();
     Click(*form_, helpButton);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
+    EXPECT_EQ(test_.pages,
+              std::vector<QString>{QStringLiteral("helpplay.html#") % form_->objectName()});
     Click(*form_, closeButton);
     EXPECT_FALSE(form_->isVisible());
 }

@@ -111,15 +111,15 @@ TEST_F(AForm, CanBeShownAgain) {
     EXPECT_EQ(form.questions, 1);
 }
 
-TEST_F(AForm, OpensTheGeneralHelpOnF1) {
+TEST_F(AForm, OpensItsPlaceInTheGeneralHelpOnF1) {
     QTest::keyClick(form.text, Qt::Key_F1);
-    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("help.html")});
+    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("help.html#SampleForm")});
 }
 
-TEST_F(AForm, OpensItsOwnHelpOnF1) {
+TEST_F(AForm, OpensItsPlaceInItsOwnHelpPageOnF1) {
     form.SetHelpPage(QStringLiteral("helpplay.html"));
     QTest::keyClick(&form, Qt::Key_F1);
-    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
+    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("helpplay.html#SampleForm")});
 }
 
 TEST_F(AForm, RunsItsDefaultButtonOnEnter) {

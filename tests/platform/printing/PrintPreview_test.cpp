@@ -184,7 +184,7 @@ TEST_F(PrintPreviewTest, ClosesByItsButtonAndByEsc) {
     EXPECT_TRUE(test.pages.empty());
     Open();
     QTest::keyClick(form.get(), Qt::Key_F1);
-    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("helpprint.html")});
+    EXPECT_EQ(test.pages, std::vector<QString>{QStringLiteral("help.html#PrintPreview")});
 }
 
 TEST(PdfFileDialog, AddsTheSuffixWhereNoneIsTyped) {

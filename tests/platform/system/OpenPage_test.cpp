@@ -34,8 +34,9 @@ class PageAddressOf : public testing::Test {
     QString Address(const char* page) const { return Address(QString::fromLatin1(page)); }
 
     QTemporaryDir folder_;
-    OwnPages own_{.folder = folder_.path(),
-                  .letters = {QStringLiteral("help@one.example"), QStringLiteral("post@two.example")}};
+    OwnPages own_{
+        .folder = folder_.path(),
+        .letters = {QStringLiteral("help@one.example"), QStringLiteral("post@two.example")}};
 };
 
 TEST_F(PageAddressOf, AWebAddressStandsAsItIs) {
@@ -149,6 +150,55 @@ TEST_F(PageAddressOf, BlanksAndControlCharactersAreInNoAddress) {
     }
     EXPECT_EQ(Address(QStringLiteral("http://www.example.org/\u202egnp.exe")), QString());
     EXPECT_EQ(Address(QString(QLatin1Char('\0'))), QString());
+}
+
+/// The address of a place in a file, for which a signpost may be written into a folder.
+class SignpostTo : public testing::Test {
+  protected:
+    QUrl Post() const { return Signpost(place_, Posts()); }
+
+    QString Posts() const { return folder_.filePath(QStringLiteral("posts/quillon")); }
+
+    QTemporaryDir folder_;
+    const QUrl place_{QStringLiteral("file:///home/R&D/a%20'b'/helpplay.html#PLuckyDip")};
+};
+
+TEST_F(SignpostTo, APlaceInAFileIsAPageOfItsNameThatLeadsThere) {
+    const QUrl post = Post();
+    EXPECT_EQ(post.toLocalFile(), Posts() % QStringLiteral("/helpplay.html"));
+    EXPECT_FALSE(post.hasFragment());
+    QFile file(post.toLocalFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString page = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(page.contains(
+        QStringLiteral("content=\"0; url=file:///home/R&amp;D/a%20'b'/helpplay.html#PLuckyDip\"")))
+        << page.toStdString();
+}
+
+TEST_F(SignpostTo, AnotherPlaceReplacesTheOneBefore) {
+    Post();
+    const QUrl other(QStringLiteral("file:///home/helpplay.html#Wheel49"));
+    QFile file(Signpost(other, Posts()).toLocalFile());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray page = file.readAll();
+    EXPECT_TRUE(page.contains("#Wheel49"));
+    EXPECT_FALSE(page.contains("PLuckyDip"));
+}
+
+TEST_F(SignpostTo, WholeFilesAndOtherAddressesStand) {
+    for (const char* text : {"file:///home/help.html", "http://www.example.org/help.html#keys",
+                             "mailto:help@one.example"}) {
+        const QUrl address(QString::fromLatin1(text));
+        EXPECT_EQ(Signpost(address, Posts()), address);
+    }
+    EXPECT_FALSE(QDir(Posts()).exists()) << "nothing is written for them";
+}
+
+TEST_F(SignpostTo, WhatCannotBeWrittenLeavesTheAddress) {
+    EXPECT_EQ(Signpost(place_, QString()), place_);
+    QFile inTheWay(folder_.filePath(QStringLiteral("posts")));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    EXPECT_EQ(Post(), place_);
 }
 
 }  // namespace
