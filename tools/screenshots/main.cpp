@@ -40,6 +40,12 @@ QString PictureName(const CatalogueEntry& entry) {
     return form % QLatin1Char('-') % QString::fromLatin1(entry.menuEntry);
 }
 
+/// Whether a picture of another form, or of the form in its other mode, tells as much.
+bool LooksLikeAnother(const CatalogueEntry& entry) {
+    static const std::set<std::string> alike = {"DbaseUpdateUS", "P1Key", "P2KeyNum", "PWheel2"};
+    return entry.prepare != nullptr || alike.contains(entry.form);
+}
+
 /// The newest draws of a lottery as a report has them.
 ReportTable SomeDraws(const State& state) {
     ReportTable draws = {{"Date", "Num1", "Num2", "Num3", "Num4", "Num5", "Num6", "", "Bonus"}};
@@ -62,7 +68,8 @@ class Album {
           folder_(options.value(QStringLiteral("out"))),
           forHelp_(options.isSet(QStringLiteral("for-help"))) {
         // The help pages have both looks beside each other.
-        if (forHelp_ && options.isSet(QStringLiteral("dark"))) ending_ = QStringLiteral("-dark.png");
+        if (forHelp_ && options.isSet(QStringLiteral("dark")))
+            ending_ = QStringLiteral("-dark.png");
         QDir().mkpath(folder_);
     }
 
@@ -79,8 +86,7 @@ class Album {
         std::set<QString> taken;
         for (const CatalogueEntry& entry : FormCatalogue()) {
             const QString name = PictureName(entry);
-            // In the help pages one picture tells of both modes of a form.
-            if (forHelp_ && entry.prepare != nullptr) continue;
+            if (forHelp_ && LooksLikeAnother(entry)) continue;
             if (entry.make != nullptr && taken.insert(name).second) TakeForm(entry, name, window);
         }
     }

@@ -61,7 +61,28 @@ void WheelFourteenNumbers(Form& form) {
     WheelRandomNumbers(form);
 }
 
+void NamePlayer(Form& form) {
+    Type(form, "Text1", "Anna Miller");
+    Generate(form);
+}
+
 void MarkRandomNumbers(Form& form) { Click(form, "Command12(0)"); }
+
+// Databases.
+
+void ChooseTemplate(Form& form) {
+    auto* templates = Find<QListWidget>(form, "List1");
+    const auto found = templates->findItems(QStringLiteral("UK Thunderball"), Qt::MatchExactly);
+    if (!found.isEmpty()) templates->setCurrentItem(found.first());
+}
+
+void TypeDraw(Form& form) {
+    const QStringList numbers = QStringLiteral("4 12 23 31 40 49").split(QLatin1Char(' '));
+    for (qsizetype place = 0; place < numbers.size(); ++place) {
+        const QByteArray box = QStringLiteral("Text1(%1)").arg(place).toLatin1();
+        Find<QLineEdit>(form, box.constData())->setText(numbers[place]);
+    }
+}
 
 // Entries and analyses.
 
@@ -102,6 +123,10 @@ using Usage = void (*)(Form&);
 
 const std::map<std::string, Usage>& Usages() {
     static const std::map<std::string, Usage> usages = {
+        {"CreateDbase", ChooseTemplate},
+        {"DbaseUpdateW", TypeDraw},
+        {"PLuckyNumbers", NamePlayer},
+        {"PStarSign", Generate},
         {"ANumberStats", SortByLastDraw},
         {"NewSyndicate", NameSyndicate},
         {"PBudgetWheel", WheelInThirdSize},
