@@ -72,7 +72,8 @@ void DbaseUpdate::DownloadAll() {
 void DbaseUpdate::DbaseDownload(int index) {
     using namespace uk_results;
     const std::string name = view().Settings(setting::UkDownloadNames + index);
-    Page page{.address = ToQString(view().Settings(setting::UkDownloadAddresses + index)),
+    Page page{.lottery = ToQString(name),
+              .address = ToQString(view().Settings(setting::UkDownloadAddresses + index)),
               .shortest = shortestPage,
               .workText = WorkText,
               .database = {},

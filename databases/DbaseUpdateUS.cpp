@@ -45,7 +45,8 @@ void DbaseUpdateUS::DownloadAll() {
 // The address as it stands in its box, saved or not.
 void DbaseUpdateUS::DownloadMM() {
     Announce(tr("Connecting to Mega Millions..."));
-    Download({.address = ToQString(Trim(FromQString(Addresses().front().box->text()))),
+    Download({.lottery = tr("Mega Millions"),
+              .address = ToQString(Trim(FromQString(Addresses().front().box->text()))),
               .shortest = shortestPage,
               .workText = MegaMillionsWorkText,
               .database = megaMillionsFile,
@@ -61,7 +62,8 @@ void DbaseUpdateUS::DownloadMM() {
 // The address as it was saved.
 void DbaseUpdateUS::DownloadPB() {
     Announce(tr("Connecting to Powerball site..."));
-    Download({.address = ToQString(view().Settings(setting::PowerballAddress)),
+    Download({.lottery = tr("Powerball"),
+              .address = ToQString(view().Settings(setting::PowerballAddress)),
               .shortest = shortestPage,
               .workText = PowerballWorkText,
               .database = powerballFile,

@@ -26,6 +26,7 @@ namespace {
 
 constexpr std::string_view downloadWorkFile = "Temp.txt";
 constexpr int tenthOfASecond = 100;
+constexpr int longTenths = 20;
 
 }  // namespace
 
@@ -161,9 +162,26 @@ void DownloadForm::Announce(const QString& text) {
 void DownloadForm::Complain(const QString& text) { progress_->addItem(text); }
 
 std::optional<std::string> DownloadForm::Fetch(const Page& page) {
-    std::string bytes = services().fetchURL(page.address);
-    if (bytes.size() < page.shortest) return std::nullopt;
-    return bytes;
+    saidTenths_ = elapsedTenths_;
+    FetchedPage fetched =
+        services().fetchPage(page.address, [this](qsizetype bytes) { SayReceived(bytes); });
+    if (fetched.bytes.size() >= page.shortest) {
+        Say({});
+        return std::move(fetched.bytes);
+    }
+    const QString reason =
+        fetched.problem.isEmpty()
+            ? tr("A page of %1 bytes is too short to hold draws.").arg(fetched.bytes.size())
+            : fetched.problem;
+    Say(page.lottery % tr(": ") % reason);
+    return std::nullopt;
+}
+
+void DownloadForm::SayReceived(qsizetype bytes) {
+    constexpr qsizetype kilobyte = 1024;
+    if (elapsedTenths_ - saidTenths_ < longTenths) return;
+    saidTenths_ = elapsedTenths_;
+    Say(tr("%1 KB so far").arg(bytes / kilobyte));
 }
 
 void DownloadForm::Replace(const Page& page, const std::string& bytes) {

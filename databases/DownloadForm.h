@@ -44,6 +44,7 @@ class DownloadForm : public Form {
 
     /// A page to be had: its work file and its database are made out of it by the two functions.
     struct Page {
+        QString lottery;
         QString address;
         std::size_t shortest;
         std::function<std::string(const std::string& page)> workText;
@@ -76,7 +77,8 @@ class DownloadForm : public Form {
     /// Adds a line that says what went wrong; the choice stays where it is.
     void Complain(const QString& text);
 
-    /// Fetches the page; nothing where it is too short.
+    /// Fetches the page; nothing where it is too short, and why is said beside the buttons. While
+    /// it takes long, so is how much of it has come.
     std::optional<std::string> Fetch(const Page& page);
 
     /// Writes the work file and then the database.
@@ -90,6 +92,7 @@ class DownloadForm : public Form {
     void Download();
     void SaveAddresses();
     void Tick();
+    void SayReceived(qsizetype bytes);
 
     QString saveQuestion_;
     QString heading_;
@@ -99,5 +102,6 @@ class DownloadForm : public Form {
     ListBox* progress_;
     QTimer* timer_;
     std::int16_t elapsedTenths_ = 0;
+    std::int16_t saidTenths_ = 0;  // When something was said last of a page under way.
     std::vector<Address> addresses_;
 };

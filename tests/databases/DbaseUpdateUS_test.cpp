@@ -80,6 +80,26 @@ TEST_F(DownloadingUsDraws, TriesPowerballWhereMegaMillionsIsMissing) {
     EXPECT_TRUE(test_.folder.Exists("dbase069.txt"));
 }
 
+TEST_F(DownloadingUsDraws, SaysWhyAPageIsMissingUntilAnotherComes) {
+    OfferBoth();
+    pages_[AddressOf(setting::MegaMillionsAddress)].clear();
+    QStringList said;
+    onFetch_ = [&] { said += Said(); };
+    Open();
+    Run();
+    EXPECT_EQ(said, (QStringList{{}, QStringLiteral("Mega Millions: No page.")}));
+    EXPECT_EQ(Said(), QString());
+    OfferBoth(400);
+    Open();
+    Run();
+    EXPECT_EQ(Said(), QStringLiteral("Powerball: A page of 400 bytes is too short to hold draws."));
+}
+
+TEST_F(DownloadingUsDraws, LosesNothingWhereAFileCannotBeWritten) {
+    OfferBoth();
+    ExpectEachSaveToBeWholeOrFail("dbase069.txt");
+}
+
 TEST_F(DownloadingUsDraws, TakesAPageOf500BytesAndNoneOf499) {
     OfferBoth(499);
     Open();

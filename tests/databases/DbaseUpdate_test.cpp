@@ -109,6 +109,50 @@ TEST_F(DownloadingUkDraws, LeavesTheChoiceAtAnErrorAndTheWorkFileOfBefore) {
     EXPECT_TRUE(test_.folder.Find("dbase*.txt").empty());
 }
 
+TEST_F(DownloadingUkDraws, SaysWhyAPageIsMissingUntilAnotherComes) {
+    OfferAll();
+    Offer(0, "");
+    Offer(1, PageOf(row, 999));
+    QStringList said;
+    onFetch_ = [&] { said += Said(); };
+    Open();
+    Run();
+    EXPECT_EQ(said, (QStringList{{},
+                                 QStringLiteral("UK Lotto: No page."),
+                                 QStringLiteral("UK Thunderball: A page of 999 bytes is too short "
+                                                "to hold draws."),
+                                 {},
+                                 {}}));
+    EXPECT_EQ(Said(), QString());
+}
+
+TEST_F(DownloadingUkDraws, SaysEveryTwoSecondsHowMuchOfAPageHasCome) {
+    Offer(0, PageOf(row));
+    test_.state.Settings(setting::UkDownloadNames + 1).clear();
+    ticksAFetch_ = 45;
+    Open();
+    Run();
+    EXPECT_EQ(said_.at(18), QString());
+    EXPECT_EQ(said_.at(19), QStringLiteral("20 KB so far"));
+    EXPECT_EQ(said_.at(38), QStringLiteral("20 KB so far"));
+    EXPECT_EQ(said_.at(39), QStringLiteral("40 KB so far"));
+    EXPECT_EQ(Said(), QString());
+}
+
+TEST_F(DownloadingUkDraws, CannotGoOnForever) {
+    Offer(0, PageOf(row));
+    ticksAFetch_ = 32'768;
+    Open();
+    Run();
+    EXPECT_EQ(TakeFailure(), "The download takes longer than its clock can count, 3276.7 seconds.");
+}
+
+TEST_F(DownloadingUkDraws, LosesNothingWhereAFileCannotBeWritten) {
+    Offer(0, PageOf(row));
+    test_.state.Settings(setting::UkDownloadNames + 1).clear();
+    ExpectEachSaveToBeWholeOrFail("dbase100.txt");
+}
+
 TEST_F(DownloadingUkDraws, TakesAPageOf1000BytesAndNoneOf999) {
     Offer(0, PageOf(row, 999));
     Offer(1, PageOf(row, 1000));

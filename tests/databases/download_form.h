@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
@@ -32,13 +33,17 @@ class DownloadFormTest : public testing::Test {
   protected:
     DownloadFormTest() {
         MakeDefaultSettings(test_.state, test_.folder);
-        test_.services.fetchURL = [this](const QString& address) {
+        test_.services.fetchPage = [this](const QString& address, const FetchProgress& progress) {
             fetched_.push_back(address);
             if (onFetch_) onFetch_();
             for (int tick = 0; tick < ticksAFetch_; ++tick) {
                 QMetaObject::invokeMethod(Find<QTimer>(*form_, "Timer1"), "timeout");
+                progress(1024 * (tick + 1));
+                said_.push_back(Said());
             }
-            return pages_[address];
+            const QString problem =
+                pages_[address].empty() ? QStringLiteral("No page.") : QString();
+            return FetchedPage{.bytes = pages_[address], .problem = problem};
         };
     }
 
@@ -53,6 +58,9 @@ class DownloadFormTest : public testing::Test {
     QString AddressOf(int slot) { return ToQString(test_.state.Settings(slot)); }
 
     ListBox& List() { return *Find<ListBox>(*form_, "List2"); }
+
+    /// What stands beside the buttons.
+    QString Said() { return Find<QLabel>(*form_, "Said")->text(); }
 
     QPushButton& Button(const char* name) { return *Find<QPushButton>(*form_, name); }
 
@@ -92,6 +100,30 @@ class DownloadFormTest : public testing::Test {
         EXPECT_TRUE(Progress().isEmpty());
     }
 
+    void ExpectEachSaveToBeWholeOrFail(const std::string& database) {
+        test_.folder.Write(database, "old draws");
+        const auto before = test_.folder.Snapshot();
+        for (std::size_t operation = 0;; ++operation) {
+            Open();
+            test_.folder.FailAtOperation(operation);
+            Run();
+            test_.folder.FailAtOperation(std::nullopt);
+            if (!TakeFailure()) break;
+            EXPECT_EQ(test_.folder.Read(database), "old draws") << operation;
+            ASSERT_LT(operation, 20U);
+        }
+        EXPECT_NE(test_.folder.Read(database), before.at(database));
+        for (std::size_t bytes = 0; bytes < 3000; bytes += 100) {
+            test_.folder.Write(database, "old draws");
+            Open();
+            test_.folder.FailAfterBytes(bytes);
+            Run();
+            test_.folder.FailAfterBytes(std::nullopt);
+            const bool failed = TakeFailure().has_value();
+            EXPECT_EQ(test_.folder.Read(database) == "old draws", failed) << bytes;
+        }
+    }
+
     void ExpectNoClosingMeanwhile() {
         Open();
         onFetch_ = [this] {
@@ -108,6 +140,7 @@ class DownloadFormTest : public testing::Test {
     TestProgram test_;
     std::map<QString, std::string> pages_;
     std::vector<QString> fetched_;
+    QStringList said_;
     std::function<void()> onFetch_;
     int ticksAFetch_ = 0;
     std::unique_ptr<FormType> form_;

@@ -53,7 +53,10 @@ Session::Session(const QString& path, Record& record)
                 .saveLines = [this](Form* form, Grid& grid) { SaveLines(program_, form, grid); },
                 .printLines = {}},
       program_{.state = state, .folder = folder, .services = services_} {
-    services_.fetchURL = [this](const QString& address) { return pages[address]; };
+    services_.fetchPage = [this](const QString& address, const FetchProgress&) {
+        const QString problem = pages[address].empty() ? QStringLiteral("No page.") : QString();
+        return FetchedPage{.bytes = pages[address], .problem = problem};
+    };
     services_.chooseFolder = [this](QWidget*, const QString&) { return chosenPath; };
     services_.openFolder = [](const QString& other) { return std::make_shared<DiskFolder>(other); };
     services_.folderPath = path;

@@ -11,6 +11,7 @@
 #include <QSslConfiguration>
 #include <QSslKey>
 #include <QSslServer>
+#include <QTcpSocket>
 #include <QTimer>
 
 #include "test_folders.h"
@@ -54,6 +55,8 @@ QString LocalServer::Address(const QString& path) const {
     return QStringLiteral("%1://127.0.0.1:%2/%3").arg(scheme_).arg(server_->serverPort()).arg(path);
 }
 
+void LocalServer::Close() { server_->close(); }
+
 QString LocalServer::Certificate() { return QStringLiteral(TEST_DATA "/server.pem"); }
 
 void LocalServer::Read(QTcpSocket& socket) {
@@ -92,6 +95,10 @@ ServerAnswer Sends(const QByteArray& bytes) {
         socket.write(bytes);
         socket.disconnectFromHost();
     };
+}
+
+ServerAnswer SendsAndStays(const QByteArray& bytes) {
+    return [bytes](QTcpSocket& socket) { socket.write(bytes); };
 }
 
 ServerAnswer SendsAndResets(const QByteArray& bytes) {
@@ -169,13 +176,10 @@ std::map<std::string, ServerAnswer> Misbehaviours(const QByteArray& page) {
         {"speaks no HTTP", Sends("what?\r\n\r\n" + page)},
         {"sends the page and nothing else", Sends(page)},
         {"hangs up in the head", Sends("HTTP/1.1 200 OK\r\n" + length)},
-        {"never answers", [](QTcpSocket&) {}},
-        {"stops in the middle",
-         [=](QTcpSocket& socket) { socket.write(HttpReply("200 OK", length, half)); }},
+        {"never answers", SendsAndStays({})},
+        {"stops in the middle", SendsAndStays(HttpReply("200 OK", length, half))},
         {"stops between two chunks",
-         [=](QTcpSocket& socket) {
-             socket.write(HttpReply("200 OK", chunked, InChunks(half, 100)));
-         }},
+         SendsAndStays(HttpReply("200 OK", chunked, InChunks(half, 100)))},
         {"drips", SendsForever(HttpReply("200 OK", {}, {}), "x", pause)},
         {"drips in the head", SendsForever("HTTP/1.1 200 OK\r\nX-Drips: ", "x", pause)},
         {"goes on announcing",

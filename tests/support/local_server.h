@@ -5,13 +5,15 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
+
+class QTcpServer;
+class QTcpSocket;
 
 /// What a server does with a connection when a request has come.
 using ServerAnswer = std::function<void(QTcpSocket& socket)>;
@@ -31,7 +33,7 @@ class LocalServer final : public QObject {
     /// The file with the certificate of a safe server.
     static QString Certificate();
 
-    void Close() { server_->close(); }
+    void Close();
 
     /// By path, or by the whole address where the server is asked as a proxy.
     std::map<QByteArray, ServerAnswer> answers;
@@ -56,6 +58,9 @@ QByteArray InChunks(const QByteArray& body, qsizetype size);
 
 /// Answers with these bytes and closes the connection.
 ServerAnswer Sends(const QByteArray& bytes);
+
+/// Answers with these bytes and keeps the connection.
+ServerAnswer SendsAndStays(const QByteArray& bytes);
 
 /// Answers with these bytes and breaks the connection off.
 ServerAnswer SendsAndResets(const QByteArray& bytes);

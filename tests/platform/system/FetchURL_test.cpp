@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/FetchURL.h"
 
+#include <QTcpSocket>
 #include <QTimer>
 
 #include "platform/system/unpack.h"
