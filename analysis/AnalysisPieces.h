@@ -38,9 +38,11 @@ void SetRatios(Chart& chart, const Counts& counts, int picks, const QString& wor
     chart.SetRankedRows(inUse);
 }
 
-/// A row for each number from 1 to `highest`.
+/// A row for each number from 1 to `highest`. Where the counts do not go so far the failure comes
+/// first, as a chart of a thousand million rows takes all memory.
 template <typename Counts>
 void SetNumbers(Chart& chart, const Counts& counts, int highest) {
+    if (highest > 0) static_cast<void>(counts(highest));
     chart.SetRowCount(highest);
     for (int number = 1; number <= highest; ++number) {
         chart.SetRowLabel(number, QString::number(number));

@@ -2,6 +2,7 @@
 #include "core/database_summary.h"
 
 #include "core/field_reader.h"
+#include "core/text.h"
 
 DatabaseSummary SummaryOf(const ProgramFolder& folder, const std::string& file,
                           const Region& region, Date today) {
@@ -27,4 +28,14 @@ std::vector<std::string_view> DrawLines(std::string_view content) {
 
 std::optional<Date> DateOfLine(std::string_view line, const Region& region, Date today) {
     return ReadDate(line.substr(0, line.find(',')), region, today);
+}
+
+std::string LotteryInUse(const State& state) {
+    if (state.DbaseFile.empty()) return {};
+    std::string thirdLine = PlainDigits(state.Picks);
+    for (const int field : {state.MaxNum, state.HasPball, state.MaxPball, int{state.HasBonus}}) {
+        thirdLine += ',' + PlainDigits(field);
+    }
+    return "The lottery in use is " + Quoted(state.LotteryName) + " of " + state.DbaseFile +
+           ", whose third line says " + Quoted(thirdLine) + ".";
 }

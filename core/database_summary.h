@@ -8,6 +8,7 @@
 
 #include "core/date.h"
 #include "core/program_folder.h"
+#include "core/state.h"
 
 /// What a draw database holds, as far as it can be read: whoever wants to open or delete a damaged
 /// one is to see what there is.
@@ -28,3 +29,7 @@ std::vector<std::string_view> DrawLines(std::string_view content);
 
 /// The date that a draw's line begins with; none where it cannot be read.
 std::optional<Date> DateOfLine(std::string_view line, const Region& region, Date today);
+
+/// Which lottery is in use, for a report: its name, its file, and what the file's third line says.
+/// Empty where no database has been loaded.
+std::string LotteryInUse(const State& state);

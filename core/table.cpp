@@ -3,17 +3,18 @@
 
 #include <string>
 
-#include "core/failure.h"
+#include "core/outside_table.h"
 
 void FailOutsideTable(const char* name, long long row, long long column, std::size_t rows,
                       std::size_t columns) {
-    throw Failure("The table of " + std::string(name) + " was asked for row " +
-                  std::to_string(row) + ", column " + std::to_string(column) +
-                  "; its last row is " + std::to_string(rows - 1) + ", its last column " +
-                  std::to_string(columns - 1) + ".");
+    throw OutsideTable("The table of " + std::string(name) + " was asked for row " +
+                       std::to_string(row) + ", column " + std::to_string(column) +
+                       "; its last row is " + std::to_string(rows - 1) + ", its last column " +
+                       std::to_string(columns - 1) + ".");
 }
 
 void FailOutsideList(const char* name, long long index, std::size_t size) {
-    throw Failure("The list of " + std::string(name) + " was asked for entry " +
-                  std::to_string(index) + "; its last entry is " + std::to_string(size - 1) + ".");
+    throw OutsideTable("The list of " + std::string(name) + " was asked for entry " +
+                       std::to_string(index) + "; its last entry is " + std::to_string(size - 1) +
+                       ".");
 }

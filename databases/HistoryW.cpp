@@ -18,6 +18,7 @@
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NumberBox.h"
 #include "platform/widgets/NumberColours.h"
+#include "platform/widgets/Readable.h"
 
 void HistoryW::Load() {
     Skinning(QStringLiteral("SkinDatabases.jpg"), {.title = {QStringLiteral("Label2")},
@@ -43,7 +44,7 @@ void HistoryW::CloseIfEmpty() {
 void HistoryW::ChooseLottery() {
     const Hourglass hourglass;
     LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
-    lotteryName_->setText(ToQString(state().LotteryName));
+    lotteryName_->setText(Readable(ToQString(state().LotteryName)));
     grid_->ClearCells();
     ShowHeadings();
     ShowDraws();

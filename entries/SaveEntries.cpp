@@ -10,6 +10,7 @@
 #include "core/draw_days.h"
 #include "core/settings.h"
 #include "core/text.h"
+#include "entries/CommaWarning.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Commands.h"
@@ -54,6 +55,7 @@ QLayout* SaveEntries::BuildInputs() {
              MakeBody(QStringLiteral("Label6"),
                       tr("It is essential that you set the lottery draw date. It is used when "
                          "checking entries.")));
+    WarnOfCommas(*player_);
     grid->setRowStretch(row, 1);
     return grid;
 }

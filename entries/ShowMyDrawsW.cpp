@@ -46,8 +46,15 @@ void ShowMyDrawsW::Load() {
                    QStringLiteral("DeleteLabel"), QStringLiteral("SortLabel")},
          .status = {QStringLiteral("CheckSummary")}});
     date_->SetValue(services().today());
-    LoadMyDraws(entryTable_, folder());
+    TellUnread(LoadMyDraws(entryTable_, folder()));
     DisplayMyDraws();
+}
+
+void ShowMyDrawsW::TellUnread(int entries) {
+    unread_->setText(tr("MyLottery.txt holds %1 entries more than are shown here. They are neither "
+                        "checked nor kept when you save.")
+                         .arg(entries));
+    unread_->setVisible(entries > 0);
 }
 
 void ShowMyDrawsW::DisplayMyDraws() {
@@ -199,6 +206,7 @@ void ShowMyDrawsW::Save() {
     const std::vector<SavedEntry> entries = EntriesInGrid(*grid_);
     if (!entries.empty()) {
         WriteEntries(folder(), entries);
+        TellUnread(0);
     } else if (folder().Exists(savedEntriesFile)) {
         DeleteKeepingOld(folder(), savedEntriesFile);
     }

@@ -52,6 +52,9 @@ class ShowMyDrawsW final : public Form {
     QLayout* MakeActions();
 
     void ToggleButtons();
+    /// Says how many entries of the file do not stand in the table; hidden where there are none.
+    void TellUnread(int entries);
+
     void DisplayMyDraws();
     void ShowRowsInUse();
     void GoToFirstCell();
@@ -95,5 +98,6 @@ class ShowMyDrawsW final : public Form {
     QPlainTextEdit* report_;
     QWidget* colourKey_;
     QLabel* checkSummary_;
+    QLabel* unread_;
     std::vector<QPushButton*> commands_;
 };

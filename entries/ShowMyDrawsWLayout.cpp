@@ -52,6 +52,9 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
     body->setSpacing(8);
     body->addWidget(title);
     body->addWidget(MakeGrid(*title), 3);
+    body->addWidget(unread_ = Named(new QLabel, QStringLiteral("UnreadEntries")));
+    unread_->setWordWrap(true);
+    unread_->hide();
     body->addWidget(checkSummary_ = Named(new ElidingLabel, QStringLiteral("CheckSummary")));
     body->addWidget(MakeBelow(), 2);
     LayOutForm(this, MakeTitle(QStringLiteral("Label8"), tr("Stored lottery entries")), explanation,

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "entries/CommaWarning.h"
 #include "entries/EntryGrid.h"
 #include "entries/StoreMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
@@ -60,6 +61,7 @@ QLayout* StoreMyDrawsW::MakeTop() {
     QLabel* playerTitle = MakeLabel(QStringLiteral("LabelPName"), tr("Player/syndicate:"));
     player_ = Titled(playerTitle, Named(new QLineEdit, QStringLiteral("TextPName")));
     player_->setToolTip(tr(" Enter the player's name or syndicate name "));
+    WarnOfCommas(*player_);
 
     auto* lottery = new QVBoxLayout;
     lottery->setSpacing(4);

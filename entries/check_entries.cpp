@@ -163,6 +163,20 @@ EntryCheck::Database& EntryCheck::DatabaseOf(const std::string& file) {
 }
 
 std::optional<EntryMatch> EntryCheck::Check(const SavedEntry& entry, int row) {
+    try {
+        return Compare(entry, row);
+    } catch (const Failure& failure) {
+        // A line of a database tells its own place; of all else only the check knows which entry
+        // led to it.
+        const std::string& database = entry[entry_column::database];
+        const std::string_view text = failure.what();
+        if (text.starts_with(EntryPlace(row)) || text.starts_with(database + ", line ")) throw;
+        throw Failure(EntryPlace(row) + ", checked against " + Quoted(database) + ": " +
+                      std::string(text));
+    }
+}
+
+std::optional<EntryMatch> EntryCheck::Compare(const SavedEntry& entry, int row) {
     state_.DbaseFile = entry[entry_column::database];
     Database& database = DatabaseOf(state_.DbaseFile);
     database.ReadLottery(state_);

@@ -65,6 +65,7 @@ class EntryCheck {
     const CheckSummary& Summary() const { return summary_; }
 
   private:
+    std::optional<EntryMatch> Compare(const SavedEntry& entry, int row);
     class Database;
 
     Database& DatabaseOf(const std::string& file);

@@ -62,13 +62,16 @@ std::string EntryPlace(int row) {
     return std::string(savedEntriesFile) + ", row " + std::to_string(row) + " as shown";
 }
 
-void LoadMyDraws(EntryTable& table, const ProgramFolder& folder) {
-    if (!folder.Exists(savedEntriesFile)) return;
+int LoadMyDraws(EntryTable& table, const ProgramFolder& folder) {
+    if (!folder.Exists(savedEntriesFile)) return 0;
     const std::string content = folder.Read(savedEntriesFile);
     FieldReader reader(content, savedEntriesFile);
     for (int row = 1; row <= lastEntry && !reader.AtEnd(); ++row) {
         ReadEntry(reader, table.Row(row));
     }
+    int unread = 0;
+    for (; !reader.AtEnd(); ++unread) reader.ReadLine("an entry");
+    return unread;
 }
 
 void SortByDate(EntryTable& table, const Region& region, Date today) {

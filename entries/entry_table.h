@@ -17,8 +17,9 @@ using EntryTable = Table<std::string, 501, 12>;
 std::string EntryPlace(int row);
 
 /// Reads the first 499 entries of `MyLottery.txt`; further ones are not read, and where there is no
-/// such file nothing is. An entry that the end of the file cuts short is a `Failure`.
-void LoadMyDraws(EntryTable& table, const ProgramFolder& folder);
+/// such file nothing is. An entry that the end of the file cuts short is a `Failure`. Returns how
+/// many lines were left unread.
+int LoadMyDraws(EntryTable& table, const ProgramFolder& folder);
 
 /// Sorts by draw date, the latest first; entries of one date keep their order. Where two entries or
 /// more are there, a date that cannot be read is a `Failure`.

@@ -6,28 +6,13 @@
 #include <cstdlib>
 #include <new>
 
-#include "core/failure.h"
+#include "core/outside_table.h"
 #include "platform/system/FailureReport.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/OutlinedStyle.h"
 
 // A static library's resources are linked in only where somebody asks for them.
 static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
-
-namespace {
-
-QString ReportOf(const std::exception& error) {
-    if (const auto* failure = dynamic_cast<const Failure*>(&error)) {
-        return ToQString(failure->what());
-    }
-    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
-        return Application::tr("The memory of the computer is used up.");
-    }
-    return Application::tr("Something happened that the program does not foresee: %1")
-        .arg(QString::fromLocal8Bit(error.what()));
-}
-
-}  // namespace
 
 Application::Application(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
@@ -37,6 +22,20 @@ Application::Application(int& argumentCount, char** arguments)
     setStyle(new OutlinedStyle);
     QIcon::setFallbackThemeName(QStringLiteral("breeze"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/quillon.svg")));
+}
+
+QString Application::ReportOf(const std::exception& error) const {
+    if (const auto* failure = dynamic_cast<const Failure*>(&error)) {
+        const QString text = ToQString(failure->what());
+        const bool outside = dynamic_cast<const OutsideTable*>(failure) != nullptr;
+        const QString inUse = outside ? inUse_() : QString();
+        return inUse.isEmpty() ? text : text % QStringLiteral("\n\n") % inUse;
+    }
+    if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) {
+        return tr("The memory of the computer is used up.");
+    }
+    return tr("Something happened that the program does not foresee: %1")
+        .arg(QString::fromLocal8Bit(error.what()));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

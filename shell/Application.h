@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <functional>
+#include <utility>
 
 /// The application, and the one place where a failure ends.
 ///
@@ -18,11 +19,17 @@ class Application final : public QApplication {
     /// Runs the program under the same guard, for what fails before the event loop.
     int Run(const std::function<int()>& program);
 
+    /// What reports add where a table in memory was asked for a place that it does not have: what
+    /// was being worked on. May be asked for long after the program's own function has ended.
+    void TellWhatWasInUse(std::function<QString()> inUse) { inUse_ = std::move(inUse); }
+
     /// Ends the process at once, whatever is open.
     [[noreturn]] static void End(int exitCode);
 
   private:
+    QString ReportOf(const std::exception& error) const;
     void ReportAndEnd(const QString& text);
 
+    std::function<QString()> inUse_ = [] { return QString(); };
     bool reporting_ = false;
 };

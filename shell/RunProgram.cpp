@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "core/database_summary.h"
 #include "entries/AppendShownLines.h"
 #include "platform/forms/Form.h"
 #include "platform/forms/PrintPreview.h"
@@ -20,6 +21,7 @@
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/OpenPage.h"
+#include "platform/system/TextConversion.h"
 #include "platform/system/WindowStates.h"
 #include "printing/PrintRoutines.h"
 #include "shell/Application.h"
@@ -38,7 +40,9 @@ void OfferDialogs(Services& services) {
 }  // namespace
 
 int RunProgram(const QString& folderPath) {
-    const auto state = std::make_unique<State>();
+    const auto state = std::make_shared<State>();
+    static_cast<Application*>(qApp)->TellWhatWasInUse(
+        [state] { return ToQString(LotteryInUse(*state)); });
     DiskFolder folder(folderPath);
     Random random(SeedOfTheMoment);
     DesktopMessageBoxes messages;

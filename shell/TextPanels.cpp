@@ -9,6 +9,7 @@
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/NotesControls.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
 
 DatabasesPanel::DatabasesPanel(QWidget* parent)
@@ -43,8 +44,8 @@ SyndicatePanel::SyndicatePanel(QWidget* parent)
 }
 
 void SyndicatePanel::ShowSyndicate(const std::string& name, const std::string& manager) {
-    name_->setText(ToQString(name));
-    manager_->setText(ToQString(manager));
+    name_->setText(Readable(ToQString(name)));
+    manager_->setText(Readable(ToQString(manager)));
 }
 
 NotesPanel::NotesPanel(QWidget* parent)
@@ -62,6 +63,6 @@ NotesPanel::NotesPanel(QWidget* parent)
 
 std::string NotesPanel::Note() const { return NoteIn(*note_); }
 
-void NotesPanel::ShowNote(const std::string& note) { note_->setPlainText(ToQString(note)); }
+void NotesPanel::ShowNote(const std::string& note) { ::ShowNote(*note_, note); }
 
 void NotesPanel::TakeFocus() { note_->setFocus(); }

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
 #include "shell/Sheet.h"
 #include "shell/WelcomeLink.h"
@@ -79,7 +80,7 @@ void Welcome::Suit(const LotteriesAtHand& lotteries, bool entriesSaved) {
 
 void Welcome::WordDraw(const OwnLottery& lottery) {
     lottery_ = lottery.index;
-    const QString name = ToQString(lottery.name);
+    const QString name = Readable(ToQString(lottery.name));
     const QString caption = lottery.newest ? tr("Add the latest draw of %1 (newest: %2)")
                                                  .arg(Shortened(name), ShownDate(*lottery.newest))
                                            : tr("Add the first draw of %1").arg(Shortened(name));

@@ -11,6 +11,7 @@
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
 #include "syndicates/members.h"
 
@@ -21,8 +22,8 @@ void SMembers::Load() {
                                                     .body = {QStringLiteral("Label7")},
                                                     .small = small,
                                                     .status = {}});
-    syndicate_->setText(ToQString(view().Members(0, member_column::SyndicateName)));
-    manager_->setText(ToQString(view().Members(0, member_column::Name)));
+    syndicate_->setText(Readable(ToQString(view().Members(0, member_column::SyndicateName))));
+    manager_->setText(Readable(ToQString(view().Members(0, member_column::Name))));
     FillList();
     dirty_.Clear();
 }

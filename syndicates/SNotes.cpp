@@ -101,7 +101,7 @@ void SNotes::Load() {
     if (folder().Exists(syndicateNotesFile)) {
         const Notes notes = ReadSyndicateNotes(folder());
         checklist_->Show(notes.checklist);
-        note_->setPlainText(ToQString(notes.note));
+        ShowNote(*note_, notes.note);
     }
     dirty_.Clear();
 }

@@ -9,6 +9,7 @@
 #include "core/text.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
+#include "platform/widgets/Readable.h"
 
 namespace {
 
@@ -33,7 +34,8 @@ QString DatabaseInWords(const Program& program, const std::string& file) {
     const Services& services = program.services;
     const DatabaseSummary summary =
         SummaryOf(program.folder, file, services.region, services.today());
-    QStringList words = {ToQString(summary.lottery), ToQString(file), DrawsInWords(summary.draws)};
+    QStringList words = {Readable(ToQString(summary.lottery)), ToQString(file),
+                         DrawsInWords(summary.draws)};
     if (summary.oldest && summary.newest) words += Period(*summary.oldest, *summary.newest);
     return words.join(QStringLiteral(", "));
 }

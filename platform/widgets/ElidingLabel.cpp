@@ -6,6 +6,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include "platform/widgets/Readable.h"
+
 ElidingLabel::ElidingLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -18,7 +20,7 @@ QStringList ElidingLabel::Lines() const {
 QStringList ElidingLabel::FittingLines() const {
     QStringList lines = Lines();
     for (QString& line : lines) {
-        line = fontMetrics().elidedText(line, Qt::ElideRight, contentsRect().width());
+        line = fontMetrics().elidedText(Readable(line), Qt::ElideRight, contentsRect().width());
     }
     return lines;
 }

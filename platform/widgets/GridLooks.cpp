@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/widgets/Grid.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/WindowShade.h"
 
 namespace {
@@ -52,6 +53,7 @@ GridDelegate::GridDelegate(const Grid& grid, QObject* parent)
 
 void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
+    option->text = Readable(option->text);
     const int row = index.row() + 1;
     if (!grid_.InUse(row, index.column())) option->backgroundBrush = grid_.UnusedColour();
     const QColor background = grid_.CellBackground(row, index.column());

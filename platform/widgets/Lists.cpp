@@ -10,6 +10,7 @@
 
 #include "core/failure.h"
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Readable.h"
 
 namespace {
 
@@ -28,6 +29,12 @@ class RowDelegate final : public QStyledItemDelegate {
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
         constexpr int air = 8;
         return {0, option.fontMetrics.height() + air};
+    }
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = Readable(option->text);
     }
 };
 
@@ -75,7 +82,7 @@ bool ListBox::viewportEvent(QEvent* event) {
 
 QString ListBox::TipOf(const QModelIndex& index) const {
     if (tips_) return tips_(index.row());
-    const QString text = index.data().toString();
+    const QString text = Readable(index.data().toString());
     const int margin = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1);
     const bool cut = fontMetrics().horizontalAdvance(text) + margin > visualRect(index).width();
     return cut ? text : QString();

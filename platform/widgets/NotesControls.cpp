@@ -2,6 +2,7 @@
 #include "platform/widgets/NotesControls.h"
 
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -9,11 +10,15 @@
 #include <algorithm>
 
 #include "platform/system/TextConversion.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
 
 constexpr int clearHeight = 24;  // eight rows fit a low screen
+
+constexpr qsizetype longestLineOfNote = 20000;
+constexpr const char* wholeNote = "wholeNote";
 
 }  // namespace
 
@@ -80,10 +85,10 @@ int Checklist::WidestItem() const {
 
 void Checklist::SetCaption(std::size_t index, const QString& caption) {
     captions_.at(index) = caption;
-    items_.at(index)->setText(ShownCaption(caption));
+    items_.at(index)->setText(ShownCaption(Readable(caption)));
     const QString number = QString::number(index + 1);
     items_.at(index)->setAccessibleName(caption.isEmpty() ? tr("Empty item %1").arg(number)
-                                                          : caption);
+                                                          : Readable(caption));
     clear_.at(index)->setAccessibleName(tr("Clear item %1").arg(number));
 }
 
@@ -101,7 +106,26 @@ void Checklist::ClearItem(std::size_t index) {
     Q_EMIT changed();
 }
 
+void ShowNote(QPlainTextEdit& box, const std::string& note) {
+    const QString text = ToQString(note);
+    QStringList lines = text.split(QLatin1Char('\n'));
+    const auto tooLong = [](const QString& line) { return line.size() > longestLineOfNote; };
+    const bool cut = std::ranges::any_of(lines, tooLong);
+    box.setProperty(wholeNote, cut ? QVariant(QByteArray::fromStdString(note)) : QVariant());
+    box.setReadOnly(cut);
+    box.setToolTip(cut ? QCoreApplication::translate(
+                             "ShowNote",
+                             "A line of this note is too long to be shown. The note is kept as "
+                             "it is; to change it, open its file in an editor.")
+                       : QString());
+    if (!cut) return box.setPlainText(text);
+    for (QString& line : lines) line = Readable(line);
+    box.setPlainText(lines.join(QLatin1Char('\n')));
+}
+
 std::string NoteIn(const QPlainTextEdit& note) {
+    const QVariant whole = note.property(wholeNote);
+    if (whole.isValid()) return whole.toByteArray().toStdString();
     // The raw text keeps hard blanks, which the plain text would turn into common ones.
     QString text = note.document()->toRawText();
     text.replace(QChar::ParagraphSeparator, QStringLiteral("\r\n"));

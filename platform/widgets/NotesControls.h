@@ -55,5 +55,9 @@ class Checklist final : public QObject {
     QPushButton* add_ = nullptr;
 };
 
+/// Shows a note. One with a line that nobody could read, longer than a sheet of paper is full, is
+/// shown cut and cannot be typed in; its tip says so, and `NoteIn` gives it back whole.
+void ShowNote(QPlainTextEdit& box, const std::string& note);
+
 /// The text of a note, with CR LF for its line ends; hard blanks stay what they are.
 std::string NoteIn(const QPlainTextEdit& note);

@@ -11,6 +11,7 @@
 #include "core/settings.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/Lists.h"
+#include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 #include "tests/support/hot_cold.h"
 #include "tests/support/hourglass_watch.h"
@@ -366,6 +367,17 @@ TEST_F(CommonNumbersForm, ChartsWhatAPlainCountGivesOnRealHistoriesInBothModes) 
             EXPECT_EQ(Text(tenNumbers).split(QStringLiteral(", ")).size(), 10);
         }
     }
+}
+
+TEST_F(CommonNumbersForm, AThousandMillionNumbersEndTheRunBeforeTheChartIsMade) {
+    AddLottery(test_.folder, "dbase000.txt", "Huge", "6,1000000000,0,0,0",
+               {"28 May 05,1,2,3,4,5,6,0,0"});
+    form_ = std::make_unique<ACommonNumbers>(test_.program, nullptr);
+    EXPECT_EQ(
+        FailureOf([&] { form_->Load(); }),
+        "The list of counts of main numbers was asked for entry 1000000000; its last entry is "
+        "70.");
+    EXPECT_EQ(MainChart().rowCount(), 0);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/AppendShownLines.h"
 
+#include <QAction>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,6 +68,22 @@ class SavingLines : public testing::Test {
     LinesForm form_{test_.program};
     Grid& grid_ = *form_.grid;
 };
+
+TEST_F(SavingLines, AnyCommaInTheNameIsWarnedOfAlsoInTheNameOfLastTime) {
+    test_.state.Settings(setting::PlayerName) = "Smith, Ann";
+    ShowSomeLines(1);
+    Save([](QDialog& dialog) {
+        auto& name = *Find<QLineEdit>(dialog, nameBox);
+        const auto* mark = name.findChild<QAction*>(QStringLiteral("CommaWarning"));
+        ASSERT_NE(mark, nullptr);
+        EXPECT_TRUE(mark->isVisible());
+        EXPECT_TRUE(name.toolTip().startsWith(QStringLiteral("A comma divides the fields")));
+        name.clear();
+        EXPECT_FALSE(mark->isVisible());
+        EXPECT_EQ(name.toolTip(), QString());
+        Click(dialog, cancelButton);
+    });
+}
 
 TEST_F(SavingLines, DoesNothingWithAnEmptyGrid) {
     SaveLines(test_.program, &form_, grid_);

@@ -266,6 +266,20 @@ TEST_F(ShowingEntries, OfSixHundredTheFirst499AreShownAndSaved) {
     EXPECT_EQ(File(), ManyEntries(499));
 }
 
+TEST_F(ShowingEntries, EntriesThatAreNotShownAreToldAsLongAsTheFileHoldsThem) {
+    Open(ManyEntries(600));
+    const auto* unread = Find<QLabel>(*form_, "UnreadEntries");
+    EXPECT_TRUE(unread->isVisible());
+    EXPECT_TRUE(unread->text().startsWith(QStringLiteral("MyLottery.txt holds 101 entries more")));
+    Run(saveButton);
+    EXPECT_FALSE(unread->isVisible());
+}
+
+TEST_F(ShowingEntries, NothingIsToldOf499Entries) {
+    Open(ManyEntries(499));
+    EXPECT_FALSE(Find<QLabel>(*form_, "UnreadEntries")->isVisible());
+}
+
 TEST_F(ShowingEntries, AClickOnACellFillsTheEditBox) {
     Open();
     ClickCell(2, 10);

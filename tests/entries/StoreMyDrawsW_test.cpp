@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "entries/StoreMyDrawsW.h"
 
+#include <QAction>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
@@ -95,6 +96,22 @@ class StoringEntries : public testing::Test {
     TestProgram test_;
     std::unique_ptr<StoreMyDrawsW> form_;
 };
+
+TEST_F(StoringEntries, TheNameBoxWarnsAsLongAsACommaStandsInIt) {
+    Open();
+    auto& name = *Find<QLineEdit>(*form_, nameBox);
+    const auto* mark = name.findChild<QAction*>(QStringLiteral("CommaWarning"));
+    ASSERT_NE(mark, nullptr);
+    EXPECT_FALSE(mark->isVisible());
+    name.setText(QStringLiteral("Smith, Ann"));
+    EXPECT_TRUE(mark->isVisible());
+    EXPECT_FALSE(mark->icon().isNull());
+    EXPECT_TRUE(name.toolTip().startsWith(QStringLiteral("A comma divides the fields")));
+    EXPECT_EQ(name.accessibleDescription(), name.toolTip());
+    name.setText(QStringLiteral("Smith Ann"));
+    EXPECT_FALSE(mark->isVisible());
+    EXPECT_EQ(name.toolTip(), QStringLiteral(" Enter the player's name or syndicate name "));
+}
 
 TEST_F(StoringEntries, BearsItsWords) {
     Open();

@@ -82,6 +82,15 @@ TEST_F(SavedTable, HoldsTheFirst499OfSixHundredEntries) {
     EXPECT_EQ(table(500, 0), "");
 }
 
+TEST_F(SavedTable, TellsHowManyLinesWereNotRead) {
+    folder.Write("MyLottery.txt", Entries(600));
+    EXPECT_EQ(LoadMyDraws(table, folder), 101);
+    folder.Write("MyLottery.txt", Entries(499));
+    EXPECT_EQ(LoadMyDraws(table, folder), 0);
+    folder.Delete("MyLottery.txt");
+    EXPECT_EQ(LoadMyDraws(table, folder), 0);
+}
+
 TEST_F(SavedTable, HalfARecordEndsTheRun) {
     EXPECT_EQ(FailureOf([&] { Load(Entries(1) + "28 May 05,1,2,3"); }),
               "MyLottery.txt, line 2: expected number 4 of an entry, but the file ends there.");

@@ -58,12 +58,12 @@ class Process : public testing::Test {
 
     /// Starts the program, which must report one failure that tells `told`, end with exit code 1
     /// and leave every file as it was.
-    void ExpectReport(const std::vector<std::string>& told) {
+    void ExpectReport(const std::vector<std::string>& told, const QStringList& arguments = {}) {
         QDir(folderPath).mkdir(QStringLiteral("Backup"));
         if (!QFile::exists(folderPath + QStringLiteral("/quillon.ini")))
             WriteSettings(setting::PlayerName, "");
         const auto before = Files();
-        const Outcome outcome = RunToItsEnd();
+        const Outcome outcome = RunToItsEnd(arguments);
         EXPECT_EQ(outcome.exitCode, 1);
         EXPECT_FALSE(outcome.crashed);
         EXPECT_TRUE(outcome.output.starts_with("title: Lottery Quillon World\nbuttons: 1\ntext: "))
@@ -102,6 +102,12 @@ TEST_F(Process, SeventySevenDatabasesAreReported) {
         Write(name.c_str(), "Lottery\r\n\r\n6\r\n49\r\n0\r\n0\r\n0\r\n");
     }
     ExpectReport({});
+}
+
+TEST_F(Process, ALotteryBeyondATableIsReportedWithItsFileAndThirdLine) {
+    Write("dbase1.txt", "Huge\r\n\r\n6,1000000000,0,0,0\r\n28 May 05,1,2,3,4,5,6,0,0\r\n");
+    ExpectReport({"counts of main numbers", "\"Huge\" of dbase1.txt", "\"6,1000000000,0,0,0\""},
+                 {QStringLiteral("trigger=AnalyseColdNums")});
 }
 
 TEST_F(Process, AMalformedBirthDateIsReported) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the program on a folder for tests that need a whole process: it prints the report of a
 // failure and presses its button, and it closes the main window where it is asked to quit.
+#include <QAction>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -31,17 +32,36 @@ void CloseWindow() {
 
 }  // namespace
 
+/// Triggers the menu entry that an argument "trigger=NAME" names, once.
+void TriggerEntry(const QStringList& given) {
+    static bool triggered = false;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (triggered || widget->objectName() != QStringLiteral("Quillon") ||
+            !widget->isVisible()) {
+            continue;
+        }
+        for (const QString& argument : given) {
+            if (!argument.startsWith(QStringLiteral("trigger="))) continue;
+            triggered = true;
+            auto* entry = widget->findChild<QAction*>(argument.section(QLatin1Char('='), 1));
+            QTimer::singleShot(0, widget, [entry] { entry->trigger(); });
+        }
+    }
+}
+
 int main(int argumentCount, char** arguments) {
     Application application(argumentCount, arguments);
     const QStringList given = QApplication::arguments();
     QTimer hand;
     hand.setInterval(0);
     QObject::connect(
-        &hand, &QTimer::timeout, &hand, [quit = given.contains(QStringLiteral("quit"))] {
+        &hand, &QTimer::timeout, &hand, [&given, quit = given.contains(QStringLiteral("quit"))] {
             if (auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
                 CloseReport(*report);
             } else if (quit) {
                 CloseWindow();
+            } else {
+                TriggerEntry(given);
             }
         });
     hand.start();

@@ -32,6 +32,13 @@ struct AnElidingLabel : testing::Test {
     ElidingLabel label;
 };
 
+TEST_F(AnElidingLabel, PaintsMegabytesAsItsFirstWords) {
+    label.setText(QStringLiteral("word ").repeated(2'000'000));
+    const QImage shot = Shot();
+    label.setText(QStringLiteral("word ").repeated(60));
+    EXPECT_EQ(shot, Shot());
+}
+
 TEST_F(AnElidingLabel, AsksForNoWidthHoweverLongItsText) {
     label.setText(longName);
     EXPECT_LT(label.minimumSizeHint().width(), 20);
