@@ -97,8 +97,11 @@ std::vector<std::string> FilesLike(const std::string& root, std::string_view pat
     if (!IsDirectory(folder)) return found;
     for (const auto& [name, onDisk] : TellableNames(folder)) {
         if (!NameMatches(name, parts.file) || IsUnfinishedFile(name)) continue;
-        if (EntryAt(folder + '/' + onDisk) != Entry::File) continue;
-        found.push_back((parts.folder.empty() ? "" : std::string(parts.folder) + '/') + name);
+        const std::string path = folder + '/' + onDisk;
+        const std::string file =
+            (parts.folder.empty() ? "" : std::string(parts.folder) + '/') + name;
+        if (Try(file, "looked for", [&path] { return EntryAt(path); }) != Entry::File) continue;
+        found.push_back(file);
     }
     std::stable_sort(found.begin(), found.end(),
                      [](const std::string& one, const std::string& other) {

@@ -366,7 +366,7 @@ TEST_F(OnDisk, DoesNotTakeALinkToItselfAsAbsent) {
     fs::create_symlink("dbase1.txt", path_ / "dbase1.txt");
     const std::string reason = " could not be looked for: Too many levels of symbolic links.";
     EXPECT_EQ(FailureOf([&] { folder_.Exists("dbase1.txt"); }), "dbase1.txt" + reason);
-    EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }), "dbase*.txt" + reason);
+    EXPECT_EQ(FailureOf([&] { folder_.Find("dbase*.txt"); }), "dbase1.txt" + reason);
     EXPECT_EQ(folder_.Find("*.ini"), Names{});
 }
 
