@@ -26,6 +26,7 @@ int fuzz_database(const std::uint8_t* data, std::size_t size);
 int fuzz_dates(const std::uint8_t* data, std::size_t size);
 int fuzz_diary(const std::uint8_t* data, std::size_t size);
 int fuzz_entries(const std::uint8_t* data, std::size_t size);
+int fuzz_lottery_info(const std::uint8_t* data, std::size_t size);
 int fuzz_lottery_templates(const std::uint8_t* data, std::size_t size);
 int fuzz_notes(const std::uint8_t* data, std::size_t size);
 int fuzz_settings(const std::uint8_t* data, std::size_t size);
@@ -49,6 +50,7 @@ constexpr auto targets = std::to_array<Target>({
     {"fuzz_dates", fuzz_dates},
     {"fuzz_diary", fuzz_diary},
     {"fuzz_entries", fuzz_entries},
+    {"fuzz_lottery_info", fuzz_lottery_info, "Lottery Info.txt"},
     {"fuzz_lottery_templates", fuzz_lottery_templates, "LotteryTemplates.txt"},
     {"fuzz_notes", fuzz_notes},
     {"fuzz_settings", fuzz_settings},
