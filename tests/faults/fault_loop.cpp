@@ -1,29 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/faults/fault_loop.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <exception>
-
-#include "core/failure.h"
-#include "shell/Application.h"
 
 using system_calls::CallKind;
 using system_calls::Fault;
 
 namespace {
-
-// A run takes a fraction of a second; sanitizers and a busy computer are much slower.
-constexpr unsigned longestRun = 120;
 
 // What the functions that are called behind a call to the system work on.
 Record* watchingRecord = nullptr;
@@ -37,15 +24,6 @@ void RecordContents() {
     for (const auto& [name, bytes] : FilesIn(watchedPath)) {
         watchingRecord->Add(Record::Kind::Content, name, bytes);
     }
-}
-
-// Reads the report that ends a run, and closes it.
-void AnswerReport() {
-    auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    if (report == nullptr || report->objectName() != QStringLiteral("FailureReport")) return;
-    watchingRecord->Add(Record::Kind::Report, report->text().toStdString(),
-                        report->informativeText().toStdString());
-    report->buttons().constFirst()->click();
 }
 
 bool IsUnfinished(const std::string& name) { return name.find(".quillon-") != std::string::npos; }
@@ -86,38 +64,15 @@ void FaultLoop::Act(const Fault& fault) {
     scenario_.act(*session_);
 }
 
-FaultLoop::End FaultLoop::RunForked(const Fault& fault) {
-    record_.Clear();
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::alarm(longestRun);
-        QTimer hand;
-        hand.setInterval(0);
-        QObject::connect(&hand, &QTimer::timeout, &hand, AnswerReport);
-        hand.start();
-        auto* application = static_cast<Application*>(QCoreApplication::instance());
-        application->Run([&] {
-            Act(fault);
-            return 0;
-        });
-        if (system_calls::LeavesUnflushed())
-            record_.Add(Record::Kind::Problem, "a power cut could lose it", "not flushed");
-        ::_exit(EXIT_SUCCESS);
-    }
-    int status = 0;
-    while (::waitpid(child, &status, 0) == -1 && errno == EINTR) {
-    }
-    if (WIFSIGNALED(status)) return WTERMSIG(status) == SIGALRM ? End::Hung : End::Died;
-    switch (WEXITSTATUS(status)) {
-        case EXIT_SUCCESS:
-            return End::Finished;
-        case EXIT_FAILURE:
-            return End::Reported;
-        case system_calls::killed:
-            return End::Killed;
-        default:
-            return End::Died;
-    }
+RunEnd FaultLoop::RunWith(const Fault& fault) {
+    return RunForked(record_,
+                     [&] {
+                         Act(fault);
+                         if (system_calls::LeavesUnflushed())
+                             record_.Add(Record::Kind::Problem, "a power cut could lose it",
+                                         "not flushed");
+                     })
+        .end;
 }
 
 std::string FaultLoop::RunSound() {
@@ -130,8 +85,8 @@ std::string FaultLoop::RunSound() {
         scenario_.prepare(preparing);
     }
     before_ = FilesIn(path_);
-    const End end = RunForked({});
-    after_ = Comparable(FilesIn(path_));
+    const RunEnd end = RunWith({});
+    after_ = ComparableFilesIn(path_);
     calls_ = record_.Entries(Record::Kind::Call);
     said_ = record_.Entries(Record::Kind::Said);
     for (const auto& [name, bytes] : before_) contents_[name].insert(bytes);
@@ -144,7 +99,7 @@ std::string FaultLoop::RunSound() {
     for (const Record::Entry& problem : record_.Entries(Record::Kind::Problem))
         return problem.name + ": " + problem.text;
     for (const Record::Entry& report : record_.Entries(Record::Kind::Report)) return report.name;
-    if (end != End::Finished) return "it does not come to its end";
+    if (end != RunEnd::Finished) return "it does not come to its end";
     return StartAgain();
 }
 
@@ -166,16 +121,17 @@ std::vector<Fault> FaultLoop::Faults() const {
 
 std::string FaultLoop::Run(const Fault& fault, Tally& tally) {
     PutFiles(path_, before_);
-    const End end = RunForked(fault);
+    const RunEnd end = RunWith(fault);
     ++tally.faults;
-    tally.kills += end == End::Killed ? 1 : 0;
-    tally.reported += end == End::Reported ? 1 : 0;
-    tally.tolerated += end == End::Finished ? 1 : 0;
-    if (end == End::Hung) {
+    tally.kills += end == RunEnd::Killed ? 1 : 0;
+    tally.reported += end == RunEnd::Reported ? 1 : 0;
+    tally.tolerated += end == RunEnd::Finished ? 1 : 0;
+    if (end == RunEnd::Hung) {
         ++tally.hangs;
         return "it hangs";
     }
-    if (const std::string lost = WhatIsLost(); !lost.empty()) {
+    for (const std::string& lost : {WhatIsLost(), WhatIsNotRescued()}) {
+        if (lost.empty()) continue;
         ++tally.lost;
         return lost;
     }
@@ -210,6 +166,28 @@ std::string FaultLoop::WhatIsLost() const {
     return {};
 }
 
+// What could not be written is in the rescue folder, in whole or what was to be appended of it.
+std::string FaultLoop::WhatIsNotRescued() const {
+    constexpr std::string_view unwritten = " could not be written";
+    for (const Record::Entry& report : record_.Entries(Record::Kind::Report)) {
+        const std::size_t end = report.name.find(unwritten);
+        if (end == std::string::npos) continue;
+        const std::string file = report.name.substr(0, end);
+        if (file == "temp.txt") continue;  // the copy of a file that is still there
+        const auto wanted = contents_.find(file);
+        if (wanted == contents_.end()) return "it reported on " + file;
+        bool rescued = false;
+        for (const auto& [name, bytes] : FilesIn(RescueFolderOf(path_))) {
+            for (const std::string& content : wanted->second) {
+                if (report.name.find(name) != std::string::npos && content.ends_with(bytes))
+                    rescued = true;
+            }
+        }
+        if (!rescued) return "it did not rescue " + file + ": " + report.name;
+    }
+    return {};
+}
+
 // What the user has been told is what the sound run tells at the same state of the files.
 std::string FaultLoop::WhatIsFalselySaid() const {
     std::size_t place = 0;
@@ -227,16 +205,16 @@ std::string FaultLoop::WhatIsFalselySaid() const {
 }
 
 // A run that does not come to its end tells why; one that does has done all it was to do.
-std::string FaultLoop::WhatIsUntold(End end) const {
+std::string FaultLoop::WhatIsUntold(RunEnd end) const {
     for (const Record::Entry& problem : record_.Entries(Record::Kind::Problem))
         return problem.name + ": " + problem.text;
-    if (end == End::Died) return "it died";
+    if (end == RunEnd::Died) return "it died";
     const auto reports = record_.Entries(Record::Kind::Report);
-    if (end == End::Reported && reports.empty()) return "it ended without a report";
+    if (end == RunEnd::Reported && reports.empty()) return "it ended without a report";
     const auto said = record_.Entries(Record::Kind::Said);
     const bool told = std::any_of(said.begin(), said.end(), TellsReason);
-    if (end != End::Finished || told) return {};
-    if (Comparable(FilesIn(path_)) != after_) return "it says nothing and has not done its work";
+    if (end != RunEnd::Finished || told) return {};
+    if (ComparableFilesIn(path_) != after_) return "it says nothing and has not done its work";
     if (said.size() != said_.size()) return "it said too little";
     return {};
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/faults/forked_run.h"
 #include "tests/faults/session.h"
 #include "tests/faults/system_calls.h"
 
@@ -57,13 +58,12 @@ class FaultLoop {
     std::string InWords(const system_calls::Fault& fault) const;
 
   private:
-    enum class End { Finished, Reported, Killed, Hung, Died };
-
-    End RunForked(const system_calls::Fault& fault);
+    RunEnd RunWith(const system_calls::Fault& fault);
     void Act(const system_calls::Fault& fault);
     std::string WhatIsLost() const;
+    std::string WhatIsNotRescued() const;
     std::string WhatIsFalselySaid() const;
-    std::string WhatIsUntold(End end) const;
+    std::string WhatIsUntold(RunEnd end) const;
     std::string StartAgain();
 
     const Scenario& scenario_;

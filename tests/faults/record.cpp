@@ -30,8 +30,11 @@ std::string BytesOf(const fs::path& path) {
 
 }  // namespace
 
+std::string RescueFolderOf(const std::string& folder) { return folder + "-rescued"; }
+
 Files FilesIn(const std::string& folder) {
     Files files;
+    if (!fs::exists(folder)) return files;
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         const std::string name = entry.path().lexically_relative(folder);
         if (entry.is_directory()) files[name + '/'];
@@ -41,6 +44,7 @@ Files FilesIn(const std::string& folder) {
 }
 
 void PutFiles(const std::string& folder, const Files& files) {
+    fs::remove_all(RescueFolderOf(folder));
     const Files present = FilesIn(folder);
     for (const auto& [name, bytes] : present) {
         if (files.count(name) == 0) fs::remove_all(folder + '/' + name);
@@ -54,20 +58,22 @@ void PutFiles(const std::string& folder, const Files& files) {
     }
 }
 
-Files Comparable(const Files& files) {
+Files ComparableFilesIn(const std::string& folder) {
     Files result;
-    std::vector<std::string> undone;
-    for (const auto& [name, bytes] : files) {
+    std::vector<std::string> copies;
+    for (const auto& [name, bytes] : FilesIn(folder)) {
         if (IsUnfinished(name) || name == undoFolder) continue;
         if (name.starts_with(undoFolder)) {
-            undone.push_back(bytes);
+            copies.push_back(bytes);
         } else {
             result[name] = bytes;
         }
     }
-    std::sort(undone.begin(), undone.end());
-    for (std::size_t i = 0; i < undone.size(); ++i) {
-        result[std::string(undoFolder) + std::to_string(i)] = undone[i];
+    for (const auto& [name, bytes] : FilesIn(RescueFolderOf(folder))) copies.push_back(bytes);
+    std::sort(copies.begin(), copies.end());
+    copies.erase(std::unique(copies.begin(), copies.end()), copies.end());
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        result[std::string(undoFolder) + std::to_string(i)] = copies[i];
     }
     return result;
 }

@@ -13,12 +13,15 @@ using Files = std::map<std::string, std::string>;
 
 Files FilesIn(const std::string& folder);
 
-/// Makes the folder hold these files and folders and nothing else.
+/// Where a session in that folder rescues what it cannot write.
+std::string RescueFolderOf(const std::string& folder);
+
+/// Makes the folder hold these files and folders and nothing else, and the rescue folder nothing.
 void PutFiles(const std::string& folder, const Files& files);
 
-/// Without what an unfinished write leaves, and with the copies that can be undone in the order of
-/// their contents, as their names tell the moment.
-Files Comparable(const Files& files);
+/// The files of the folder but for unfinished ones. Copies to go back to stand in the order of
+/// their contents, those among them that had to be put into the rescue folder.
+Files ComparableFilesIn(const std::string& folder);
 
 /// What a run of the program tells about itself, in memory that outlives the process.
 ///

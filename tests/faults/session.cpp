@@ -19,6 +19,8 @@
 
 namespace {
 
+constexpr Date day = std::chrono::year(2005) / 6 / 1;
+
 template <typename Control>
 Control& Find(const QObject& parent, const char* name) {
     auto* control = parent.findChild<Control*>(QString::fromLatin1(name));
@@ -30,7 +32,7 @@ Control& Find(const QObject& parent, const char* name) {
 std::string StateOf(const std::string& folder) {
     const system_calls::Pause pause;
     std::string state;
-    for (const auto& [name, bytes] : Comparable(FilesIn(folder))) {
+    for (const auto& [name, bytes] : ComparableFilesIn(folder)) {
         state += name + '\n' + std::to_string(bytes.size()) + '\n' + bytes + '\n';
     }
     return state;
@@ -39,13 +41,15 @@ std::string StateOf(const std::string& folder) {
 }  // namespace
 
 Session::Session(const QString& path, Record& record)
-    : folder(path),
+    : folder(path, {.now = [] { return Moment(std::chrono::local_days(day)); },
+                    .rescuePlaces = {QString::fromStdString(RescueFolderOf(path.toStdString())) %
+                                     QLatin1Char('/')}}),
       record_(record),
       path_(path.toStdString()),
       random_([] { return std::uint64_t{1}; }),
       messages_(*this),
       services_{.seconds = [] { return 0.0; },
-                .today = [] { return std::chrono::year(2005) / 6 / 1; },
+                .today = [] { return day; },
                 .random = random_,
                 .region = RegionOf(QLocale(QLocale::English, QLocale::UnitedKingdom)),
                 .messages = messages_,

@@ -82,8 +82,9 @@ void EndWhereToldTo() {
     if (fault.kind == Fault::Kind::KillWithin) ::_exit(system_calls::killed);
 }
 
-void Changed() {
-    folderUnflushed = true;
+void Changed(const char* path) {
+    // That an unfinished file is gone need not last.
+    folderUnflushed = folderUnflushed || std::strstr(path, "/.quillon-") == nullptr;
     if (whenChanged == nullptr) return;
     const system_calls::Pause pause;
     whenChanged();
@@ -127,7 +128,7 @@ template <typename Call>
 int Changing(const char* name, const char* path, Call call) {
     const bool counts = armed && IsWatched(path);
     const int result = On(name, path, call);
-    if (counts && result == 0) Changed();
+    if (counts && result == 0) Changed(path);
     return result;
 }
 
@@ -155,6 +156,16 @@ void Renaming() {
         if (file.watched && file.unflushed) renamedUnflushed = true;
     }
     if (closedUnflushed) renamedUnflushed = true;
+}
+
+// What is removed need not be flushed.
+void Forget(const char* path) {
+    closedUnflushed = false;
+    for (OpenFile& file : openFiles) {
+        if (file.watched && std::strcmp(file.name.data(), NameIn(path)) == 0) {
+            file.unflushed = false;
+        }
+    }
 }
 
 }  // namespace
@@ -418,7 +429,7 @@ int link(const char* from, const char* to) noexcept {
 int unlink(const char* path) noexcept {
     REAL(unlink);
     return Changing("unlink", path, [&] {
-        closedUnflushed = false;
+        Forget(path);
         return real(path);
     });
 }
