@@ -36,7 +36,7 @@ Welcome::Welcome(QWidget* parent) : QWidget(parent) {
                                 tr("Every method of play is in the menu above. To begin:"), this));
     layout->addSpacing(8);
     setUp_ = AddStep("DatabasesCreate", "toolbar02", tr("Set up your lottery"),
-                     tr("From one of 149 templates, or tell how many numbers are drawn"));
+                     tr("From one of over a hundred templates, or tell how many numbers are drawn"));
     addDraw_ = AddLink("wUpdateDbase", "toolbar02");
     connect(addDraw_, &WelcomeLink::clicked, this, [this] { Q_EMIT drawWanted(lottery_); });
     generate_ = AddStep("PlayLuckyDip", "toolbar10", tr("Generate entries"),
