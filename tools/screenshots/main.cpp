@@ -113,6 +113,14 @@ class Album {
         // The sample entries are of the sample databases.
         Use(*form, program_.folder.Exists("dbasedemo1.txt"));
         Take(*form, name);
+        if (forHelp_) TakeFurtherViews(*form);
+    }
+
+    void TakeFurtherViews(Form& form) {
+        for (const FurtherView& view : FurtherViews(form)) {
+            view.turnTo(form);
+            Take(form, form.objectName() % QLatin1Char('-') % QString::fromLatin1(view.name));
+        }
     }
 
     void Take(QWidget& window, const QString& name) {

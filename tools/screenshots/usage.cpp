@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
+#include <QTabWidget>
 #include <map>
 
 #include "platform/widgets/Lists.h"
@@ -119,6 +120,10 @@ void NameSyndicate(Form& form) {
 
 void PrintTwelveLines(Form& form) { Type(form, "Text2", "12"); }
 
+// Further views.
+
+void TurnToReadingPage(Form& form) { Find<QTabWidget>(form, "Pages")->setCurrentIndex(1); }
+
 using Usage = void (*)(Form&);
 
 const std::map<std::string, Usage>& Usages() {
@@ -156,4 +161,9 @@ void Use(Form& form, bool hasSamples) {
     if (found == Usages().end()) return;
     const bool needsSamples = name == "ShowMyDrawsW";
     if (hasSamples || !needsSamples) found->second(form);
+}
+
+std::vector<FurtherView> FurtherViews(const Form& form) {
+    if (form.objectName() != QLatin1String("ImportDraws")) return {};
+    return {{.name = "reading", .turnTo = TurnToReadingPage}};
 }
