@@ -85,7 +85,7 @@ void Welcome::WordDraw(const OwnLottery& lottery) {
                                                  .arg(Shortened(name), ShownDate(*lottery.newest))
                                            : tr("Add the first draw of %1").arg(Shortened(name));
     addDraw_->SetWords(caption, tr("Type in its date and its numbers"));
-    addDraw_->setToolTip(name.size() > longestName ? name : QString());
+    addDraw_->setToolTip(name.size() > longestName ? PlainTip(name) : QString());
 }
 
 void Welcome::TakeFocus() {

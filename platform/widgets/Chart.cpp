@@ -17,6 +17,7 @@
 #include "platform/widgets/ChartPlot.h"
 #include "platform/widgets/ChartShades.h"
 #include "platform/widgets/Icons.h"
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
 #include "platform/widgets/WindowShade.h"
 
@@ -206,7 +207,8 @@ bool Chart::eventFilter(QObject* watched, QEvent* event) {
     auto* help = static_cast<QHelpEvent*>(event);
     const int place = plot_->PlaceAt(help->pos());
     if (place >= 1 && place <= figures_.Places()) {
-        QToolTip::showText(help->globalPos(), figures_.PlaceText(place), &plot_->Widget());
+        QToolTip::showText(help->globalPos(), PlainTip(figures_.PlaceText(place)),
+                           &plot_->Widget());
     }
     return true;
 }

@@ -34,8 +34,8 @@ QSize ElidingLabel::minimumSizeHint() const {
 bool ElidingLabel::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
         const bool cut = FittingLines() != Lines();
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), cut ? text() : QString(),
-                           this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                           cut ? PlainTip(text()) : QString(), this);
         return true;
     }
     return QLabel::event(event);

@@ -76,7 +76,7 @@ bool ListBox::viewportEvent(QEvent* event) {
     const auto& help = static_cast<const QHelpEvent&>(*event);
     const QModelIndex index = indexAt(help.pos());
     const QString tip = index.isValid() ? TipOf(index) : QString();
-    QToolTip::showText(help.globalPos(), tip, viewport(), visualRect(index));
+    QToolTip::showText(help.globalPos(), PlainTip(tip), viewport(), visualRect(index));
     return true;
 }
 

@@ -39,6 +39,11 @@ TEST_F(AnElidingLabel, PaintsMegabytesAsItsFirstWords) {
     EXPECT_EQ(shot, Shot());
 }
 
+TEST_F(AnElidingLabel, ShowsMarkupInItsTipAsItStands) {
+    label.setText(QStringLiteral("<b>bold</b> ").repeated(20));
+    EXPECT_TRUE(TipShown().contains(QStringLiteral("&lt;b&gt;bold"))) << TipShown().toStdString();
+}
+
 TEST_F(AnElidingLabel, AsksForNoWidthHoweverLongItsText) {
     label.setText(longName);
     EXPECT_LT(label.minimumSizeHint().width(), 20);

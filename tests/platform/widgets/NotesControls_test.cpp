@@ -19,6 +19,13 @@ TEST(ReadableText, IsAllOf500Characters) {
     EXPECT_EQ(Readable({}), QString());
 }
 
+TEST(PlainTips, ShowMarkupAsItStands) {
+    EXPECT_EQ(PlainTip(QStringLiteral("Lotto & more\nsecond line")),
+              QStringLiteral("Lotto & more\nsecond line"));
+    EXPECT_EQ(PlainTip(QStringLiteral("<img src='x'/>")),
+              QStringLiteral("<p style=\"white-space: pre\">&lt;img src='x'/&gt;</p>"));
+}
+
 TEST(Note, IsShownAndGivenBackWithItsLineEndsAndHardBlanks) {
     QPlainTextEdit box;
     ShowNote(box, "one\xA0two\r\n\r\nthree");
