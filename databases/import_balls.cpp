@@ -13,7 +13,10 @@ using Indexes = std::vector<std::size_t>;
 
 constexpr std::size_t fewestMains = 4;
 constexpr std::size_t mostMains = 7;
-constexpr double unlikely = 0.001;
+// Extra balls of a drum with a 0 go from 0 to 9; elsewhere a 0 stands for no ball.
+constexpr int highestDigit = 9;
+
+constexpr double unlikely = 1e-6;
 
 // What the numbers of some columns in a row of columns say.
 struct Split {
@@ -21,6 +24,7 @@ struct Split {
     std::size_t sameDrum = 0;  // columns behind them from the same drum
     bool ascending = false;
     bool guess = false;
+    std::size_t tooMany = 0;  // numbers of one draw, if there are more than a lottery here has
 };
 
 class Chooser {
@@ -112,17 +116,16 @@ class Chooser {
             const bool extra = std::find(extras_.begin(), extras_.end(), i) != extras_.end();
             if (At(i).part == 0 && !extra) singles.push_back(i);
         }
-        if (TakeBestWindow(singles, true) || TakeBestWindow(singles, false)) {
-            if (choice_.extras.empty()) TakeExtrasBehind();
-        } else {
-            choice_.numbersSeen = singles.size();
-        }
+        const bool found = TakeBestWindow(singles, true) ||
+                           (choice_.numbersSeen == 0 && TakeBestWindow(singles, false));
+        if (found && choice_.extras.empty()) TakeExtrasBehind();
+        if (!found && choice_.numbersSeen == 0) choice_.numbersSeen = singles.size();
     }
 
     // The columns from `start` on that follow each other in the table; all where gaps may be.
     Indexes Run(const Indexes& list, std::size_t start, bool adjacent) const {
         Indexes run{list[start]};
-        for (std::size_t i = start + 1; i < list.size() && run.size() < 12; ++i) {
+        for (std::size_t i = start + 1; i < list.size() && run.size() < 30; ++i) {
             if (adjacent && At(list[i]).column != At(list[i - 1]).column + 1) break;
             run.push_back(list[i]);
         }
@@ -135,6 +138,7 @@ class Chooser {
         for (std::size_t start = 0; start + fewestMains <= singles.size(); ++start) {
             const Indexes run = Run(singles, start, adjacent);
             const Split split = SplitOf(run, extras_.empty());
+            if (split.tooMany > 0) return TooMany(split.tooMany);
             if (split.mains < fewestMains) continue;
             const bool better = split.mains > best.mains ||
                                 (split.mains == best.mains && split.ascending && !best.ascending);
@@ -147,6 +151,11 @@ class Chooser {
         choice_.countIsGuess = best.guess;
         TakeMains(Run(singles, bestStart, adjacent), best.mains, best.sameDrum);
         return true;
+    }
+
+    bool TooMany(std::size_t numbers) {
+        choice_.numbersSeen = numbers;
+        return false;
     }
 
     void TakeMains(const Indexes& list, std::size_t mains, std::size_t behind) {
@@ -172,7 +181,7 @@ class Chooser {
             if (!next || !CouldBeDrawn(At(i)) || At(i).distinct < 2) return;
             if (choice_.extras.size() == 1) {
                 const BallColumn& first = At(choice_.extras.front());
-                const bool pair = EqualShare(first, At(i)) <= Tolerance(first) &&
+                const bool pair = EqualShare(first, At(i)) <= SlipsAllowed(first) &&
                                   At(i).highest * 2 > first.highest && At(i).filled >= 8;
                 if (!pair) return;
             }
@@ -188,11 +197,6 @@ class Chooser {
                               [&](std::size_t extra) { return At(extra).filled * 2 >= most; });
     }
 
-    // How many rows may hold a number twice by mistakes of the source.
-    static double Tolerance(const BallColumn& column) {
-        return column.filled >= 100 ? std::max(0.005, 1.5 / static_cast<double>(column.filled)) : 0;
-    }
-
     double ClashShare(const Indexes& list, std::size_t count, const BallColumn& column) const {
         double share = 0;
         for (std::size_t i = 0; i < count; ++i) share += EqualShare(At(list[i]), column);
@@ -203,12 +207,6 @@ class Chooser {
         int highest = 0;
         for (std::size_t i = 0; i < count; ++i) highest = std::max(highest, At(list[i]).highest);
         return highest;
-    }
-
-    // How likely a column of a drum up to `drum` has nothing above `highest`.
-    static double Chance(int highest, int drum, std::size_t rows) {
-        if (highest >= drum) return 1;
-        return std::pow(static_cast<double>(highest) / drum, static_cast<double>(rows));
     }
 
     std::size_t AscendingLength(const Indexes& list) const {
@@ -225,9 +223,10 @@ class Chooser {
         for (; length < list.size(); ++length) {
             const BallColumn& next = At(list[length]);
             const int highest = Highest(list, length);
-            if (next.lowest < 1 || ClashShare(list, length, next) > Tolerance(next)) break;
-            if (Chance(next.highest, highest, next.filled) < unlikely) break;
-            if (Chance(highest, next.highest, next.filled * length) < unlikely) return 0;
+            if (next.lowest < 1 || ClashShare(list, length, next) > SlipsAllowed(next)) break;
+            if (ChanceOfNothingAbove(next.highest, highest, next.filled) < unlikely) break;
+            if (ChanceOfNothingAbove(highest, next.highest, next.filled * length) < unlikely)
+                return 0;
         }
         return At(list.front()).lowest < 1 ? 0 : length;
     }
@@ -237,11 +236,12 @@ class Chooser {
     Split SplitOf(const Indexes& list, bool mayGuess) const {
         const std::size_t ascending = AscendingLength(list);
         if (ascending >= fewestMains) {
-            if (ascending > mostMains) return {};
+            if (ascending > mostMains) return {.tooMany = ascending};
             return {.mains = ascending, .sameDrum = 0, .ascending = true, .guess = false};
         }
         const std::size_t drum = DrumLength(list);
-        if (drum < fewestMains || drum > 10) return {};
+        if (drum > mostMains + 3) return {.tooMany = drum};
+        if (drum < fewestMains) return {};
         if (!mayGuess) return {.mains = drum, .sameDrum = 0, .ascending = false, .guess = false};
         std::size_t mains = drum;
         const int highest = Highest(list, drum);
@@ -264,9 +264,9 @@ class Chooser {
             choice_.drumReason = "it equals a main number in " +
                                  PlainDigits(static_cast<long long>(equal)) +
                                  (equal < 2 ? " row" : " rows");
-        } else if (extra.lowest == 0) {
+        } else if (extra.lowest == 0 && extra.highest <= highestDigit) {
             choice_.drumReason = "it has a 0";
-        } else if (Chance(extra.highest, highest, extra.filled) < unlikely) {
+        } else if (ChanceOfNothingAbove(extra.highest, highest, extra.filled) < 1e-4) {
             choice_.drumReason = "its highest number is " + PlainDigits(extra.highest);
         } else if (expected >= 6) {
             choice_.sameDrum = true;

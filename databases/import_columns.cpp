@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <utility>
 
+#include "databases/import_characters.h"
 #include "databases/import_numbers.h"
 
 namespace {
@@ -97,6 +99,17 @@ void AddPlaces(const ImportTable& table, const std::vector<SampleRow>& rows, std
     for (std::size_t place = first; place < columns.size(); ++place) Describe(columns[place]);
 }
 
+// The number in a cell, also behind a word for an extra ball: "PB: 7".
+int NumberIn(std::string_view cell) {
+    const int number = BallNumber(cell);
+    if (number != noNumber || cell.empty() || !IsLetterByte(cell.front())) return number;
+    const BallList list = ReadBallList(cell);
+    const std::string_view word =
+        cell.substr(0, std::min(cell.find_first_of("0123456789"), cell.size()));
+    const bool told = list.count == 1 && ReadHeading(word).kind == HeadingKind::Extra;
+    return told ? list.numbers.front() : noNumber;
+}
+
 // The column where nearly all cells hold one number each; else nothing of it is filled.
 BallColumn SingleNumbers(const ImportTable& table, const std::vector<SampleRow>& rows,
                          std::size_t column) {
@@ -104,7 +117,7 @@ BallColumn SingleNumbers(const ImportTable& table, const std::vector<SampleRow>&
     single.numbers.reserve(rows.size());
     std::size_t wrong = 0;
     for (const SampleRow& row : rows) {
-        const int number = BallNumber(table.Cell(row.row, column));
+        const int number = NumberIn(table.Cell(row.row, column));
         if (number == noNumber && ++wrong * 20 > rows.size()) break;
         single.numbers.push_back(static_cast<std::int8_t>(number));
     }
@@ -145,7 +158,7 @@ bool CouldBeDrawn(const BallColumn& column) {
     if (column.filled < 8) return true;
     const double fair = 1.0 / std::max(column.distinct, 1);
     const double rows = static_cast<double>(column.filled);
-    if (column.lowest >= 2 && column.distinct <= 6) return false;
+    if (column.lowest != 1 && column.distinct <= 6) return false;
     if (column.repeated > 3 * fair + 4 / rows && column.repeated > 0.2) return false;
     return column.commonest <= 3 * fair + 4 / rows;
 }
@@ -170,4 +183,13 @@ double AscendingShare(const BallColumn& one, const BallColumn& other) {
         if (one.numbers[i] < other.numbers[i]) ++ascending;
     }
     return both == 0 ? 0 : static_cast<double>(ascending) / static_cast<double>(both);
+}
+
+double SlipsAllowed(const BallColumn& column) {
+    return column.filled >= 100 ? std::max(0.005, 1.5 / static_cast<double>(column.filled)) : 0;
+}
+
+double ChanceOfNothingAbove(int highest, int drum, std::size_t balls) {
+    if (highest >= drum) return 1;
+    return std::pow(static_cast<double>(highest) / drum, static_cast<double>(balls));
 }

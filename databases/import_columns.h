@@ -45,3 +45,9 @@ double EqualShare(const BallColumn& one, const BallColumn& other);
 
 /// Share of the rows with both in which the first is the lower one.
 double AscendingShare(const BallColumn& one, const BallColumn& other);
+
+/// Share of the rows in which mistakes of the source may put a number of a drum twice.
+double SlipsAllowed(const BallColumn& column);
+
+/// How likely so many balls from a drum up to `drum` show nothing above `highest`.
+double ChanceOfNothingAbove(int highest, int drum, std::size_t balls);

@@ -179,7 +179,7 @@ class Understanding {
             text += " The first is kept" + NameOf(kept) + ", the other" +
                     (others > 1 ? "s are" : " is") + " not.";
         }
-        if (kept.lowest == 0) text += " An extra ball 0 is stored as none.";
+        if (kept.lowest == 0 && kept.highest <= 9) text += " An extra ball 0 is stored as none.";
         return text;
     }
 
@@ -208,27 +208,42 @@ class Understanding {
                  (unused == 1 ? " column is" : " columns are") + " no part of the draws.");
     }
 
-    // Two draws on a date throughout are true ones, and so are those with numbers of their own.
+    // Whether two rows bear different numbers of draws, as far as there are any.
+    bool NumberedApart(std::size_t one, std::size_t other) const {
+        if (proposal_.mapping.drawNumberColumn < 0) return true;
+        const auto column = static_cast<std::size_t>(proposal_.mapping.drawNumberColumn);
+        return table_.Cell(one, column) != table_.Cell(other, column);
+    }
+
+    // Two draws on most dates are true ones.
     void SameDates() {
         ImportMapping& mapping = proposal_.mapping;
         mapping.sameDate = SameDate::KeepAll;
         const ImportedDraws all = ReadDraws(table_, mapping, rules_);
+        mapping.sameDate = SameDate::KeepFirst;
         std::size_t dates = 0;
-        std::size_t seconds = 0;
+        std::size_t several = 0;
+        std::size_t apart = 0;
         for (std::size_t i = 0; i < all.draws.size(); ++i) {
-            const bool second = i > 0 && all.draws[i].date == all.draws[i - 1].date;
-            ++(second ? seconds : dates);
+            const auto same = [&](std::size_t other) {
+                return all.draws[i].date == all.draws[other].date;
+            };
+            if (i > 0 && same(i - 1)) continue;
+            ++dates;
+            if (i + 1 == all.draws.size() || !same(i + 1)) continue;
+            ++several;
+            if (NumberedApart(all.draws[i].row, all.draws[i + 1].row)) ++apart;
         }
-        if (seconds * 10 >= dates * 3 && seconds > 0) {
-            Note(ImportTopic::SameDate, false, "Several draws a day: all are taken.");
+        if (several == 0) return;
+        if (apart * 2 >= dates) {
+            mapping.sameDate = SameDate::KeepAll;
+            Note(ImportTopic::SameDate, false, "Most dates have several draws: all are taken.");
             return;
         }
-        mapping.sameDate = SameDate::KeepFirst;
-        if (seconds == 0) return;
         Note(ImportTopic::SameDate, true,
-             PlainDigits(static_cast<long long>(seconds)) +
-                 (seconds == 1 ? " date has" : " dates have") +
-                 " a second draw, which is left out.");
+             PlainDigits(static_cast<long long>(several)) +
+                 (several == 1 ? " date has" : " dates have") +
+                 " more than one draw; that only the first is taken is a guess.");
     }
 
     const ImportTable& table_;

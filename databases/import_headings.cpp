@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <unordered_map>
 
 #include "core/text.h"
 #include "databases/import_characters.h"
@@ -36,7 +37,8 @@ constexpr std::string_view sameDrumWords =
     "additional addl special particular reserve tillegg tilleggstall lisanumero kiegeszito ";
 constexpr std::string_view manyWords =
     " numbers balls zahlen gewinnzahlen lottozahlen numeros bolas dezenas combinacion boules "
-    "combination combinaison getallen tall results result winning winningnumbers numeri estrazione "
+    "combination combinations combinaciones combinaison getallen tall results result winning "
+    "winningnumbers numeri estrazione "
     "siffror numerot szamok numere cijfers drawnnumbers ";
 constexpr std::string_view oneWords =
     " ball number num nr n b wb white winning main zahl kugel bola bolla boule numero dezena "
@@ -51,10 +53,54 @@ constexpr std::string_view productWords =
 constexpr std::string_view dayWords =
     " day weekday tag wochentag jour dia giorno dag dow dd ddd dayofweek weekdag ";
 constexpr std::string_view monthWords = " month mm mmm monat mois mes mese maand maned manad mon ";
+constexpr std::string_view numberWords = " number numbers num nr no nbr # numero id nummer n ";
 constexpr std::string_view yearWords = " year yy yyyy jahr annee ano anno jaar ar aar yr ";
 
-bool Has(std::string_view words, const std::string& word) {
-    return words.find(" " + word + " ") != std::string_view::npos;
+// What a word can mean, as bits.
+enum Meaning : unsigned {
+    other = 1,
+    date = 2,
+    ownDrum = 4,
+    sameDrum = 8,
+    many = 16,
+    one = 32,
+    drawn = 64,
+    product = 128,
+    day = 256,
+    month = 512,
+    year = 1024,
+    number = 2048,
+};
+
+using Meanings = std::unordered_map<std::string_view, unsigned>;
+
+void Add(Meanings& meanings, std::string_view words, unsigned meaning) {
+    while (!words.empty()) {
+        const std::size_t end = std::min(words.find(' '), words.size());
+        if (end > 0) meanings[words.substr(0, end)] |= meaning;
+        words.remove_prefix(std::min(end + 1, words.size()));
+    }
+}
+
+unsigned MeaningOf(const std::string& word) {
+    static const Meanings meanings = [] {
+        Meanings all;
+        Add(all, otherWords, other);
+        Add(all, dateWords, date);
+        Add(all, ownDrumWords, ownDrum);
+        Add(all, sameDrumWords, sameDrum);
+        Add(all, manyWords, many);
+        Add(all, oneWords, one);
+        Add(all, drawWords, drawn);
+        Add(all, productWords, product);
+        Add(all, dayWords, day);
+        Add(all, monthWords, month);
+        Add(all, yearWords, year);
+        Add(all, numberWords, number);
+        return all;
+    }();
+    const auto found = meanings.find(word);
+    return found == meanings.end() ? 0 : found->second;
 }
 
 // The words of a heading, lower case, without accents; "DrawDate" and "WB1" fall apart.
@@ -79,16 +125,6 @@ std::vector<std::string> WordsOf(std::string_view text) {
     return words;
 }
 
-bool AnyIn(std::string_view list, const std::vector<std::string>& words) {
-    return std::any_of(words.begin(), words.end(),
-                       [list](const std::string& word) { return Has(list, word); });
-}
-
-bool AllIn(std::string_view list, const std::vector<std::string>& words) {
-    return std::all_of(words.begin(), words.end(),
-                       [list](const std::string& word) { return Has(list, word); });
-}
-
 int IndexOf(const std::vector<std::string>& words) {
     constexpr std::string_view ordinals[] = {"first", "second", "third",  "fourth",
                                              "fifth", "sixth",  "seventh"};
@@ -101,26 +137,27 @@ int IndexOf(const std::vector<std::string>& words) {
     return 0;
 }
 
-bool IsNumberWord(const std::string& word) {
-    constexpr std::string_view words = " number numbers num nr no nbr # numero id nummer n ";
-    return Has(words, word);
-}
+// What the words of a heading can mean: any of them, all but numbers, and how many there are.
+struct Words {
+    unsigned any = 0;
+    unsigned all = ~0U;
+    bool alone = false;
+};
 
-HeadingKind KindOf(const std::vector<std::string>& words, int index) {
-    if (AnyIn(otherWords, words)) return HeadingKind::Other;
-    if (AnyIn(dateWords, words)) return HeadingKind::Dated;
-    if (AnyIn(ownDrumWords, words) || AnyIn(sameDrumWords, words)) return HeadingKind::Extra;
-    const bool draw = AnyIn(drawWords, words);
-    if (draw && index == 0 && !AnyIn(manyWords, words)) return HeadingKind::DrawNumber;
-    if (AnyIn(manyWords, words) && index == 0) return HeadingKind::Mains;
-    std::vector<std::string> plain = words;
-    std::erase_if(plain, [](const std::string& word) { return IsDigitByte(word.front()); });
-    if (index > 0 && index <= 12 && AllIn(oneWords, plain)) return HeadingKind::Main;
-    if (AnyIn(productWords, words)) return HeadingKind::Product;
-    if (words.size() == 1 && Has(dayWords, words.front())) return HeadingKind::Day;
-    if (words.size() == 1 && Has(monthWords, words.front())) return HeadingKind::Month;
-    if (words.size() == 1 && Has(yearWords, words.front())) return HeadingKind::Year;
-    return HeadingKind::Unknown;
+HeadingKind KindOf(const Words& words, int index) {
+    if ((words.any & other) != 0) return HeadingKind::Other;
+    if ((words.any & date) != 0) return HeadingKind::Dated;
+    if ((words.any & (ownDrum | sameDrum)) != 0) return HeadingKind::Extra;
+    const bool manyNumbers = (words.any & many) != 0;
+    if ((words.any & drawn) != 0 && index == 0 && !manyNumbers) return HeadingKind::DrawNumber;
+    if (manyNumbers && index == 0) return HeadingKind::Mains;
+    if (index > 0 && index <= 12 && (words.all & one) != 0) return HeadingKind::Main;
+    if ((words.any & product) != 0) return HeadingKind::Product;
+    if (words.alone && (words.any & day) != 0) return HeadingKind::Day;
+    if (words.alone && (words.any & month) != 0) return HeadingKind::Month;
+    if (words.alone && (words.any & year) != 0) return HeadingKind::Year;
+    const bool numbered = index == 0 && (words.all & number) != 0;
+    return numbered ? HeadingKind::DrawNumber : HeadingKind::Unknown;
 }
 
 }  // namespace
@@ -130,18 +167,17 @@ ColumnHeading ReadHeading(std::string_view text) {
     const std::vector<std::string> words = WordsOf(text);
     if (words.empty()) return heading;
     heading.index = IndexOf(words);
+    Words meanings{.any = 0, .all = ~0U, .alone = words.size() == 1};
     for (const std::string& word : words) {
-        if (!IsDigitByte(word.front())) heading.prefix += word + " ";
+        if (IsDigitByte(word.front())) continue;
+        const unsigned meaning = MeaningOf(word);
+        meanings.any |= meaning;
+        meanings.all &= meaning;
+        heading.prefix += word + " ";
     }
-    heading.kind = KindOf(words, heading.index);
-    if (AnyIn(ownDrumWords, words)) {
-        heading.drum = Drum::Own;
-    } else if (AnyIn(sameDrumWords, words)) {
-        heading.drum = Drum::Same;
-    }
-    const bool number = std::all_of(words.begin(), words.end(), IsNumberWord);
-    if (number && heading.index == 0 && heading.kind == HeadingKind::Unknown) {
-        heading.kind = HeadingKind::DrawNumber;
+    heading.kind = KindOf(meanings, heading.index);
+    if ((meanings.any & (ownDrum | sameDrum)) != 0) {
+        heading.drum = (meanings.any & ownDrum) != 0 ? Drum::Own : Drum::Same;
     }
     return heading;
 }
@@ -150,31 +186,50 @@ std::vector<ColumnHeading> ReadHeadings(const std::vector<std::string>& texts) {
     std::vector<ColumnHeading> headings;
     std::map<std::string, std::set<int>> counts;
     for (const std::string& text : texts) {
-        headings.push_back(ReadHeading(text));
-        const ColumnHeading& heading = headings.back();
+        ColumnHeading heading = ReadHeading(text);
+        // "Winning Number 1", "2", "3": a bare number goes on with the words before it.
+        const bool goesOn = !headings.empty() && heading.prefix.empty() && heading.index > 1 &&
+                            headings.back().index == heading.index - 1;
+        if (goesOn) {
+            heading.prefix = headings.back().prefix;
+            heading.kind = headings.back().kind;
+        }
         if (heading.index > 0 && heading.kind != HeadingKind::Other) {
             counts[heading.prefix].insert(heading.index);
         }
+        headings.push_back(std::move(heading));
     }
-    for (ColumnHeading& heading : headings) {
+    const auto counted = [&counts](const ColumnHeading& heading) {
         const auto group = counts.find(heading.prefix);
-        if (heading.index == 0 || heading.kind == HeadingKind::Other || group == counts.end())
-            continue;
+        if (heading.index == 0 || group == counts.end()) return false;
         int last = 0;
         while (group->second.contains(last + 1)) ++last;
-        if (last >= 4 && heading.index <= last) heading.kind = HeadingKind::Main;
+        return last >= 4 && heading.index <= last;
+    };
+    const std::string* first = nullptr;
+    for (ColumnHeading& heading : headings) {
+        if (heading.kind == HeadingKind::Other || !counted(heading)) continue;
+        // A second set of balls is that of another draw.
+        if (first == nullptr) first = &heading.prefix;
+        heading.kind = heading.prefix == *first ? HeadingKind::Main : HeadingKind::Other;
     }
     return headings;
 }
 
 int KnownHeadings(const ImportTable& table, std::size_t row) {
-    int known = 0;
+    int words = 0;
+    int numbers = 0;
+    bool dated = false;
     for (std::size_t column = 0; column < table.Cells(row); ++column) {
         const std::string_view cell = table.Cell(row, column);
         if (cell.empty() || cell.size() > 60 || PlainNumber(cell) > 12) continue;
-        if (ReadHeading(cell).kind != HeadingKind::Unknown) ++known;
+        const HeadingKind kind = ReadHeading(cell).kind;
+        if (kind == HeadingKind::Unknown) continue;
+        ++(PlainNumber(cell) >= 0 ? numbers : words);
+        dated = dated || kind == HeadingKind::Dated;
     }
-    return known;
+    // Bare numbers are headings only beside words that are.
+    return words >= 2 || dated ? words + numbers : words;
 }
 
 std::vector<std::string> HeadingTexts(const ImportTable& table, std::size_t row,

@@ -28,6 +28,11 @@ int PlainNumber(std::string_view cell) {
 }
 
 int BallNumber(std::string_view cell) {
+    constexpr std::string_view around = "()[]{}*";
+    while (cell.size() > 1 && around.find(cell.front()) != std::string_view::npos)
+        cell.remove_prefix(1);
+    while (cell.size() > 1 && around.find(cell.back()) != std::string_view::npos)
+        cell.remove_suffix(1);
     if (cell.size() >= 3 && cell.ends_with(".0")) cell.remove_suffix(2);
     if (!cell.empty() && cell.size() <= 3 && IsDigitByte(cell.front())) {
         const int number = PlainNumber(cell);

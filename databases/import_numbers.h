@@ -11,8 +11,8 @@
 inline constexpr int emptyCell = -1;
 inline constexpr int noNumber = -2;
 
-/// The number of a ball, 0 to 99, in a cell: "7", "07", "7.0"; `emptyCell` for nothing, "-", "NaN"
-/// and the like; `noNumber` for anything else.
+/// The number of a ball, 0 to 99, in a cell: "7", "07", "7.0", "(7)"; `emptyCell` for nothing, "-",
+/// "NaN" and the like; `noNumber` for anything else.
 int BallNumber(std::string_view cell);
 
 /// The whole number in a cell of plain digits, at most nine; else -1.
