@@ -19,16 +19,17 @@
 #include "platform/widgets/OneLine.h"
 #include "platform/widgets/Widgets.h"
 #include "shell/BiochartPanel.h"
+#include "shell/FloppyCopy.h"
 #include "shell/HelpCommands.h"
 #include "shell/InfoPanels.h"
 #include "shell/MainArea.h"
 #include "shell/MainMenu.h"
 #include "shell/Toolbar.h"
+#include "shell/backup_list.h"
 #include "shell/form_catalogue.h"
 
 namespace {
 
-constexpr const char* backupFolder = "Backup";
 constexpr const char* internetEntry = "LinksLink(0)";
 
 }  // namespace
@@ -52,6 +53,13 @@ Quillon::Quillon(Program& program, QWidget* parent)
 }
 
 void Quillon::AnswerMenu() {
+    menu_->Answer(QStringLiteral("FileCopyToA"),
+                  [this] { FloppyCopy(program_, *this, area_->Pictures()).CopyToFloppy(); });
+    menu_->Answer(QStringLiteral("FileCopyFromA"), [this] {
+        FloppyCopy(program_, *this, area_->Pictures()).CopyFromFloppy();
+        ListDatabases();
+        area_->RenewWelcome();
+    });
     menu_->Answer(QStringLiteral("FileNotes"), [this] { ShowPanels(); });
     menu_->Answer(QStringLiteral("FileDeleteSaved"), [this] { DeleteSavedEntries(); });
     menu_->Answer(QStringLiteral("FileExit"), [this] { Quit(); });

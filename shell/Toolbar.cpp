@@ -16,6 +16,8 @@ namespace {
 constexpr int pictureSize = 26;  // 390 twips
 constexpr int pictureMargin = 2;
 constexpr int groupGap = 12;
+constexpr int airBeside = 8;
+constexpr int statusWidth = 110;
 
 struct PictureText {
     const char* toolTip;
@@ -135,7 +137,7 @@ Toolbar::Toolbar(const Region& region, QWidget* parent)
     setObjectName(QStringLiteral("Label1"));
     setMouseTracking(true);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 6, 8, 7);
+    layout->setContentsMargins(airBeside, 6, airBeside, 7);
     layout->setSpacing(4);
     for (int i = 0; i < pictureCount; ++i) {
         const auto place = static_cast<std::size_t>(i);
@@ -149,6 +151,7 @@ Toolbar::Toolbar(const Region& region, QWidget* parent)
         connect(picture, &QToolButton::clicked, this, [this, i] { Q_EMIT chosen(EntryOf(i)); });
     }
     layout->addStretch();
+    layout->addSpacing(statusWidth);
     // A label asks for the room of its text alone, so the pictures' room is set here.
     setFixedHeight(layout->sizeHint().height());
     setMinimumWidth(layout->sizeHint().width());
@@ -226,4 +229,21 @@ void Toolbar::paintEvent(QPaintEvent*) {
     QColor line = palette().color(QPalette::WindowText);
     line.setAlpha(50);
     painter.fillRect(rect().adjusted(0, height() - 1, 0, 0), line);
+    PaintStatus(painter);
+}
+
+/// The label's own text, at the end of the row of pictures, in letters that leave room for its
+/// lines.
+void Toolbar::PaintStatus(QPainter& painter) const {
+    const QRect room(width() - airBeside - statusWidth, 0, statusWidth, height() - 1);
+    const QString status = text().remove(QLatin1Char('\r'));
+    QFont letters = font();
+    const auto fits = [&] {
+        const QSize size = QFontMetrics(letters).size(0, status);
+        return size.boundedTo(room.size()) == size;
+    };
+    while (letters.pointSize() > 1 && !fits()) letters.setPointSize(letters.pointSize() - 1);
+    painter.setFont(letters);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter, status);
 }

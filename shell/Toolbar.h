@@ -42,7 +42,8 @@ class ToolbarPicture final : public QToolButton {
 };
 
 /// The row of sixteen pictures on their background. The Tab key stops at one of them, the one that
-/// had the focus last; the arrow keys, Home and End go to the others.
+/// had the focus last; the arrow keys, Home and End go to the others. The label's text stands at
+/// the right end, where a long command tells how far it is.
 class Toolbar final : public QLabel {
     Q_OBJECT
   public:
@@ -83,6 +84,7 @@ class Toolbar final : public QLabel {
   private:
     void MoveBorderTo(int index);
     void MoveFocusTo(int index);
+    void PaintStatus(QPainter& painter) const;
 
     std::array<ToolbarPicture*, pictureCount> pictures_{};
     QString download_;

@@ -36,7 +36,9 @@
 #include "printing/PrintTickets.h"
 #include "printing/PrinterCorrection.h"
 #include "shell/About.h"
+#include "shell/Backup.h"
 #include "shell/LotteryInfo.h"
+#include "shell/Preferences.h"
 #include "syndicates/DeleteSyndicate.h"
 #include "syndicates/NewSyndicate.h"
 #include "syndicates/OpenSyndicate.h"
@@ -68,13 +70,16 @@ void SelectSecondOption(Form& form) {
 }
 
 constexpr auto catalogue = std::to_array<CatalogueEntry>({
-    {.menuEntry = "FileBackup", .form = "Backup", .changesDatabases = true},
+    {.menuEntry = "FileBackup", .form = "Backup", .make = Make<Backup>, .changesDatabases = true},
     {.menuEntry = "FileDelete",
      .form = "DeleteDbaseW",
      .make = Make<DeleteDbaseW>,
      .changesDatabases = true},
     {.menuEntry = "FileOpen", .form = "OpenDbase", .make = Make<OpenDbase>},
-    {.menuEntry = "FilePreferences", .form = "Preferences", .changesSettings = true},
+    {.menuEntry = "FilePreferences",
+     .form = "Preferences",
+     .make = Make<Preferences>,
+     .changesSettings = true},
     {.menuEntry = "FilePrintSetup", .form = "PrintSetup", .make = Make<PrintSetup>},
 
     {.menuEntry = "DatabasesCreate",

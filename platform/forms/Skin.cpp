@@ -10,7 +10,6 @@
 
 #include "core/failure.h"
 #include "core/program_folder.h"
-#include "core/settings.h"
 #include "core/text.h"
 #include "platform/system/TextConversion.h"
 
@@ -39,15 +38,6 @@ std::optional<QColor> Known(Colour colour) {
 
 constexpr const char* colourWanted =
     "expected a colour of 24 bits, or a system colour from &H80000000 to &H80000018, but ";
-
-QColor SettingColour(const State& state, setting::Slot slot) {
-    const std::string& text = state.Settings(slot);
-    const auto known = Known(ColourFromText(text, PlaceOf(slot)));
-    if (!known) {
-        throw FailureInFile(settingsFile, slot, colourWanted + ("\"" + text) + "\" stands there");
-    }
-    return *known;
-}
 
 bool IsDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
 
@@ -113,6 +103,20 @@ QPalette PaletteOn(const QColor& background) {
 QColor ToQColor(Colour colour) {
     const auto known = Known(colour);
     if (!known) throw Failure(colourWanted + ColourText(colour) + " was asked for");
+    return *known;
+}
+
+Colour ToColour(const QColor& colour) {
+    const auto part = [](int value, unsigned shift) { return static_cast<Colour>(value) << shift; };
+    return part(colour.red(), 0) | part(colour.green(), 8) | part(colour.blue(), 16);
+}
+
+QColor SettingColour(const State& state, setting::Slot slot) {
+    const std::string& text = state.Settings(slot);
+    const auto known = Known(ColourFromText(text, PlaceOf(slot)));
+    if (!known) {
+        throw FailureInFile(settingsFile, slot, colourWanted + ("\"" + text) + "\" stands there");
+    }
     return *known;
 }
 

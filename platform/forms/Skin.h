@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "core/colour.h"
+#include "core/settings.h"
 #include "platform/forms/Form.h"
 
 class QPainter;
@@ -14,6 +15,12 @@ class QWidget;
 /// The colour of a value: red in the low byte, or a system colour by its number. System colours are
 /// those of a light desktop, as the system's own colours are made for it.
 QColor ToQColor(Colour colour);
+
+/// The value of a colour, whatever its transparency.
+Colour ToColour(const QColor& colour);
+
+/// The colour that a slot of the settings holds. A slot that holds none is a `Failure`.
+QColor SettingColour(const State& state, setting::Slot slot);
 
 /// The bits of `setting::SkinBits`.
 struct SkinChoice {

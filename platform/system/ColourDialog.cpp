@@ -2,6 +2,7 @@
 #include "platform/system/ColourDialog.h"
 
 #include <QColorDialog>
+#include <QDialog>
 
 std::optional<QColor> ChooseColour(QWidget* parent, const QColor& current) {
     QColorDialog dialog(current, parent);

@@ -7,6 +7,8 @@
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 #include "core/failure.h"
@@ -198,7 +200,9 @@ void DiskFolder::Copy(std::string_view from, std::string_view to) {
     const timespec modified = Try(from, "read", [&] { return ModifiedTime(PathOf(from)); });
     Try(to, "written", [&] {
         const std::string target = PathOf(to);
-        if (!SameFile(PathOf(from), target)) WriteFileSafely(target, bytes, modified);
+        std::error_code noTarget;
+        const bool same = std::filesystem::equivalent(PathOf(from), target, noTarget);
+        if (!same) WriteFileSafely(target, bytes, modified);
     });
 }
 

@@ -128,8 +128,7 @@ bool IsUnknown(int error) {
 // Moves a file to a name that must be free, in one step where the disk knows how: either it renames
 // so, or it gives the file a second name.
 bool MoveToFreeName(const std::string& from, const std::string& to) {
-    const int renamed =
-        ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
+    const int renamed = ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE);
     if (renamed == 0) return true;
     if (errno == EEXIST) return false;
     if (!IsUnknown(errno)) Fail(errno);
@@ -270,13 +269,6 @@ timespec ModifiedTime(const std::string& path) {
     struct stat status {};
     Check(::stat(path.c_str(), &status));
     return status.st_mtim;
-}
-
-bool SameFile(const std::string& one, const std::string& other) {
-    struct stat first {};
-    struct stat second {};
-    if (::stat(one.c_str(), &first) == -1 || ::stat(other.c_str(), &second) == -1) return false;
-    return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
 void DeleteFile(const std::string& path) {

@@ -46,9 +46,6 @@ std::vector<std::string> NamesIn(const std::string& folder);
 /// When the file was last written.
 timespec ModifiedTime(const std::string& path);
 
-/// Whether both paths lead to one file, be it by links. A path that leads to nothing is no file.
-bool SameFile(const std::string& one, const std::string& other);
-
 void DeleteFile(const std::string& path);
 
 void MakeDirectory(const std::string& path);

@@ -55,6 +55,8 @@ std::string PictureOf(const std::string& form) {
         {"PrintSetup", "SkinFile.jpg"},
         {"About", ""},
         {"LotteryInfo", "SkinHelp.jpg"},
+        {"Preferences", "SkinFile.jpg"},
+        {"Backup", "SkinFile.jpg"},
         {"Biorhythm", "SkinAnalyse.jpg"},
         {"WhatIf", "SkinAnalyse.jpg"},
         {"OpenSyndicate", ""},
@@ -100,6 +102,7 @@ class EveryForm : public testing::TestWithParam<CatalogueEntry> {
         program.folder.Write("Lottery Info.txt", "#One\r\ntext\r\n#Two\r\ntext\r\n\r\n");
         std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
         program.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
+        program.folder.MakeFolder("Backup");
         program.tick = 0.001;
         MakeDefaultSettings(program.state, program.folder);
     }

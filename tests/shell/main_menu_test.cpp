@@ -29,8 +29,8 @@ const std::vector<MenuOfTable>& Table() {
     static const std::vector<MenuOfTable> table = {
         {"FileMenu",
          " &File",
-         {{"FileCopyToA", "Copy data files to floppy", false},
-          {"FileCopyFromA", "Copy data files from floppy", false},
+         {{"FileCopyToA", "Copy data files to floppy", true},
+          {"FileCopyFromA", "Copy data files from floppy", true},
           {"FileBackup", "Backup and Restore data", false, "Backup"},
           {"FileDelete", "Delete lottery database", false, "DeleteDbaseW"},
           {"FileDeleteSaved", "Delete saved lottery entries", true},

@@ -58,6 +58,7 @@ class EveryPrintButton : public testing::Test {
         test_.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
         std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
         test_.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
+        test_.folder.MakeFolder("Backup");
         test_.tick = 0.001;
         MakeDefaultSettings(test_.state, test_.folder);
         routines_.Offer();

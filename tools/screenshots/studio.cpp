@@ -87,6 +87,15 @@ void WriteSlipTemplates(DiskFolder& folder) {
     WriteSlipTemplate(folder, "PTemplate.001", slip);
 }
 
+/// A file for each day up to that of the pictures, whenever these are taken.
+void DateFiles(DiskFolder& folder) {
+    Date day = PictureDay;
+    for (const std::string& name : folder.Find("*")) {
+        folder.Write(name, folder.Read(name), std::chrono::sys_days(day) + std::chrono::hours(12));
+        day = DaysAfter(day, -1);
+    }
+}
+
 }  // namespace
 
 void Say(const QString& text) { QTextStream(stderr) << text << '\n'; }
@@ -118,11 +127,14 @@ Studio::Studio(const QString& folderPath)
                .openPage = [](const QString&) {},
                .saveLines = [](Form*, Grid&) {},
                .printLines = {},
+               .folderPath = QStringLiteral("/home/anna/lottery"),
                .printers = &printers} {
     random.Reset(Seed);
     WriteUserFiles(*state, folder);
     printing.Offer();
     WriteSlipTemplates(folder);
+    folder.MakeFolder("Backup");
+    DateFiles(folder);
 }
 
 void Studio::LeaveOutBackgrounds() {

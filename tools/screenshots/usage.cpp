@@ -118,6 +118,8 @@ void NameSyndicate(Form& form) {
     Type(form, "Text1(0)", "Anna");
 }
 
+void BackUpAll(Form& form) { Click(form, "Command4"); }
+
 void PrintTwelveLines(Form& form) { Type(form, "Text2", "12"); }
 
 // Further views.
@@ -133,6 +135,7 @@ const std::map<std::string, Usage>& Usages() {
         {"PLuckyNumbers", NamePlayer},
         {"PStarSign", Generate},
         {"ANumberStats", SortByLastDraw},
+        {"Backup", BackUpAll},
         {"NewSyndicate", NameSyndicate},
         {"PBudgetWheel", WheelInThirdSize},
         {"PDIYWheels", WheelFourteenNumbers},
