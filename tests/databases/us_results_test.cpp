@@ -140,6 +140,19 @@ TEST(MegaMillions, EndAtTheFirstFieldThatIsNoDate) {
 TEST(MegaMillions, TakeWhatAShortRowLacksFromTheNextLine) {
     EXPECT_EQ(MegaMillions("06/14/2005,1,2,3,4,5,6\r\n06/21/2005,7,8,9,10,11\r\n"),
               "21-Jun-2005,7,8,9,10,11,0,0,06/14/2005\r\n");
+    EXPECT_EQ(MegaMillions("06/10/2005,1,2,3,4,5,6\r\n06/14/2005,1,2,3,4,5,6\r\n"
+                           "06/21/2005,7,8,9,10\r\n"),
+              "21-Jun-2005,7,8,9,10,06/14/2005,0,0,1\r\n");
+}
+
+TEST(MegaMillions, MayLackAMegaBallButForTheLastRow) {
+    EXPECT_EQ(MegaMillions("06/14/2005,1,2,3,4,5,6\r\n06/21/2005,7,8,9,10,11,\r\n"),
+              "21-Jun-2005,7,8,9,10,11,0,0,\r\n14-Jun-2005,1,2,3,4,5,0,0,6\r\n");
+    EXPECT_NE(MegaFailure("06/21/2005,7,8,9,10,11,\r\n"), "no failure");
+}
+
+TEST(MegaMillions, MayBeginWithALineFeed) {
+    EXPECT_EQ(MegaMillions("\n\r\n06/14/2005,1,2,3,4,5,6\r\n"), "14-Jun-2005,1,2,3,4,5,0,0,6\r\n");
 }
 
 TEST(MegaMillions, KeepCommasBetweenQuotes) {
