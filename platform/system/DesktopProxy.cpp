@@ -31,17 +31,20 @@ bool EnvironmentNamesProxy(const QUrl& url) {
            !qEnvironmentVariableIsEmpty("ALL_PROXY");
 }
 
-AskedProxy* AskedProxy::Ask(const ProxyQuestion& question, const QUrl& url) {
-    auto* asked = new AskedProxy;
-    std::thread([=] {
+AskedProxy::AskedProxy(const ProxyQuestion& question, const QUrl& url)
+    : waiting_(std::make_shared<Waiting>()) {
+    waiting_->asked = this;
+    std::thread([waiting = waiting_, question, url] {
         const QString proxy = question(url);
-        const auto answer = [asked, proxy] {
-            Q_EMIT asked->Answered(proxy);
-            asked->deleteLater();
-        };
-        QMetaObject::invokeMethod(asked, answer, Qt::QueuedConnection);
+        const std::lock_guard lock(waiting->mutex);
+        AskedProxy* asked = waiting->asked;
+        if (asked == nullptr) return;
+        QMetaObject::invokeMethod(
+            asked, [asked, proxy] { Q_EMIT asked->Answered(proxy); }, Qt::QueuedConnection);
     }).detach();
-    return asked;
 }
 
-void AskedProxy::Forget() { disconnect(); }
+AskedProxy::~AskedProxy() {
+    const std::lock_guard lock(waiting_->mutex);
+    waiting_->asked = nullptr;
+}

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QUrl>
 #include <functional>
+#include <memory>
+#include <mutex>
 
 /// What proxy to take for a web address, as an address of its own ("http://proxy:3128"); empty:
 /// none.
@@ -17,18 +19,21 @@ QString ProxyOfDesktop(const QUrl& url);
 bool EnvironmentNamesProxy(const QUrl& url);
 
 /// Asks for a proxy in a thread of its own, as the answer may have to come over the net. Nobody
-/// ever waits for that thread: an answer that comes when it is not wanted any more is dropped.
+/// ever waits for that thread: an answer that comes when this is gone is dropped.
 class AskedProxy final : public QObject {
     Q_OBJECT
   public:
-    static AskedProxy* Ask(const ProxyQuestion& question, const QUrl& url);
-
-    /// Drops the answer; this deletes itself when it comes.
-    void Forget();
+    AskedProxy(const ProxyQuestion& question, const QUrl& url);
+    ~AskedProxy() override;
 
   Q_SIGNALS:
     void Answered(const QString& proxy);
 
   private:
-    AskedProxy() = default;
+    struct Waiting {
+        std::mutex mutex;
+        AskedProxy* asked;
+    };
+
+    std::shared_ptr<Waiting> waiting_;
 };

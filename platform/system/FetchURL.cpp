@@ -74,17 +74,14 @@ QString Fetch::ProxyOf(const QUrl& url) {
     if (!access_.desktopProxy || EnvironmentNamesProxy(url)) return {};
     QEventLoop loop;
     QString proxy;
-    bool answered = false;
-    AskedProxy* asked = AskedProxy::Ask(access_.desktopProxy, url);
-    connect(asked, &AskedProxy::Answered, this, [&](const QString& answer) {
-        answered = true;
+    const AskedProxy asked(access_.desktopProxy, url);
+    connect(&asked, &AskedProxy::Answered, this, [&](const QString& answer) {
         proxy = answer;
         loop.quit();
     });
     stop_ = [&loop] { loop.quit(); };
     loop.exec();
     stop_ = {};
-    if (!answered) asked->Forget();
     return proxy;
 }
 
