@@ -50,6 +50,7 @@ void MainMenu::ShowLinks(const State& state) {
 
 void MainMenu::Add(QMenu* menu, const EntryText& text) {
     const QString name = QString::fromLatin1(text.name);
+    if (text.startsGroup) menu->addSeparator();
     QAction* entry = Named(menu->addAction(tr(text.caption)), name);
     entry->setData(text.toolTip == nullptr ? QString() : tr(text.toolTip));
     if (text.keys != nullptr) {

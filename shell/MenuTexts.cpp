@@ -57,6 +57,12 @@ constexpr auto databaseEntries = std::to_array<EntryText>({
                        "Shows your saved entries, to sort, edit, delete or check them.")},
     {"DatabaseStoreDrawsW", QT_TRANSLATE_NOOP("MainMenu", "Store my lottery entries"),
      QT_TRANSLATE_NOOP("MainMenu", "Takes entries that you have bought elsewhere.")},
+    {.name = "DatabaseImport",
+     .caption = QT_TRANSLATE_NOOP("MainMenu", "Import draws..."),
+     .toolTip = QT_TRANSLATE_NOOP(
+         "MainMenu",
+         "Makes a lottery of any results file, table or web page, or adds its newest draws."),
+     .startsGroup = true},
 });
 
 constexpr auto analysisEntries = std::to_array<EntryText>({

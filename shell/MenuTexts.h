@@ -10,6 +10,7 @@ struct EntryText {
     const char* caption;
     const char* toolTip;         ///< One sentence on what it is for.
     const char* keys = nullptr;  ///< The keys that choose it in the main window.
+    bool startsGroup = false;    ///< Whether a line parts it from the entries above it.
 };
 
 /// A menu with its entries; without any it is the menu of the links, whose words are settings.

@@ -19,6 +19,7 @@
 #include "databases/DbaseUpdateW.h"
 #include "databases/DeleteDbaseW.h"
 #include "databases/HistoryW.h"
+#include "databases/ImportDraws.h"
 #include "databases/OpenDbase.h"
 #include "entries/SaveEntries.h"
 #include "entries/ShowMyDrawsW.h"
@@ -105,6 +106,10 @@ constexpr auto catalogue = std::to_array<CatalogueEntry>({
      .make = Make<ShowMyDrawsW>,
      .needsSavedEntries = true},
     {.menuEntry = "DatabaseStoreDrawsW", .form = "StoreMyDrawsW", .make = Make<StoreMyDrawsW>},
+    {.menuEntry = "DatabaseImport",
+     .form = "ImportDraws",
+     .make = Make<ImportDraws>,
+     .changesDatabases = true},
 
     {.menuEntry = "AnalysisCommon", .form = "ACommonNumbers", .make = Make<ACommonNumbers>},
     {.menuEntry = "AnalyseColdNums",

@@ -67,6 +67,7 @@ std::string PictureOf(const std::string& form) {
         {"DbaseUpdateUS", "SkinDatabases.jpg"},
         {"DbaseUpdateW", "SkinDatabases.jpg"},
         {"HistoryW", "SkinDatabases.jpg"},
+        {"ImportDraws", "SkinDatabases.jpg"},
         {"StoreMyDrawsW", "SkinDatabases.jpg"},
         {"ShowMyDrawsW", "SkinDatabases.jpg"},
         {"Wheel49", "SkinPlay.jpg"}};

@@ -48,7 +48,8 @@ const std::vector<MenuOfTable>& Table() {
           {"DatabaseUpdate", "Download UK lottery results", false, "DbaseUpdate"},
           {"DatabaseCheck", "Check my lottery entries", false, "ShowMyDrawsW"},
           {"DatabaseViewCheck", "Show my lottery entries", false, "ShowMyDrawsW"},
-          {"DatabaseStoreDrawsW", "Store my lottery entries", false, "StoreMyDrawsW"}}},
+          {"DatabaseStoreDrawsW", "Store my lottery entries", false, "StoreMyDrawsW"},
+          {"DatabaseImport", "Import draws...", false, "ImportDraws"}}},
         {"AnalysisMenu",
          " &Analyse",
          {{"AnalysisCommon", "Hot numbers", false, "ACommonNumbers"},
@@ -143,12 +144,25 @@ TEST_F(MainMenuOfWindow, HasTheSevenMenusInOrder) {
 TEST_F(MainMenuOfWindow, HasEveryEntryUnderItsNameAndCaptionInOrder) {
     Start();
     for (const MenuOfTable& expected : Table()) {
-        const auto entries = Find<QMenu>(*window, expected.name)->actions();
+        auto entries = Find<QMenu>(*window, expected.name)->actions();
+        entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
         ASSERT_EQ(entries.size(), static_cast<qsizetype>(expected.entries.size())) << expected.name;
         for (qsizetype i = 0; i < entries.size(); ++i) {
             const EntryOfTable& entry = expected.entries.at(static_cast<std::size_t>(i));
             EXPECT_EQ(entries[i]->objectName().toStdString(), entry.name);
             EXPECT_EQ(entries[i]->text().toStdString(), entry.caption) << entry.name;
+        }
+    }
+}
+
+TEST_F(MainMenuOfWindow, PartsTheImportFromTheEntriesAboveItAndNothingElse) {
+    Start();
+    for (const MenuOfTable& menu : Table()) {
+        const auto entries = Find<QMenu>(*window, menu.name)->actions();
+        for (qsizetype i = 0; i + 1 < entries.size(); ++i) {
+            const bool aboveImport =
+                entries[i + 1]->objectName() == QLatin1String("DatabaseImport");
+            EXPECT_EQ(entries[i]->isSeparator(), aboveImport) << menu.name << ", entry " << i;
         }
     }
 }
@@ -203,7 +217,7 @@ TEST_F(MainMenuOfWindow, EveryFormOfTheCatalogueHasItsMenuEntry) {
         EXPECT_TRUE(seen.insert(form.menuEntry).second) << form.menuEntry << " stands twice";
         EXPECT_EQ(Entry(form.menuEntry)->isEnabled(), form.make != nullptr) << form.menuEntry;
     }
-    EXPECT_EQ(seen.size(), 52U);
+    EXPECT_EQ(seen.size(), 53U);
 }
 
 TEST_F(MainMenuOfWindow, ShowsTheLinksThatTheSettingsName) {

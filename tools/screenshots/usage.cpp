@@ -2,13 +2,18 @@
 #include "tools/screenshots/usage.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <map>
+#include <random>
+#include <set>
 
+#include "core/date.h"
 #include "platform/widgets/Lists.h"
 
 namespace {
@@ -126,6 +131,32 @@ void PrintTwelveLines(Form& form) { Type(form, "Text2", "12"); }
 
 void TurnToReadingPage(Form& form) { Find<QTabWidget>(form, "Pages")->setCurrentIndex(1); }
 
+// Databases.
+
+/// A year of draws of 6 from 1 to 59 with a bonus ball, as an operator's file has them.
+std::string YearOfResults() {
+    std::mt19937 random(59);
+    std::string text = "DrawDate,Ball 1,Ball 2,Ball 3,Ball 4,Ball 5,Ball 6,Bonus Ball,Machine\n";
+    Date date = std::chrono::year(2025) / std::chrono::January / 1;
+    for (int draw = 0; draw < 104; ++draw) {
+        text += MediumDate(date);
+        std::set<unsigned> drawn;
+        while (drawn.size() < 7) {
+            const unsigned ball = static_cast<unsigned>(random() % 59U) + 1;
+            if (drawn.insert(ball).second) text += "," + std::to_string(ball);
+        }
+        text += draw % 3 == 0 ? ",Merlin\n" : ",Arthur\n";
+        date = DaysAfter(date, draw % 2 == 0 ? -4 : -3);
+    }
+    return text;
+}
+
+void PasteAYearOfResults(Form& form) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(YearOfResults()));
+    Click(form, "PasteTable");
+    Type(form, "NewName", "Saturday lotto");
+}
+
 using Usage = void (*)(Form&);
 
 const std::map<std::string, Usage>& Usages() {
@@ -136,6 +167,7 @@ const std::map<std::string, Usage>& Usages() {
         {"PStarSign", Generate},
         {"ANumberStats", SortByLastDraw},
         {"Backup", BackUpAll},
+        {"ImportDraws", PasteAYearOfResults},
         {"NewSyndicate", NameSyndicate},
         {"PBudgetWheel", WheelInThirdSize},
         {"PDIYWheels", WheelFourteenNumbers},
