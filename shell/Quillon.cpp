@@ -4,12 +4,15 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
 
 #include "core/draw_database.h"
 #include "core/old_files.h"
 #include "core/saved_entries.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
+#include "databases/ImportDraws.h"
+#include "platform/forms/DroppedFile.h"
 #include "platform/forms/RoomOnScreen.h"
 #include "platform/forms/Skin.h"
 #include "platform/forms/WindowSize.h"
@@ -47,6 +50,7 @@ Quillon::Quillon(Program& program, QWidget* parent)
     KeepTextBoxesToOneLine(*this);
     resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
     RememberSize(*this, program.services.windows);
+    setAcceptDrops(true);
     AnswerMenu();
     AnswerForms();
     AnswerArea();
@@ -166,7 +170,19 @@ void Quillon::Open(const CatalogueEntry& entry, int lottery) {
         for (int i = 0; i < entry.messageRuns; ++i) QCoreApplication::processEvents();
         entry.prepare(*form);
     }
-    form->exec();
+    Show(*form, entry);
+}
+
+void Quillon::Import(const QString& path) {
+    const CatalogueEntry& entry = *FindCatalogueEntry(QStringLiteral("DatabaseImport"));
+    ImportDraws form(program_, this);
+    form.Load();
+    form.TakeFile(path);
+    Show(form, entry);
+}
+
+void Quillon::Show(Form& form, const CatalogueEntry& entry) {
+    form.exec();
     if (entry.changesDatabases) ListDatabases();
     if (entry.changesSyndicate) UpdateSyndicate();
     if (entry.changesSettings) {
@@ -216,6 +232,19 @@ void Quillon::Choose(const QString& menuEntry) {
     } else {
         menu_->Entry(menuEntry)->trigger();
     }
+}
+
+void Quillon::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// The form opens once the drop is done: whoever dragged the file waits for that.
+void Quillon::dropEvent(QDropEvent* event) {
+    const QString file = DroppedFile(*event->mimeData());
+    if (file.isEmpty()) return;
+    event->acceptProposedAction();
+    QMetaObject::invokeMethod(
+        this, [this, file] { Import(file); }, Qt::QueuedConnection);
 }
 
 void Quillon::closeEvent(QCloseEvent* event) {

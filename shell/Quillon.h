@@ -5,6 +5,7 @@
 
 #include "platform/system/Services.h"
 
+class Form;
 class HelpCommands;
 class MainArea;
 class MainMenu;
@@ -25,18 +26,24 @@ class Quillon final : public QMainWindow {
     /// chosen in its list, where it is not the first.
     void Open(const CatalogueEntry& entry, int lottery = 0);
 
+    /// Opens the import with that file.
+    void Import(const QString& path);
+
   Q_SIGNALS:
     /// The window has been closed and notes and settings are on disk: the run is over.
     void ended();
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void AnswerMenu();
     void AnswerForms();
     void AnswerArea();
     void Choose(const QString& menuEntry);
+    void Show(Form& form, const CatalogueEntry& entry);
 
     void LoadSettings();
     void Skinning();

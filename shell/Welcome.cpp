@@ -39,6 +39,8 @@ Welcome::Welcome(QWidget* parent) : QWidget(parent) {
                      tr("From one of over a hundred templates, or tell how many numbers are drawn"));
     addDraw_ = AddLink("wUpdateDbase", "toolbar02");
     connect(addDraw_, &WelcomeLink::clicked, this, [this] { Q_EMIT drawWanted(lottery_); });
+    AddStep("DatabaseImport", "toolbar01", tr("Import draws"),
+            tr("From a results file, a table on a web page, or a web address"));
     generate_ = AddStep("PlayLuckyDip", "toolbar10", tr("Generate entries"),
                         tr("A lucky dip under conditions of your choice"));
     check_ = AddStep("DatabaseCheck", "toolbar03", tr("Check your entries"),

@@ -12,6 +12,7 @@ namespace {
 
 constexpr const char* setUpLink = "WelcomeDatabasesCreate";
 constexpr const char* addDrawLink = "WelcomewUpdateDbase";
+constexpr const char* importLink = "WelcomeDatabaseImport";
 constexpr const char* generateLink = "WelcomePlayLuckyDip";
 constexpr const char* checkLink = "WelcomeDatabaseCheck";
 constexpr const char* storeLink = "WelcomeDatabaseStoreDrawsW";
@@ -33,7 +34,7 @@ class WelcomeOfWindow : public MainWindow {
     std::vector<std::string> Offered() {
         std::vector<std::string> offered;
         for (const char* name :
-             {setUpLink, addDrawLink, generateLink, checkLink, storeLink, deskLink}) {
+             {setUpLink, addDrawLink, importLink, generateLink, checkLink, storeLink, deskLink}) {
             if (Link(name)->isVisible()) offered.emplace_back(name);
         }
         return offered;
@@ -45,13 +46,13 @@ class WelcomeOfWindow : public MainWindow {
 TEST_F(WelcomeOfWindow, OffersNothingThatLeadsNowhereWithoutALottery) {
     program.folder.Write(savedEntriesFile, savedEntry);
     Start();
-    EXPECT_EQ(Offered(), (Links{setUpLink, deskLink}));
+    EXPECT_EQ(Offered(), (Links{setUpLink, importLink, deskLink}));
 }
 
 TEST_F(WelcomeOfWindow, BeginsWithTheUsersLotteryWhileThereAreSamplesOnly) {
     AddSample();
     Start();
-    EXPECT_EQ(Offered(), (Links{setUpLink, generateLink, storeLink, deskLink}));
+    EXPECT_EQ(Offered(), (Links{setUpLink, importLink, generateLink, storeLink, deskLink}));
     EXPECT_EQ(Link(setUpLink)->text(), QStringLiteral("Set up your lottery"));
 }
 
@@ -59,7 +60,7 @@ TEST_F(WelcomeOfWindow, BeginsWithTheLatestDrawOnceThereIsALottery) {
     AddSample();
     AddUkLotto(program.folder);
     Start();
-    EXPECT_EQ(Offered(), (Links{addDrawLink, generateLink, storeLink, deskLink}));
+    EXPECT_EQ(Offered(), (Links{addDrawLink, importLink, generateLink, storeLink, deskLink}));
     EXPECT_EQ(Link(addDrawLink)->text(),
               QStringLiteral("Add the latest draw of UK Lotto (newest: 28 May 2005)"));
 }
@@ -74,7 +75,7 @@ TEST_F(WelcomeOfWindow, OffersTheCheckOnceEntriesAreSaved) {
     AddUkLotto(program.folder);
     program.folder.Write(savedEntriesFile, savedEntry);
     Start();
-    EXPECT_EQ(Offered(), (Links{addDrawLink, generateLink, checkLink, storeLink, deskLink}));
+    EXPECT_EQ(Offered(), (Links{addDrawLink, importLink, generateLink, checkLink, storeLink, deskLink}));
     InDialog([this] { Click(*window, checkLink); },
              [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("ShowMyDrawsW")); });
 }
@@ -142,8 +143,8 @@ TEST_F(WelcomeOfWindow, HasTheFocusOnItsFirstLinkAtStart) {
     Start();
     EXPECT_EQ(window->focusWidget(), Link(setUpLink));
     QTest::keyClick(Link(setUpLink), Qt::Key_Down);
-    EXPECT_EQ(window->focusWidget(), Link(generateLink));
-    QTest::keyClick(Link(generateLink), Qt::Key_Up);
+    EXPECT_EQ(window->focusWidget(), Link(importLink));
+    QTest::keyClick(Link(importLink), Qt::Key_Up);
     EXPECT_EQ(window->focusWidget(), Link(setUpLink));
 }
 
@@ -208,6 +209,8 @@ TEST_F(WelcomeOfWindow, BeginsWithALotteryWhereThereIsNone) {
 TEST_F(WelcomeOfWindow, LeadsToTheFirstSteps) {
     program.folder.Write("dbase1.txt", database);
     Start();
+    InDialog([this] { Click(*window, importLink); },
+             [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("ImportDraws")); });
     InDialog([this] { Click(*window, generateLink); },
              [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("PLuckyDip")); });
     InDialog([this] { Click(*window, storeLink); },
