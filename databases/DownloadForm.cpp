@@ -43,6 +43,11 @@ DownloadForm::DownloadForm(Program& program, const QString& name, const Words& w
       timer_(Named(new QTimer(this), QStringLiteral("Timer1"))) {
     download_->setDefault(true);
     timer_->setInterval(tenthOfASecond);
+    progress_->SetTips([this](int row) {
+        const QListWidgetItem& line = *progress_->item(row);
+        const QString reason = line.data(Qt::AccessibleDescriptionRole).toString();
+        return reason.isEmpty() ? line.text() : reason;
+    });
     SetCloseButton(close_);
     connect(download_, &QPushButton::clicked, this, [this] { Download(); });
     connect(close_, &QPushButton::clicked, this, [this] { Unload(); });
@@ -155,11 +160,14 @@ void DownloadForm::Tick() {
 }
 
 void DownloadForm::Announce(const QString& text) {
-    Complain(text % QString::number(elapsedTenths_ / 10.0, 'f', 1) % tr(" sec"));
+    progress_->addItem(text % QString::number(elapsedTenths_ / 10.0, 'f', 1) % tr(" sec"));
     progress_->SetIndex(progress_->count() - 1);
 }
 
-void DownloadForm::Complain(const QString& text) { progress_->addItem(text); }
+void DownloadForm::Complain(const QString& text) {
+    progress_->addItem(text);
+    progress_->item(progress_->count() - 1)->setData(Qt::AccessibleDescriptionRole, reason_);
+}
 
 std::optional<std::string> DownloadForm::Fetch(const Page& page) {
     saidTenths_ = elapsedTenths_;
@@ -169,11 +177,10 @@ std::optional<std::string> DownloadForm::Fetch(const Page& page) {
         Say({});
         return std::move(fetched.bytes);
     }
-    const QString reason =
-        fetched.problem.isEmpty()
-            ? tr("A page of %1 bytes is too short to hold draws.").arg(fetched.bytes.size())
-            : fetched.problem;
-    Say(page.lottery % tr(": ") % reason);
+    reason_ = fetched.problem.isEmpty()
+                  ? tr("A page of %1 bytes is too short to hold draws.").arg(fetched.bytes.size())
+                  : fetched.problem;
+    Say(page.lottery % tr(": ") % reason_);
     return std::nullopt;
 }
 

@@ -74,7 +74,8 @@ class DownloadForm : public Form {
     /// Adds the text and the time to the list and chooses the line.
     void Announce(const QString& text);
 
-    /// Adds a line that says what went wrong; the choice stays where it is.
+    /// Adds a line that says what went wrong with the last page, and why as its tip; the choice
+    /// stays where it is.
     void Complain(const QString& text);
 
     /// Fetches the page; nothing where it is too short, and why is said beside the buttons. While
@@ -101,6 +102,7 @@ class DownloadForm : public Form {
     QPushButton* close_;
     ListBox* progress_;
     QTimer* timer_;
+    QString reason_;  // Why the last page that is missing is.
     std::int16_t elapsedTenths_ = 0;
     std::int16_t saidTenths_ = 0;  // When something was said last of a page under way.
     std::vector<Address> addresses_;

@@ -124,6 +124,10 @@ TEST_F(DownloadingUkDraws, SaysWhyAPageIsMissingUntilAnotherComes) {
                                  {},
                                  {}}));
     EXPECT_EQ(Said(), QString());
+    EXPECT_EQ(TipOver(0), QStringLiteral("Downloading UK Lotto draws...0.0 sec"));
+    EXPECT_EQ(TipOver(1), QStringLiteral("No page."));
+    EXPECT_EQ(TipOver(3), QStringLiteral("A page of 999 bytes is too short to hold draws."));
+    EXPECT_EQ(TipOver(5), QStringLiteral("Processing UK Daily Play draws...0.0 sec"));
 }
 
 TEST_F(DownloadingUkDraws, SaysEveryTwoSecondsHowMuchOfAPageHasCome) {

@@ -2,11 +2,14 @@
 // What the tests of the forms that download draws have in common.
 #pragma once
 
+#include <QApplication>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolTip>
 #include <functional>
 #include <map>
 #include <memory>
@@ -58,6 +61,15 @@ class DownloadFormTest : public testing::Test {
     QString AddressOf(int slot) { return ToQString(test_.state.Settings(slot)); }
 
     ListBox& List() { return *Find<ListBox>(*form_, "List2"); }
+
+    /// What the tip over a line of the list says.
+    QString TipOver(int line) {
+        List().scrollToItem(List().item(line));
+        const QPoint place = List().visualItemRect(List().item(line)).center();
+        QHelpEvent help(QEvent::ToolTip, place, List().viewport()->mapToGlobal(place));
+        QApplication::sendEvent(List().viewport(), &help);
+        return QToolTip::text();
+    }
 
     /// What stands beside the buttons.
     QString Said() { return Find<QLabel>(*form_, "Said")->text(); }
