@@ -61,7 +61,7 @@ void Form::Say(const QString& text) {
     said->Say(text);
 }
 
-void Form::OpenHelp() const { services().openPage(helpPage_ % QLatin1Char('#') % objectName()); }
+void Form::OpenHelp() const { services().openPage(helpPage_); }
 
 void Form::reject() { CloseAsTheUserDoes(); }
 
@@ -116,7 +116,7 @@ void Form::setVisible(bool visible) {
 
 void Form::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F1) {
-        OpenHelp();
+        services().openPage(helpPage_ % QLatin1Char('#') % objectName());
         return;
     }
     auto* focused = qobject_cast<QPushButton*>(focusWidget());

@@ -65,7 +65,7 @@ class Form : public QDialog {
     /// The page that F1 and the help buttons open; "help.html" where none is set.
     void SetHelpPage(const QString& page) { helpPage_ = page; }
 
-    /// Opens the help page at the place of this form, an anchor of the form's name.
+    /// Opens the help page from its beginning, as the help buttons do.
     void OpenHelp() const;
 
     /// Closes the form for good, without a click on the close button.

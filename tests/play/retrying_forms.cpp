@@ -94,7 +94,8 @@ void TryingFormTest::ExpectTipAndHelp() {
     Click(*form_, helpButton);
     QTest::keyClick(form_.get(), Qt::Key_F1);
     EXPECT_EQ(test_.pages,
-              std::vector<QString>(2, QStringLiteral("helpplay.html#") % form_->objectName()));
+              (std::vector<QString>{QStringLiteral("helpplay.html"),
+                                    QStringLiteral("helpplay.html#") % form_->objectName()}));
 }
 
 void TryingFormTest::ExpectNoActionWhileBusy(const FilterNames& filters) {

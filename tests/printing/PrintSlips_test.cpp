@@ -173,7 +173,7 @@ TEST_F(AskingForTickets, CancelAndEscAreTheSame) {
 TEST_F(AskingForTickets, HelpOpensThePageOfPrinting) {
     Open();
     Click(*form_, helpButton);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpprint.html#PrintTickets")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpprint.html")});
 }
 
 TEST_F(AskingForTickets, AdjustsThePrinterThatIsChosenInTheList) {

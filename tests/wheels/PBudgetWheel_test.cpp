@@ -449,7 +449,7 @@ TEST_F(BudgetWheelsForm, TakesColoursOneToThreeOfTheSkin) {
 TEST_F(BudgetWheelsForm, OpensTheHelpPage) {
     Open();
     Click(*form_, helpButton);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html#PBudgetWheel")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
 }
 
 TEST_F(BudgetWheelsForm, ReachesItsControlsByTabInReadingOrder) {

@@ -314,7 +314,7 @@ TEST_F(CreateAWheel, TakesColoursOneToThreeOfTheSkin) {
 TEST_F(CreateAWheel, OpensTheHelpPage) {
     Open();
     Click(*form_, helpButton);
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html#PDIYWheels")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
 }
 
 TEST_F(CreateAWheel, ReachesItsControlsByTabInReadingOrder) {

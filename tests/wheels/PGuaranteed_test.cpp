@@ -504,7 +504,7 @@ TEST_F(GuaranteedWheelsForm, GivesColoursOfTheSkinToItsLabels) {
 TEST_F(GuaranteedWheelsForm, OpensTheHelpPageFromBothButtons) {
     Open();
     for (const char* help : {"Command10", "Command11"}) Click(*form_, help);
-    EXPECT_EQ(test_.pages, std::vector<QString>(2, QStringLiteral("helpplay.html#PGuaranteed")));
+    EXPECT_EQ(test_.pages, std::vector<QString>(2, QStringLiteral("helpplay.html")));
 }
 
 TEST_F(GuaranteedWheelsForm, EndsInTheReportWithoutALottery) {

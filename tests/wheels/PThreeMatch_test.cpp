@@ -385,7 +385,7 @@ TEST_F(MatchWheelsForm, GivesColoursOfTheSkinToItsLabels) {
 TEST_F(MatchWheelsForm, OpensTheHelpPage) {
     Open();
     Click(*form_, "Command3");
-    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html#PThreeMatch")});
+    EXPECT_EQ(test_.pages, std::vector<QString>{QStringLiteral("helpplay.html")});
 }
 
 TEST_F(MatchWheelsForm, EndsInTheReportWithoutALottery) {
