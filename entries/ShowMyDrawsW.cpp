@@ -4,12 +4,15 @@
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QPushButton>
+#include <memory>
+#include <utility>
 
 #include "core/old_files.h"
 #include "core/text.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/GridEditor.h"
 #include "platform/forms/Hourglass.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
@@ -80,6 +83,20 @@ void ShowMyDrawsW::ToggleButtons() {
     for (QPushButton* command : commands_) command->setEnabled(!command->isEnabled());
 }
 
+void ShowMyDrawsW::RememberEntries(const QString& command) {
+    auto before = std::make_shared<EntryTable>(entryTable_);
+    takeBack_->Remember(command, [this, before = std::move(before), changed = entriesChanged_,
+                                  row = editor_->Row(), column = editor_->Column()] {
+        entryTable_ = *before;
+        DisplayMyDraws();
+        MarkChanged();
+        entriesChanged_ = changed;
+        editor_->GoTo(row, column);
+        editor_->EditCell();
+        return true;
+    });
+}
+
 void ShowMyDrawsW::MarkChanged() {
     entriesChanged_.Set();
     if (!checkSummary_->text().isEmpty()) TellCheck(tr("Changed since the check"));
@@ -109,6 +126,7 @@ void ShowMyDrawsW::ChangeItem() {
     if (isNumber && (number < 1 || number > highestNumber)) {
         return refuse(tr("Number out of range!  "));
     }
+    RememberEntries(tr("item changed"));
     entryTable_(row, column) = Trim(text);
     grid_->SetCell(row, column, ToQString(Trim(text)));
     ShowRowsInUse();
@@ -117,11 +135,13 @@ void ShowMyDrawsW::ChangeItem() {
 
 void ShowMyDrawsW::ChangeDateOfRow() {
     const int row = grid_->CurrentRow();
+    RememberEntries(tr("date changed"));
     if (!ChangeDateOf(row)) Say(tr("There is no date in this row"));
     MarkChanged();
 }
 
 void ShowMyDrawsW::ChangeAllDates() {
+    RememberEntries(tr("all dates changed"));
     int row = 1;
     while (ChangeDateOf(row)) ++row;
     MarkChanged();
@@ -139,6 +159,7 @@ bool ShowMyDrawsW::ChangeDateOf(int row) {
 template <typename Sort>
 void ShowMyDrawsW::SortEntries(Sort sort) {
     const Hourglass hourglass;
+    RememberEntries(tr("entries sorted"));
     ToggleButtons();
     sort();
     DisplayMyDraws();
@@ -165,6 +186,7 @@ void ShowMyDrawsW::DeleteThisRow() {
         grid_->currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     if (!Confirmed(tr("Delete this lottery entry?   "))) return;
     const int before = EntryCount(*grid_);
+    RememberEntries(tr("entry deleted"));
     DeleteRow(entryTable_, static_cast<std::int16_t>(row));
     DisplayMyDraws();
     MarkChanged();
@@ -178,6 +200,7 @@ void ShowMyDrawsW::DeleteOldRows() {
     const Hourglass hourglass;
     // Kept on purpose: entries of yesterday stay, whatever the question says.
     const int before = EntryCount(*grid_);
+    RememberEntries(tr("old entries deleted"));
     DeleteOutOfDate(entryTable_, services().region, services().today());
     DisplayMyDraws();
     MarkChanged();
@@ -214,6 +237,7 @@ void ShowMyDrawsW::Save() {
     editor_->EditCell();
     // Kept on purpose: an empty table is not counted as saved.
     if (!entries.empty()) entriesChanged_.Clear();
+    takeBack_->Forget();
     Say(Counted(EntryCount(*grid_), tr("There are no entries left to save"), tr("1 entry saved"),
                 tr("%1 entries saved")));
 }

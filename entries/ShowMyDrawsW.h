@@ -17,6 +17,7 @@ class QLabel;
 class QLayout;
 class QPlainTextEdit;
 class QPushButton;
+class TakeBack;
 
 /// Shows the saved entries, lets them be edited, sorted and deleted, and checks them against the
 /// draws of their dates.
@@ -58,6 +59,8 @@ class ShowMyDrawsW final : public Form {
     void DisplayMyDraws();
     void ShowRowsInUse();
     void GoToFirstCell();
+    /// Keeps the table as it is, to be taken back to; `command` is what happens to it now.
+    void RememberEntries(const QString& command);
     void MarkChanged();
 
     void ChangeItem();
@@ -94,6 +97,7 @@ class ShowMyDrawsW final : public Form {
     Grid* grid_;
     FilteredBox* item_;
     GridEditor* editor_;
+    TakeBack* takeBack_;
     DatePicker* date_;
     QPlainTextEdit* report_;
     QWidget* colourKey_;

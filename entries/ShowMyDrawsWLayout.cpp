@@ -11,6 +11,7 @@
 #include "entries/ShowMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/GridEditor.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
@@ -60,6 +61,7 @@ ShowMyDrawsW::ShowMyDrawsW(Program& program, QWidget* parent)
     LayOutForm(this, MakeTitle(QStringLiteral("Label8"), tr("Stored lottery entries")), explanation,
                body, MakeActions());
     TabInReadingOrder();
+    takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 740});
 }
 

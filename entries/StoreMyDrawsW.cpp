@@ -4,12 +4,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <utility>
 
 #include "core/draw_database.h"
 #include "entries/EntryGrid.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LotteryList.h"
 #include "platform/forms/ShowTip.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
@@ -73,6 +75,7 @@ void StoreMyDrawsW::Add() {
         return;
     }
     const int row = EntryCount(*grid_) + 1;
+    RememberEntries(tr("entry added"));
     grid_->ScrollToRow(row);
     WriteEntry(row);
     GoToRow(row);
@@ -131,20 +134,44 @@ void StoreMyDrawsW::Offer(QPushButton& command, bool possible) {
     command.setEnabled(possible);
 }
 
+void StoreMyDrawsW::RememberEntries(const QString& command) {
+    std::vector<QStringList> before;
+    for (int row = 1; row < parkingRow; ++row) {
+        QStringList& cells = before.emplace_back();
+        for (int column = 0; column <= entry_column::last; ++column) {
+            cells << grid_->Cell(row, column);
+        }
+    }
+    takeBack_->Remember(command, [this, before = std::move(before), current = grid_->CurrentRow()] {
+        int row = 0;
+        for (const QStringList& cells : before) {
+            ++row;
+            for (int column = 0; column <= entry_column::last; ++column) {
+                grid_->SetCell(row, column, cells.at(column));
+            }
+        }
+        GoToRow(current);
+        return true;
+    });
+}
+
 void StoreMyDrawsW::DeleteRow() {
     const int row = grid_->CurrentRow();
+    RememberEntries(tr("row deleted"));
     DeleteGridRow(*grid_, row, lastMovedColumn);
     GoToRow(row);
 }
 
 void StoreMyDrawsW::MoveRowUp() {
     const int row = grid_->CurrentRow();
+    RememberEntries(tr("row moved"));
     SwapGridRows(*grid_, row, row - 1, lastMovedColumn);
     GoToRow(row - 1);
 }
 
 void StoreMyDrawsW::MoveRowDown() {
     const int row = grid_->CurrentRow();
+    RememberEntries(tr("row moved"));
     SwapGridRows(*grid_, row, row + 1, lastMovedColumn);
     GoToRow(row + 1);
 }

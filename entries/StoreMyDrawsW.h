@@ -11,6 +11,7 @@ class ListBox;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class TakeBack;
 
 /// Stores entries that the user types in: they gather in the grid until they are saved.
 ///
@@ -51,6 +52,8 @@ class StoreMyDrawsW final : public Form {
     bool EntryIsChosen() const;
     bool RowCanMoveUp() const;
     bool RowCanMoveDown() const;
+    /// Keeps the grid as it is, to be taken back to; `command` is what happens to it now.
+    void RememberEntries(const QString& command);
     void DeleteRow();
     void MoveRowUp();
     void MoveRowDown();
@@ -67,6 +70,7 @@ class StoreMyDrawsW final : public Form {
     QLabel* extraBallTitle_;
     QPushButton* add_;
     Grid* grid_;
+    TakeBack* takeBack_;
     QPushButton* deleteRow_;
     QPushButton* moveUp_;
     QPushButton* moveDown_;

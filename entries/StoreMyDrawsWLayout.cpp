@@ -10,6 +10,7 @@
 #include "entries/EntryGrid.h"
 #include "entries/StoreMyDrawsW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/Grid.h"
@@ -33,6 +34,7 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
     layout->addLayout(MakeNumbers());
     layout->addWidget(grid_, 1);
     layout->addLayout(MakeActions());
+    takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 620});
     GoToRow(grid_->CurrentRow());
 }

@@ -3,13 +3,16 @@
 
 #include <QKeyEvent>
 #include <QStackedLayout>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "core/old_files.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "platform/forms/GridEditor.h"
 #include "platform/forms/ShowTip.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
@@ -68,6 +71,31 @@ void SManager::ShowRows(int first, int last) {
     }
 }
 
+void SManager::RememberDiary(const QString& command) {
+    std::vector<QColor> colours;
+    for (int row = 1; row <= lastRecord; ++row) {
+        for (int column = 0; column < diary_column::Count; ++column) {
+            colours.push_back(grid_->CellColour(row, column));
+        }
+    }
+    auto before = std::make_shared<DiaryTable>(*diary_);
+    takeBack_->Remember(
+        command, [this, before = std::move(before), colours = std::move(colours), changed = dirty_,
+                  row = editor_->Row(), column = editor_->Column()] {
+            *diary_ = *before;
+            ShowRows(1, lastRecord);
+            auto colour = colours.begin();
+            for (int each = 1; each <= lastRecord; ++each) {
+                for (int at = 0; at < diary_column::Count; ++at)
+                    grid_->SetCellColour(each, at, *colour++);
+            }
+            dirty_ = changed;
+            editor_->GoTo(row, column);
+            AddUp();
+            return true;
+        });
+}
+
 void SManager::FollowCell(int row, int column) {
     editor_->MarkCell();
     if (column == diary_column::Date) {
@@ -110,7 +138,9 @@ bool SManager::eventFilter(QObject* watched, QEvent* event) {
 void SManager::Enter() {
     const int row = editor_->Row();
     const int column = editor_->Column();
+    RememberDiary(tr("cell changed"));
     if (!EnterInto(row, column)) {
+        takeBack_->Drop();
         ShowTip(services(), this, 6);
         return;
     }
@@ -152,6 +182,7 @@ void SManager::AddUp() {
 void SManager::DeleteRow() {
     const int row = editor_->Row();
     if (row == lastRecord) return Say(tr("The last row is not deleted"));
+    RememberDiary(tr("row deleted"));
     DeleteRecord(*diary_, row);
     ShowRows(row, lastRecord);
     editor_->GoTo(row, diary_column::Tickets);
@@ -161,7 +192,11 @@ void SManager::DeleteRow() {
 void SManager::MoveUp() {
     const int row = editor_->Row();
     if (row == 1) return;
-    if (!MoveRecordUp(*diary_, row)) return editor_->GoTo(row, editor_->Column());
+    RememberDiary(tr("row moved"));
+    if (!MoveRecordUp(*diary_, row)) {
+        takeBack_->Drop();
+        return editor_->GoTo(row, editor_->Column());
+    }
     ShowRows(row - 1, row);
     editor_->GoTo(row - 1, diary_column::Tickets);
     grid_->ScrollToRow(row - 1);
@@ -170,7 +205,11 @@ void SManager::MoveUp() {
 void SManager::MoveDown() {
     const int row = editor_->Row();
     if (row == lastRecord) return;
-    if (!MoveRecordDown(*diary_, row)) return editor_->GoTo(row, editor_->Column());
+    RememberDiary(tr("row moved"));
+    if (!MoveRecordDown(*diary_, row)) {
+        takeBack_->Drop();
+        return editor_->GoTo(row, editor_->Column());
+    }
     ShowRows(row, row + 1);
     editor_->GoTo(row + 1, diary_column::Tickets);
     grid_->ScrollToRow(row + 1);

@@ -15,6 +15,7 @@ class GridEditor;
 class QLayout;
 class QPushButton;
 class QStackedLayout;
+class TakeBack;
 class SyndicateBoxes;
 class TotalBox;
 
@@ -45,6 +46,8 @@ class SManager final : public Form {
 
     void ShowDiary();
     void ShowRows(int first, int last);
+    /// Keeps the diary as it is, to be taken back to; `command` is what happens to it now.
+    void RememberDiary(const QString& command);
     void FollowCell(int row, int column);
     void EditDate(int row);
     void EditText(int row, int column);
@@ -71,5 +74,6 @@ class SManager final : public Form {
     DatePicker* date_;
     QStackedLayout* editors_ = nullptr;
     GridEditor* editor_ = nullptr;
+    TakeBack* takeBack_ = nullptr;
     TotalBox* total_;
 };

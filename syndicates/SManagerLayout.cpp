@@ -9,6 +9,7 @@
 
 #include "platform/forms/FormLayout.h"
 #include "platform/forms/GridEditor.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/FilteredBox.h"
@@ -36,6 +37,7 @@ SManager::SManager(Program& program, QWidget* parent)
                BuildBody(), BuildActions());
     connect(boxes_, &SyndicateBoxes::changed, this, [this] { dirty_.Set(); });
     TabInReadingOrder();
+    takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 740});
 }
 

@@ -280,6 +280,53 @@ TEST_F(ShowingEntries, NothingIsToldOf499Entries) {
     EXPECT_FALSE(Find<QLabel>(*form_, "UnreadEntries")->isVisible());
 }
 
+TEST_F(ShowingEntries, CtrlZTakesBackAllCommandsTheLastOneFirst) {
+    Open();
+    const std::string before = Row(1) + Row(2) + Row(3);
+    Enter(1, 10, "Zoe");
+    Run(sortByDate);
+    const std::string sorted = Row(1) + Row(2) + Row(3);
+    test_.messages.Expect(deleteThis, Answer::Ok);
+    Run(deleteThisRow);
+    EXPECT_EQ(Row(3).substr(0, 2), ",,");
+
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1) + Row(2) + Row(3), sorted);
+    EXPECT_EQ(Said(), QStringLiteral("Taken back: entry deleted"));
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Players(), "Zoe Ann Bea ");
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1) + Row(2) + Row(3), before);
+    EXPECT_EQ(Said(), QStringLiteral("Taken back: item changed"));
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Said(), QStringLiteral("There is nothing to take back"));
+    // Nothing is unsaved any more, so closing asks nothing.
+    Run(closeButton);
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(ShowingEntries, CtrlZInTheEditBoxTakesBackWhatWasTypedFirst) {
+    Open();
+    Enter(1, 1, "5");
+    ClickCell(2, 1);
+    QTest::keyClicks(&Item(), QStringLiteral("77"));
+    QTest::keyClick(&Item(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("5"));
+    EXPECT_NE(Item().text(), QStringLiteral("77"));
+    ClickCell(1, 1);
+    QTest::keyClick(&Item(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("3"));
+}
+
+TEST_F(ShowingEntries, WhatIsSavedIsNotTakenBack) {
+    Open();
+    Enter(1, 1, "5");
+    Run(saveButton);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("5"));
+    EXPECT_EQ(Said(), QStringLiteral("There is nothing to take back"));
+}
+
 TEST_F(ShowingEntries, AClickOnACellFillsTheEditBox) {
     Open();
     ClickCell(2, 10);

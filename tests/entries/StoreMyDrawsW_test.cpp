@@ -113,6 +113,30 @@ TEST_F(StoringEntries, TheNameBoxWarnsAsLongAsACommaStandsInIt) {
     EXPECT_EQ(name.toolTip(), QStringLiteral(" Enter the player's name or syndicate name "));
 }
 
+TEST_F(StoringEntries, CtrlZTakesBackAddedMovedAndDeletedRows) {
+    Open();
+    QApplication::processEvents();  // The window becomes the active one.
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    const std::string two = Row(1) + Row(2);
+    Click(*form_, upButton);
+    const std::string moved = Row(1) + Row(2);
+    EXPECT_NE(moved, two);
+    Click(*form_, deleteRowButton);
+    EXPECT_EQ(Row(2).substr(0, 2), ",,");
+
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1) + Row(2), moved);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1) + Row(2), two);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(), QStringLiteral("Taken back: row moved"));
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(2).substr(0, 2), ",,");
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1).substr(0, 2), ",,");
+    EXPECT_FALSE(Find<QPushButton>(*form_, deleteRowButton)->isEnabled());
+}
+
 TEST_F(StoringEntries, BearsItsWords) {
     Open();
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Store Draws Entries"));

@@ -107,6 +107,41 @@ TEST_F(Managing, BearsItsWords) {
     EXPECT_EQ(Picker().displayFormat(), QStringLiteral("ddd d MMM yyyy"));
 }
 
+TEST_F(Managing, CtrlZTakesBackCellsRowsAndTheirColours) {
+    OpenWith(twoRecords);
+    const std::string before = Row(1) + Row(2);
+    const std::string total = TotalText();
+    Enter(2, 2, "30");
+    EXPECT_EQ(Table().CellColour(2, 4), darkRed);
+    ClickCell(2, 1);
+    Run(upButton);
+    Run(deleteButton);
+    EXPECT_EQ(Row(2), "|||||");
+
+    for (int command = 0; command < 3; ++command) {
+        QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    }
+    EXPECT_EQ(Row(1) + Row(2), before);
+    EXPECT_EQ(TotalText(), total);
+    EXPECT_EQ(Table().CellColour(2, 4), black);
+    EXPECT_EQ(Table().CellColour(1, 4), darkRed);
+    // Nothing is unsaved any more, so closing asks nothing.
+    Run(closeButton);
+    EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(Managing, WhatWasRefusedIsNothingToTakeBack) {
+    OpenWith(twoRecords);
+    ClickCell(1, 1);
+    Run(upButton);
+    Table().ScrollToRow(999);
+    ClickCell(999, 1);
+    Run(downButton);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(),
+              QStringLiteral("There is nothing to take back"));
+}
+
 TEST_F(Managing, ShowsDetailsAndDiary) {
     OpenWith(twoRecords);
     EXPECT_EQ(Box("Text1(7)").text(), QStringLiteral("Winners"));
