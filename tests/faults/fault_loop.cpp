@@ -47,6 +47,21 @@ bool SoundsSaved(const std::string& text) {
     return false;
 }
 
+// Whether the way back holds a file that had one of these contents.
+bool IsKept(const Files& left, const std::set<std::string>& contents) {
+    return std::any_of(left.begin(), left.end(), [&contents](const auto& file) {
+        return file.first.starts_with("Backup/Undo/") && contents.count(file.second) > 0;
+    });
+}
+
+// Whether the file was to be a copy, to the backups or from there, of one that is still there.
+bool IsCopy(const Files& left, const std::string& file, const std::set<std::string>& contents) {
+    const std::string backups = "Backup/";
+    const bool backup = file.starts_with(backups);
+    const auto source = left.find(backup ? file.substr(backups.size()) : backups + file);
+    return source != left.end() && contents.count(source->second) > 0;
+}
+
 }  // namespace
 
 FaultLoop::FaultLoop(const Scenario& scenario, const std::string& path)
@@ -152,7 +167,7 @@ std::string FaultLoop::WhatIsLost() const {
         const bool there = left.count(name) > 0;
         const bool comesAndGoes =
             removed_.count(name) > 0 || IsUnfinished(name) || name.starts_with("Backup/Undo/");
-        if (!there && !comesAndGoes) return name + " is gone";
+        if (!there && !comesAndGoes && !IsKept(left, contents)) return name + " is gone";
     }
     for (const auto& [name, bytes] : left) {
         if (IsUnfinished(name)) continue;
@@ -176,7 +191,7 @@ std::string FaultLoop::WhatIsNotRescued() const {
         if (file == "temp.txt") continue;  // the copy of a file that is still there
         const auto wanted = contents_.find(file);
         if (wanted == contents_.end()) return "it reported on " + file;
-        bool rescued = false;
+        bool rescued = IsCopy(FilesIn(path_), file, wanted->second);
         for (const auto& [name, bytes] : FilesIn(RescueFolderOf(path_))) {
             for (const std::string& content : wanted->second) {
                 if (report.name.find(name) != std::string::npos && content.ends_with(bytes))

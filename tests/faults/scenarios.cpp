@@ -248,6 +248,32 @@ void DeleteATemplate(Session& session) {
     });
 }
 
+void SavePreferences(Session& session) {
+    session.InForm("FilePreferences", "Preferences", [&](QDialog& form) {
+        Session::Fill(form, "Text1(4)", "Bread");
+        session.Press(form, "Command7");
+    });
+}
+
+void ResetPreferences(Session& session) {
+    session.InForm("FilePreferences", "Preferences",
+                   [&](QDialog& form) { session.Press(form, "Command12"); });
+}
+
+void BackUpAll(Session& session) {
+    session.InForm("FileBackup", "Backup", [&](QDialog& form) {
+        session.Press(form, "Command4");
+        session.Press(form, "Command3");
+    });
+}
+
+void RestoreAll(Session& session) {
+    session.InForm("FileBackup", "Backup", [&](QDialog& form) {
+        session.Press(form, "Command5");
+        session.Press(form, "Command3");
+    });
+}
+
 // To try a save under every fault, add its line here.
 const auto scenarios = std::to_array<Scenario>({
     {.name = "FirstStart", .act = Nothing, .starts = true},
@@ -278,6 +304,10 @@ const auto scenarios = std::to_array<Scenario>({
     {.name = "SaveATemplate", .prepare = UsedFolder, .act = SaveATemplate},
     {.name = "UpdateATemplate", .prepare = UsedFolderWithTemplate, .act = SaveATemplate},
     {.name = "DeleteATemplate", .prepare = UsedFolderWithTemplate, .act = DeleteATemplate},
+    {.name = "SavePreferences", .prepare = UsedFolder, .act = SavePreferences},
+    {.name = "ResetPreferences", .prepare = UsedFolder, .act = ResetPreferences},
+    {.name = "BackUpAll", .prepare = UsedFolder, .act = BackUpAll},
+    {.name = "RestoreAll", .prepare = UsedFolder, .act = RestoreAll},
 });
 
 }  // namespace
