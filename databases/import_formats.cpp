@@ -17,15 +17,6 @@ constexpr std::string_view head =
     "# brackets: a web address, the name of a file, or clipboard. Blocks may be edited and "
     "deleted.\r\n";
 
-// A text that stands in one line of the file.
-std::string OneLine(std::string_view text) {
-    std::string line(text);
-    std::replace_if(
-        line.begin(), line.end(), [](char byte) { return static_cast<unsigned char>(byte) < 32; },
-        ' ');
-    return Trim(line);
-}
-
 std::string HeadingsText(const std::vector<std::string>& headings) {
     std::string text;
     for (std::string heading : headings) {
@@ -75,8 +66,8 @@ std::string ImportFormatsText(const ImportFormats& formats) {
         }
         if (mapping.productColumn >= 0) {
             add("column of games", PlainDigits(mapping.productColumn + 1));
-            add("game", OneLine(mapping.product));
         }
+        if (!mapping.product.empty()) add("game", OneLine(mapping.product));
     }
     if (!formats.unread.empty()) text += "\r\n" + formats.unread;
     return text;

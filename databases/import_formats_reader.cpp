@@ -22,7 +22,7 @@ std::vector<std::string> Parts(std::string_view text, char between) {
     std::vector<std::string> parts;
     for (;;) {
         const std::size_t end = text.find(between);
-        parts.push_back(Trim(text.substr(0, end)));
+        parts.push_back(OneLine(text.substr(0, end)));
         if (end == std::string_view::npos) return parts;
         text.remove_prefix(end + 1);
     }
@@ -66,7 +66,7 @@ class Block {
     using Expected = std::optional<std::string>;
 
     static Expected Text(std::string& text, const std::string& value) {
-        text = value;
+        text = OneLine(value);
         return std::nullopt;
     }
 
@@ -140,7 +140,7 @@ class Reader {
         const std::string line = Trim(text);
         if (line.starts_with('[') && line.ends_with(']')) {
             EndBlock();
-            block_.emplace(Trim(std::string_view(line).substr(1, line.size() - 2)));
+            block_.emplace(OneLine(std::string_view(line).substr(1, line.size() - 2)));
             firstLine_ = line_;
         }
         if (block_ || !line.starts_with('#')) blockText_ += std::string(text) + "\r\n";
@@ -160,6 +160,9 @@ class Reader {
     }
 
     void EndBlock() {
+        if (block_ && !wrong_ && block_->Format().source == strayLines) {
+            Problem(firstLine_, "a source in square brackets", "[" + std::string(strayLines) + "]");
+        }
         if (block_ && !wrong_) {
             const std::string missing = block_->Missing();
             if (missing.empty()) {
@@ -171,7 +174,9 @@ class Reader {
                 wrong_ = true;
             }
         }
-        if (wrong_) formats_.unread += (block_ ? "" : "[not read]\r\n") + blockText_;
+        if (wrong_)
+            formats_.unread +=
+                (block_ ? std::string() : "[" + std::string(strayLines) + "]\r\n") + blockText_;
         block_.reset();
         blockText_.clear();
         wrong_ = false;

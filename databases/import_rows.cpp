@@ -39,7 +39,7 @@ class DateSearch {
     std::vector<std::size_t> Best() {
         const std::size_t last = std::min(table_.Columns(), mostDateColumns);
         for (std::size_t column = 0; column < last; ++column) Try({column});
-        if (const auto told = ByHeadings()) Try(*told);
+        if (const auto told = ByHeadings()) Try(*told, true);
         // Several columns are looked at only where none is a date by itself.
         for (std::size_t width = 2;
              width <= widest && best_.count < 3 && best_.count * 4 < sample_.size(); ++width) {
@@ -62,19 +62,22 @@ class DateSearch {
     bool IsDate(const std::string& text, bool together) const {
         const auto written = reader_.Read(text);
         if (!written) return false;
-        // Several columns, unlike one, might be balls.
-        if (together && written->form == WrittenDate::Form::NoYear) return false;
+        // Several columns, unlike one, might be balls beside a part of the date.
+        if (together && written->year < 100) return false;
         return reader_.DateOf(*written, Region::Order::DayMonthYear) ||
                reader_.DateOf(*written, Region::Order::MonthDayYear) ||
                reader_.DateOf(*written, Region::Order::YearMonthDay);
     }
 
-    void Try(const std::vector<std::size_t>& columns) {
+    void Try(const std::vector<std::size_t>& columns, bool told = false) {
         Candidate candidate{.columns = columns, .count = 0, .rank = RankOf(columns.front())};
         const bool together = columns.size() > 1;
         for (const std::size_t row : sample_) {
             const auto empty = [&](std::size_t column) { return table_.Cell(row, column).empty(); };
             if (std::any_of(columns.begin(), columns.end(), empty)) continue;
+            // A year in the middle may be that of the date beside a ball.
+            if (columns.size() > 2 && !told && PlainNumber(table_.Cell(row, columns[1])) > 99)
+                continue;
             if (IsDate(Joined(table_, row, columns), together)) ++candidate.count;
         }
         const bool many = candidate.count * 10 > best_.count * 9;

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/text.h"
 #include "databases/import_mapping.h"
 
 namespace import_words {
@@ -40,6 +41,18 @@ inline constexpr auto drums =
     std::to_array<Named<bool>>({{"same numbers", true}, {"own numbers", false}});
 inline constexpr auto sameDates =
     std::to_array<Named<SameDate>>({{"first", SameDate::KeepFirst}, {"all", SameDate::KeepAll}});
+
+/// A text that stands in one line of the file, without blanks around it.
+inline std::string OneLine(std::string_view text) {
+    std::string line(text);
+    std::replace_if(
+        line.begin(), line.end(), [](char byte) { return static_cast<unsigned char>(byte) < 32; },
+        ' ');
+    return Trim(line);
+}
+
+/// The source of a block that holds lines which stood in no block.
+inline constexpr std::string_view strayLines = "not read";
 
 /// The word for a value.
 template <typename Value, std::size_t size>

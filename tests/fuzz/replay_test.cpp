@@ -26,6 +26,8 @@ int fuzz_database(const std::uint8_t* data, std::size_t size);
 int fuzz_dates(const std::uint8_t* data, std::size_t size);
 int fuzz_diary(const std::uint8_t* data, std::size_t size);
 int fuzz_entries(const std::uint8_t* data, std::size_t size);
+int fuzz_import(const std::uint8_t* data, std::size_t size);
+int fuzz_import_formats(const std::uint8_t* data, std::size_t size);
 int fuzz_lottery_info(const std::uint8_t* data, std::size_t size);
 int fuzz_lottery_templates(const std::uint8_t* data, std::size_t size);
 int fuzz_notes(const std::uint8_t* data, std::size_t size);
@@ -50,6 +52,8 @@ constexpr auto targets = std::to_array<Target>({
     {"fuzz_dates", fuzz_dates},
     {"fuzz_diary", fuzz_diary},
     {"fuzz_entries", fuzz_entries},
+    {"fuzz_import", fuzz_import},
+    {"fuzz_import_formats", fuzz_import_formats},
     {"fuzz_lottery_info", fuzz_lottery_info, "Lottery Info.txt"},
     {"fuzz_lottery_templates", fuzz_lottery_templates, "LotteryTemplates.txt"},
     {"fuzz_notes", fuzz_notes},
