@@ -82,7 +82,6 @@ void WebRequest::SetManners() {
                      "Mozilla/5.0 (compatible; Lottery Quillon World)");
     // Asked for by hand, packed bytes come as they are and can be counted.
     curl_easy_setopt(transfer, CURLOPT_HTTPHEADER, headers_.get());
-    curl_easy_setopt(transfer, CURLOPT_HTTP_CONTENT_DECODING, 0L);
     curl_easy_setopt(transfer, CURLOPT_HEADERFUNCTION, &WebRequest::TakeHead);
     curl_easy_setopt(transfer, CURLOPT_HEADERDATA, this);
     curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, &WebRequest::TakeBody);

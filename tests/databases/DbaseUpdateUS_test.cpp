@@ -80,6 +80,19 @@ TEST_F(DownloadingUsDraws, TriesPowerballWhereMegaMillionsIsMissing) {
     EXPECT_TRUE(test_.folder.Exists("dbase069.txt"));
 }
 
+TEST_F(DownloadingUsDraws, TakesTheAddressesOfTheDefaults) {
+    OfferBoth();
+    for (int link = 0; link < 10; ++link) {
+        test_.state.Settings(setting::LinkAddresses + link) = "http://elsewhere";
+    }
+    Open();
+    Run();
+    EXPECT_TRUE(test_.folder.Read("dbase068.txt")
+                    .starts_with("US Mega Millions\r\nhttp://www.megamillions.example\r\n"));
+    EXPECT_TRUE(test_.folder.Read("dbase069.txt")
+                    .starts_with("US Powerball\r\nhttp://www.powerball.example\r\n"));
+}
+
 TEST_F(DownloadingUsDraws, SaysWhyAPageIsMissingUntilAnotherComes) {
     OfferBoth();
     pages_[AddressOf(setting::MegaMillionsAddress)].clear();

@@ -134,6 +134,8 @@ TEST_F(FetchingAPage, SaysWhyThereIsNone) {
         {"announces more than it sends", broken},
         {"cuts at the border of a chunk", broken},
         {"hangs up", broken},
+        {"goes on announcing", broken},
+        {"sends a head without end", broken},
         {"sends nothing", QStringLiteral("The page is empty.")},
         {"cuts what it packed", QStringLiteral("The page is packed and damaged, or too large.")},
         {"packs in its own way",
@@ -164,6 +166,13 @@ TEST_F(FetchingAPage, FollowsEveryKindOfRedirect) {
         server_.answers["old"] = LeadsTo(status, QStringLiteral("/page"));
         EXPECT_EQ(Fetch(QStringLiteral("old")), "page") << status;
     }
+}
+
+TEST_F(FetchingAPage, DoesNotWaitForABodyOfNoUse) {
+    server_.answers["other"] = Sends(HttpPage("other"));
+    EXPECT_EQ(FetchOf(SendsAndStays(HttpReply("302 Found", "Location: /other\r\n", {}))), "other");
+    EXPECT_EQ(ProblemWith(SendsAndStays(HttpReply("404 Not Found", {}, {}))),
+              QStringLiteral("The server answered with status 404."));
 }
 
 TEST_F(FetchingAPage, FollowsTenRedirectsAndNoMore) {
@@ -209,7 +218,8 @@ TEST_F(FetchingAPage, FailsWhereItGrowsBeyondItsSize) {
     const QByteArray packed = qCompress(QByteArray(1001, 'x')).mid(4);
     EXPECT_EQ(FetchOf(Sends(HttpPage(packed, "Content-Encoding: deflate\r\n"))), "");
     const QByteArray block(64 * 1024, 'x');
-    EXPECT_EQ(FetchOf(SendsForever(HttpReply("200 OK", {}, {}), block, Milliseconds(0))), "");
+    EXPECT_EQ(ProblemWith(SendsForever(HttpReply("200 OK", {}, {}), block, Milliseconds(0))),
+              QStringLiteral("The page is too large."));
     EXPECT_EQ(FetchOf(Sends(HttpPage(QByteArray(200'000, 'x')))), "");
 }
 

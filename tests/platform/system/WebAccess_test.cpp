@@ -137,17 +137,20 @@ TEST_F(FetchingThroughAProxy, LeavesOutWhatTheEnvironmentSays) {
     EXPECT_EQ(FetchOf(Sends(HttpPage("no proxy"))), "no proxy");
 }
 
-TEST_F(FetchingThroughAProxy, LogsIn) {
+TEST_F(FetchingThroughAProxy, LogsInAsTheProxyWantsIt) {
     qputenv("http_proxy", "http://anna:secret@" + Proxy().mid(7));
-    server_.answers["http://unknown.example/page"] = [&](QTcpSocket& socket) {
-        const bool isKnown =
-            server_.requests.back().contains("Proxy-Authorization: Basic YW5uYTpzZWNyZXQ=");
-        const QByteArray login =
-            "Proxy-Authenticate: Basic realm=\"proxy\"\r\n"
-            "Content-Length: 5\r\n";
-        Sends(isKnown ? HttpPage("by proxy") : HttpReply("407 Login", login, "login"))(socket);
-    };
-    EXPECT_EQ(FetchURL(page_, access_), "by proxy");
+    const std::map<QByteArray, QByteArray> logins = {
+        {"Basic realm=\"proxy\"", "Proxy-Authorization: Basic YW5uYTpzZWNyZXQ="},
+        {"Digest realm=\"proxy\", nonce=\"n\"", "Proxy-Authorization: Digest username=\"anna\""}};
+    for (const auto& [wanted, given] : logins) {
+        const QByteArray headers = "Proxy-Authenticate: " + wanted + "\r\nContent-Length: 5\r\n";
+        server_.answers["http://unknown.example/page"] = [&](QTcpSocket& socket) {
+            const bool isKnown = server_.requests.back().contains(given);
+            Sends(isKnown ? HttpPage("by proxy")
+                          : HttpReply("407 Login", headers, "login"))(socket);
+        };
+        EXPECT_EQ(FetchURL(page_, access_), "by proxy") << wanted.toStdString();
+    }
 }
 
 TEST_F(FetchingThroughAProxy, AsksTheOneOfTheDesktopWhereTheEnvironmentNamesNone) {
