@@ -160,6 +160,14 @@ void WriteKeepingOld(ProgramFolder& folder, std::string_view name, std::string_v
     folder.Write(name, bytes);
 }
 
+void KeepUnsaved(ProgramFolder& folder, std::string_view name, std::string_view bytes) {
+    Keep(folder, name, bytes);
+}
+
+bool HoldsAnother(const ProgramFolder& folder, std::string_view name, std::string_view bytes) {
+    return folder.Exists(name) && folder.Read(name) != bytes;
+}
+
 std::string StampedName(Moment moment, int count, std::string_view name) {
     const std::string number = count > 1 ? '-' + Padded(count, 3) : std::string();
     return Stamp(moment) + number + ' ' + std::string(name.substr(0, longestName));

@@ -28,6 +28,12 @@ void DeleteKeepingOld(ProgramFolder& folder, std::string_view name);
 /// in no line of the new one. What could not be written is rescued.
 void WriteKeepingOld(ProgramFolder& folder, std::string_view name, std::string_view bytes);
 
+/// Puts what was to be written to the file, but is not, among the copies of old files.
+void KeepUnsaved(ProgramFolder& folder, std::string_view name, std::string_view bytes);
+
+/// Whether there is such a file and it holds something else.
+bool HoldsAnother(const ProgramFolder& folder, std::string_view name, std::string_view bytes);
+
 /// The name of a copy that is made at a moment: "2026-11-22 093015 MyLottery.txt". Of several in a
 /// second, which are counted from 1, the second one is named "2026-11-22 093015-002 MyLottery.txt".
 std::string StampedName(Moment moment, int count, std::string_view name);

@@ -15,12 +15,6 @@ constexpr std::array<std::string_view, 12> expectedFields = {
     "number 6 of an entry",    "number 7 of an entry", "the extra ball of an entry",
     "the lottery of an entry", "the name of a player", "the draw database of an entry"};
 
-std::string Records(const std::vector<SavedEntry>& entries) {
-    std::string records;
-    for (const SavedEntry& entry : entries) records += SavedEntryRecord(entry);
-    return records;
-}
-
 }  // namespace
 
 void ReadEntry(FieldReader& reader, std::string* cells, int count) {
@@ -40,10 +34,16 @@ std::string SavedEntryRecord(const SavedEntry& entry) {
     return record + "\r\n";
 }
 
+std::string SavedEntryRecords(const std::vector<SavedEntry>& entries) {
+    std::string records;
+    for (const SavedEntry& entry : entries) records += SavedEntryRecord(entry);
+    return records;
+}
+
 void AppendEntries(ProgramFolder& folder, const std::vector<SavedEntry>& entries) {
-    folder.Append(savedEntriesFile, Records(entries));
+    folder.Append(savedEntriesFile, SavedEntryRecords(entries));
 }
 
 void WriteEntries(ProgramFolder& folder, const std::vector<SavedEntry>& entries) {
-    WriteKeepingOld(folder, savedEntriesFile, Records(entries));
+    WriteKeepingOld(folder, savedEntriesFile, SavedEntryRecords(entries));
 }

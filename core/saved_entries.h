@@ -34,6 +34,9 @@ void ReadEntry(FieldReader& reader, std::string* cells, int count = entry_column
 /// The record of an entry: its fields with a comma between, and a line end. Nothing is quoted.
 std::string SavedEntryRecord(const SavedEntry& entry);
 
+/// The records of the entries, one behind the other.
+std::string SavedEntryRecords(const std::vector<SavedEntry>& entries);
+
 /// Adds the entries to the end of `MyLottery.txt`. Where there is no such file it comes into being,
 /// even for no entries.
 void AppendEntries(ProgramFolder& folder, const std::vector<SavedEntry>& entries);

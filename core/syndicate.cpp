@@ -41,22 +41,21 @@ void LoadSyndicate(State& state, const ProgramFolder& folder) {
     state.MembersOnDisk = content;
 }
 
-bool SyndicateChangedOutside(const State& state, const ProgramFolder& folder) {
-    const std::string& file = state.Settings(setting::SyndicateFile);
-    if (file.empty()) return false;
-    return !folder.Exists(file) || folder.Read(file) != state.MembersOnDisk;
-}
-
-void SaveSyndicate(State& state, ProgramFolder& folder) {
-    const std::string& file = state.Settings(setting::SyndicateFile);
-    if (file.empty()) return;
+std::string SyndicateText(const State& state) {
     std::string content;
     for (int row = 0; row <= lastMember; ++row) {
         for (int column = 0; column <= lastColumn; ++column) {
-            content += (column == 0 ? "\"" : ",\"") + View(state).Members(row, column) + '"';
+            content += (column == 0 ? "\"" : ",\"") + state.Members(row, column) + '"';
         }
         content += "\r\n";
     }
+    return content;
+}
+
+void SaveSyndicate(State& state, ProgramFolder& folder) {
+    const std::string& file = View(state).Settings(setting::SyndicateFile);
+    if (file.empty()) return;
+    std::string content = SyndicateText(state);
     WriteKeepingOld(folder, file, content);
     state.MembersOnDisk = std::move(content);
 }

@@ -35,10 +35,9 @@ int MemberCount(const State& state);
 /// the slot is emptied too. A file with fewer than 101 rows of eleven fields is a `Failure`.
 void LoadSyndicate(State& state, const ProgramFolder& folder);
 
-/// Whether the file no longer holds what was last read from it or written to it: somebody else has
-/// changed or deleted it, and what is shown is not what would be replaced.
-bool SyndicateChangedOutside(const State& state, const ProgramFolder& folder);
+/// What the file holds once `state.Members` is saved: all 101 rows, each field in double quotes.
+std::string SyndicateText(const State& state);
 
-/// Writes `state.Members` to that file, all 101 rows, each field in double quotes, and keeps the
-/// old one where a row of it changes. Without a name nothing is done.
+/// Writes it to that file, and keeps the old one where a row of it changes. Without a name nothing
+/// is done.
 void SaveSyndicate(State& state, ProgramFolder& folder);

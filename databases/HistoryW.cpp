@@ -44,6 +44,7 @@ void HistoryW::CloseIfEmpty() {
 void HistoryW::ChooseLottery() {
     const Hourglass hourglass;
     LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
+    shown_ = {.name = state().DbaseFile, .bytes = folder().Read(state().DbaseFile)};
     lotteryName_->setText(Readable(ToQString(state().LotteryName)));
     grid_->ClearCells();
     ShowHeadings();
@@ -143,7 +144,15 @@ void HistoryW::ShowInDrawOrder() {
     editPanel_->setEnabled(true);
 }
 
+// A draw is changed by its row, which must still be that of the draw that is shown.
+bool HistoryW::ReadAnewIfChanged() {
+    if (!ChangedOutside(program(), this, shown_)) return false;
+    ChooseLottery();
+    return true;
+}
+
 void HistoryW::UpdateChosenDraw() {
+    if (ReadAnewIfChanged()) return;
     const Hourglass hourglass;
     const DrawRecord draw = MakeDrawRecord(date_->Value(), TextsOf(boxes_));
     UpdateDraw(state(), folder(), grid_->CurrentRow(), draw,
@@ -162,6 +171,7 @@ void HistoryW::DeleteChosenDraw() {
         FollowRow();
         return;
     }
+    if (ReadAnewIfChanged()) return;
     const Hourglass hourglass;
     const Date date = DateOfRow(row);
     DeleteDraw(state(), folder(), row);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "databases/DrawBoxes.h"
+#include "platform/forms/ChangedOutside.h"
 #include "platform/forms/Form.h"
 
 class DatePicker;
@@ -44,6 +45,7 @@ class HistoryW final : public Form {
 
     void ShowAscending();
     void ShowInDrawOrder();
+    bool ReadAnewIfChanged();
     void UpdateChosenDraw();
     void DeleteChosenDraw();
     void Print();
@@ -51,6 +53,7 @@ class HistoryW final : public Form {
 
     NumberBox* Box(int column) const { return boxes_[static_cast<std::size_t>(column - 1)]; }
 
+    ShownFile shown_;
     std::int16_t sortedView_ = 0;  // 0 in draw order, -1 in ascending order
     QLabel* lotteryName_;
     Grid* grid_;

@@ -62,6 +62,16 @@ Shortened WithoutDraw(std::string_view content, const std::string& file, int dra
     return result;
 }
 
+// What comes before a draw is written; where it fails, what was typed outlives the run.
+template <typename Step>
+void Prepare(const State& state, ProgramFolder& folder, const DrawRecord& draw, Step step) {
+    try {
+        step();
+    } catch (const Failure& failure) {
+        throw AfterRescue(folder, state.DbaseFile, draw.text + "\r\n", failure);
+    }
+}
+
 }  // namespace
 
 DrawRecord MakeDrawRecord(Date date, const std::array<std::string, 8>& fields) {
@@ -109,7 +119,7 @@ std::string NumbersInWords(std::string_view line, const std::string& lastTitle) 
 
 void InsertDraw(const State& state, ProgramFolder& folder, const DrawRecord& draw,
                 const DateRules& rules) {
-    folder.Copy(state.DbaseFile, workFile);
+    Prepare(state, folder, draw, [&] { folder.Copy(state.DbaseFile, workFile); });
     const std::string content = folder.Read(workFile);
     FieldReader reader(content, state.DbaseFile);
     std::string heading = HeadingLines(reader);
@@ -128,14 +138,14 @@ void DeleteDraw(const State& state, ProgramFolder& folder, int draw) {
 void UpdateDraw(const State& state, ProgramFolder& folder, int draw, const DrawRecord& changed,
                 const DateRules& rules) {
     const Shortened rest = WithoutDraw(folder.Read(state.DbaseFile), state.DbaseFile, draw);
-    KeepOld(folder, state.DbaseFile);
+    Prepare(state, folder, changed, [&] { KeepOld(folder, state.DbaseFile); });
     if (rest.otherDraws.empty()) {
         folder.Write(workFile, rest.heading + changed.text + "\r\n");
         folder.Copy(workFile, state.DbaseFile);
         return;
     }
     const std::string work = rest.heading + rest.otherDraws;
-    folder.Write(workFile, work);
+    Prepare(state, folder, changed, [&] { folder.Write(workFile, work); });
     FieldReader reader(work, std::string(workFile) + ", a copy of " + state.DbaseFile);
     std::string heading = HeadingLines(reader);
     folder.Write(state.DbaseFile, WithDraw(std::move(heading), reader, changed, rules));

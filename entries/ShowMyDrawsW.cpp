@@ -49,6 +49,12 @@ void ShowMyDrawsW::Load() {
                    QStringLiteral("DeleteLabel"), QStringLiteral("SortLabel")},
          .status = {QStringLiteral("CheckSummary")}});
     date_->SetValue(services().today());
+    ReadEntries();
+}
+
+void ShowMyDrawsW::ReadEntries() {
+    shown_ = {.name = savedEntriesFile, .bytes = {}};
+    if (folder().Exists(savedEntriesFile)) shown_.bytes = folder().Read(savedEntriesFile);
     TellUnread(LoadMyDraws(entryTable_, folder()));
     DisplayMyDraws();
 }
@@ -227,6 +233,14 @@ void ShowMyDrawsW::DeleteAllRows() {
 
 void ShowMyDrawsW::Save() {
     const std::vector<SavedEntry> entries = EntriesInGrid(*grid_);
+    const std::string records = SavedEntryRecords(entries);
+    if (ChangedOutside(program(), this, shown_, records)) {
+        entryTable_.Fill({});
+        ReadEntries();
+        MarkChanged();
+        return entriesChanged_.Clear();
+    }
+    shown_.bytes = records;
     if (!entries.empty()) {
         WriteEntries(folder(), entries);
         TellUnread(0);

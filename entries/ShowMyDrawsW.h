@@ -5,6 +5,7 @@
 
 #include "entries/check_entries.h"
 #include "entries/entry_table.h"
+#include "platform/forms/ChangedOutside.h"
 #include "platform/forms/Dirty.h"
 #include "platform/forms/Form.h"
 
@@ -86,11 +87,13 @@ class ShowMyDrawsW final : public Form {
     void TellCheck(const QString& text);
     void LetMessagesRun(int row);
 
+    void ReadEntries();
     void Save();
     void Print();
     void Close();
 
     EntryTable entryTable_{"saved entries"};
+    ShownFile shown_;
     Dirty entriesChanged_;
     double nextMessages_ = 0;
 

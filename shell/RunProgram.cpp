@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QTimer>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -20,12 +22,15 @@
 #include "platform/system/FileDialogs.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/MessageBoxes.h"
+#include "platform/system/OneRun.h"
 #include "platform/system/OpenPage.h"
+#include "platform/system/RescuedFiles.h"
 #include "platform/system/TextConversion.h"
 #include "platform/system/WindowStates.h"
 #include "printing/PrintRoutines.h"
 #include "shell/Application.h"
 #include "shell/Quillon.h"
+#include "shell/RescueNotice.h"
 #include "shell/own_addresses.h"
 
 namespace {
@@ -37,22 +42,85 @@ void OfferDialogs(Services& services) {
     services.openFolder = [](const QString& path) { return std::make_shared<DiskFolder>(path); };
 }
 
+QString ConfigFile(const QString& name) {
+    return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) % QLatin1Char('/') %
+           name;
+}
+
+void OfferPreview(Program& program, DesktopPrinters& printers) {
+    printers.PreviewBy([&](QWidget* parent, const PrintTask& task) {
+        PrintPreview preview(program, task, DesktopExits(printers), parent);
+        preview.Load();
+        preview.exec();
+    });
+}
+
+OwnPages PagesIn(const DiskFolder& folder) {
+    return {.folder = folder.Path(),
+            .letters = {QString::fromLatin1(supportMail), QString::fromLatin1(generalMail)},
+            .signposts = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)};
+}
+
+// The run that has the folder shows itself, or is named.
+int EndSecondStart(const OneRun& run, const QString& folderPath, MessageBoxes& messages) {
+    const QString holder = run.Holder();
+    if (run.CallHolder()) {
+        std::fputs("Lottery Quillon World is open already, and comes to the front.\n", stderr);
+        return EXIT_SUCCESS;
+    }
+    const QString lineEnd = QStringLiteral("\r\n");
+    QString text = QCoreApplication::translate(
+                       "RunProgram", "Another Lottery Quillon World works in this folder:") %
+                   lineEnd % QDir::toNativeSeparators(folderPath) % lineEnd;
+    if (!holder.isEmpty()) text += QLatin1Char('(') % holder % QLatin1Char(')') % lineEnd;
+    text += QCoreApplication::translate("RunProgram", "Close that one before you start this one.");
+    messages.Show(nullptr, {.title = QStringLiteral("Lottery Quillon World"),
+                            .text = text,
+                            .sign = Sign::Exclamation});
+    return EXIT_FAILURE;
+}
+
+void BringToFront(QWidget& window) {
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    window.raise();
+    QWidget* const modal = QApplication::activeModalWidget();
+    QWidget& front = modal == nullptr ? window : *modal;
+    front.raise();
+    front.activateWindow();
+    QApplication::alert(&front);
+}
+
+void TellOfRescues(MessageBoxes& messages, QWidget& window) {
+    TellOfRescuedFiles(
+        messages, &window,
+        FirstTold(RescuedFiles(RescuePlaces()), ConfigFile(QStringLiteral("rescued.ini"))));
+}
+
+int ShowWindow(Program& program, OneRun& run) {
+    Quillon window(program);
+    QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });
+    run.AnswerBy([&window] { BringToFront(window); });
+    window.Load();
+    window.show();
+    QTimer::singleShot(0, &window, [&] { TellOfRescues(program.services.messages, window); });
+    return QApplication::exec();
+}
+
 }  // namespace
 
 int RunProgram(const QString& folderPath) {
+    DesktopMessageBoxes messages;
+    OneRun run(folderPath);
+    if (!run.HoldsFolder()) return EndSecondStart(run, folderPath, messages);
     const auto state = std::make_shared<State>();
     static_cast<Application*>(qApp)->TellWhatWasInUse(
         [state] { return ToQString(LotteryInUse(*state)); });
-    DiskFolder folder(folderPath);
+    DiskFolder folder(folderPath, {.now = LocalNow, .rescuePlaces = RescuePlaces()});
     Random random(SeedOfTheMoment);
-    DesktopMessageBoxes messages;
     DesktopPrinters printers;
-    WindowStates windows(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) %
-                         QStringLiteral("/windows.ini"));
-    const OwnPages own{
-        .folder = folder.Path(),
-        .letters = {QString::fromLatin1(supportMail), QString::fromLatin1(generalMail)},
-        .signposts = QStandardPaths::writableLocation(QStandardPaths::CacheLocation)};
+    WindowStates windows(ConfigFile(QStringLiteral("windows.ini")));
+    const OwnPages own = PagesIn(folder);
     const WebAccess web{.desktopProxy = ProxyOfDesktop};
     Services services{.seconds = MonotonicSeconds,
                       .today = Today,
@@ -73,17 +141,8 @@ int RunProgram(const QString& folderPath) {
     OfferDialogs(services);
     Program program{.state = *state, .folder = folder, .services = services};
     services.saveLines = [&program](Form* form, Grid& grid) { SaveLines(program, form, grid); };
-    printers.PreviewBy([&](QWidget* parent, const PrintTask& task) {
-        PrintPreview preview(program, task, DesktopExits(printers), parent);
-        preview.Load();
-        preview.exec();
-    });
+    OfferPreview(program, printers);
     PrintRoutines printing(program);
     printing.Offer();
-
-    Quillon window(program);
-    QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });
-    window.Load();
-    window.show();
-    return QApplication::exec();
+    return ShowWindow(program, run);
 }

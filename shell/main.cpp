@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QStandardPaths>
 
-#include "platform/system/DiskFolder.h"
+#include "platform/system/ProgramFolderPath.h"
 #include "shell/Application.h"
 #include "shell/RunProgram.h"
 

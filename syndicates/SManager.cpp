@@ -19,6 +19,7 @@
 #include "platform/widgets/FilteredBox.h"
 #include "platform/widgets/Grid.h"
 #include "syndicates/SyndicateBoxes.h"
+#include "syndicates/SyndicateReadAnew.h"
 #include "syndicates/TotalBox.h"
 
 namespace {
@@ -50,7 +51,9 @@ void SManager::Load() {
 }
 
 void SManager::ShowDiary() {
+    shown_ = {.name = DiaryFile(), .bytes = {}};
     if (!folder().Exists(DiaryFile())) return;
+    shown_.bytes = folder().Read(DiaryFile());
     const int count = LoadDiary(*diary_, folder(), DiaryFile(), Currency());
     ShowRows(1, count);
     for (int row = 1; row <= count; ++row) {
@@ -222,10 +225,20 @@ void SManager::Save() {
                                                        "a manager and a syndicate name...  ")));
         return;
     }
+    if (ChangedOutside(program(), this, shown_, DiaryText(*diary_))) return ReadDiaryAnew();
     PutDetails(state(), details);
+    if (SyndicateReadAnew(program(), this)) return boxes_->Show(DetailsOf(view()));
     SaveSyndicate(state(), folder());
     WriteKeepingOld(folder(), DiaryFile(), DiaryText(*diary_));
     Unload();
+}
+
+void SManager::ReadDiaryAnew() {
+    diary_->Fill({});
+    ShowRows(1, lastRecord);
+    ShowDiary();
+    editor_->GoTo(1, 1);
+    AddUp();
 }
 
 void SManager::Print() {

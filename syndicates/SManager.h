@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/forms/ChangedOutside.h"
 #include "platform/forms/Dirty.h"
 #include "platform/forms/Form.h"
 #include "syndicates/diary.h"
@@ -45,6 +46,7 @@ class SManager final : public Form {
     const CurrencyForm& Currency() const;
 
     void ShowDiary();
+    void ReadDiaryAnew();
     void ShowRows(int first, int last);
     /// Keeps the diary as it is, to be taken back to; `command` is what happens to it now.
     void RememberDiary(const QString& command);
@@ -65,6 +67,7 @@ class SManager final : public Form {
 
     std::string DiaryFile() const;
 
+    ShownFile shown_;
     Dirty dirty_;
     std::unique_ptr<DiaryTable> diary_ = std::make_unique<DiaryTable>("diary");
 

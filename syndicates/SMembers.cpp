@@ -13,6 +13,7 @@
 #include "platform/widgets/Lists.h"
 #include "platform/widgets/Readable.h"
 #include "platform/widgets/Widgets.h"
+#include "syndicates/SyndicateReadAnew.h"
 #include "syndicates/members.h"
 
 void SMembers::Load() {
@@ -22,6 +23,10 @@ void SMembers::Load() {
                                                     .body = {QStringLiteral("Label7")},
                                                     .small = small,
                                                     .status = {}});
+    ShowAll();
+}
+
+void SMembers::ShowAll() {
     syndicate_->setText(Readable(ToQString(view().Members(0, member_column::SyndicateName))));
     manager_->setText(Readable(ToQString(view().Members(0, member_column::Name))));
     FillList();
@@ -101,6 +106,10 @@ void SMembers::Sort() {
 void SMembers::Print() { services().printMembers(this); }
 
 void SMembers::Save() {
+    if (SyndicateReadAnew(program(), this)) {
+        Clear();
+        return ShowAll();
+    }
     const Hourglass hourglass;
     SaveSyndicate(state(), folder());
     dirty_.Clear();

@@ -27,6 +27,7 @@ class SMembers final : public Form {
     QLayout* BuildActions();
     QPushButton* Connect(QPushButton* button, void (SMembers::*action)());
 
+    void ShowAll();
     void FillList();
     void Add();
     void ShowChosen();

@@ -10,6 +10,7 @@
 #include "platform/widgets/FilteredBox.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
+#include "syndicates/SyndicateReadAnew.h"
 #include "syndicates/members.h"
 #include "syndicates/payments.h"
 
@@ -29,6 +30,10 @@ void SPayments::Load() {
          .body = {QStringLiteral("Label2(1)")},
          .small = {QStringLiteral("Label2"), QStringLiteral("Label3"), QStringLiteral("Label4")},
          .status = {}});
+    ShowAll();
+}
+
+void SPayments::ShowAll() {
     const int count = PaymentCount(view());
     for (int row = 1; row <= count; ++row) {
         const auto person = [this, row](int column) {
@@ -90,6 +95,13 @@ void SPayments::Enter() {
 }
 
 void SPayments::Save() {
+    if (SyndicateReadAnew(program(), this)) {
+        for (int row = 1; row < grid_->RowCount(); ++row) {
+            for (const int column : {Person, PayBy, Amount, PaidUpTo})
+                grid_->SetCell(row, column, {});
+        }
+        return ShowAll();
+    }
     SaveSyndicate(state(), folder());
     dirty_.Clear();
     services().messages.Show(this, {.title = tr("Lottery Quillon"),

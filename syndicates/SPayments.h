@@ -24,6 +24,7 @@ class SPayments final : public Form {
     QLayout* BuildActions();
     void MakeGrid();
 
+    void ShowAll();
     void ShowPayment(int row);
     void ChooseRow(int row);
     void Enter();

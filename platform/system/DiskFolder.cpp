@@ -4,7 +4,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <array>
 #include <filesystem>
@@ -247,34 +246,4 @@ std::string DiskFolder::Rescue(std::string_view name, std::string_view bytes) {
         }
     }
     return {};
-}
-
-namespace {
-
-/// Copies what the user's folder lacks of a folder in the shared one; empty: of that one itself.
-void CopyWhatIsMissing(const QString& shared, const std::string& folder, DiskFolder& own) {
-    const QString from = QDir(shared).filePath(QString::fromStdString(folder));
-    if (!QFileInfo(from).isDir()) return;
-    if (!folder.empty() && !own.FolderExists(folder)) own.MakeFolder(folder);
-    const std::string within = folder.empty() ? folder : folder + '/';
-    const DiskFolder supplied(from);
-    for (const std::string& name : supplied.Find("*")) {
-        const std::string copy = within + name;
-        if (!own.Exists(copy)) static_cast<void>(own.Create(copy, supplied.Read(name)));
-    }
-}
-
-}  // namespace
-
-QString ProgramFolderPath(const QString& executableFolder, const QString& userDataFolder) {
-    const QString shared = QDir::cleanPath(executableFolder + QStringLiteral("/../share/quillon"));
-    if (!QFileInfo(shared).isDir()) return executableFolder;
-    if (!QDir().mkpath(userDataFolder)) {
-        throw Failure(FromQString(userDataFolder) +
-                      " could not be made; it is to hold your files.");
-    }
-    DiskFolder own(userDataFolder);
-    CopyWhatIsMissing(shared, {}, own);
-    CopyWhatIsMissing(shared, "help", own);
-    return userDataFolder;
 }

@@ -58,8 +58,3 @@ class DiskFolder final : public ProgramFolder {
     QString path_;
     Surroundings surroundings_;
 };
-
-/// The program's folder: the one that holds the executable, or, where the program is installed for
-/// all users (`../share/quillon` stands beside the executable's folder), the user's own data
-/// folder, which is made and filled with what it lacks of `share/quillon`.
-QString ProgramFolderPath(const QString& executableFolder, const QString& userDataFolder);

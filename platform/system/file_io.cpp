@@ -18,8 +18,8 @@
 namespace {
 
 constexpr off_t largestFile = off_t{64} * 1024 * 1024;
-constexpr std::string_view unfinishedPrefix = ".quillon-";
-constexpr std::string_view unfinishedSuffix = ".tmp";
+constexpr const char* unfinishedPrefix = ".quillon-";
+constexpr const char* unfinishedSuffix = ".tmp";
 
 [[noreturn]] void Fail(int error) {
     const char* const reason = strerrordesc_np(error);
@@ -148,13 +148,12 @@ bool MoveToFreeName(const std::string& from, const std::string& to) {
 class UnfinishedFile {
   public:
     explicit UnfinishedFile(const std::string& target, mode_t permissions = 0666) {
-        constexpr int mostNames = 1000;
         const std::string start =
-            FolderOf(target) + std::string(unfinishedPrefix) + std::to_string(::getpid()) + '-';
+            FolderOf(target) + unfinishedPrefix + std::to_string(::getpid()) + '-';
         for (int number = 0; !file_.IsOpen(); ++number) {
-            path_ = start + std::to_string(number) + std::string(unfinishedSuffix);
+            path_ = start + std::to_string(number) + unfinishedSuffix;
             file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, permissions);
-            if (!file_.IsOpen() && (errno != EEXIST || number == mostNames)) Fail(errno);
+            if (!file_.IsOpen() && errno != EEXIST) Fail(errno);
         }
         // Held while the file is written, so that no other run of the program clears it away.
         ::flock(file_.Number(), LOCK_EX | LOCK_NB);
@@ -176,8 +175,7 @@ class UnfinishedFile {
     // Whether nothing was there of that name.
     bool TakeFreePlace(const std::string& target) {
         Complete();
-        finished_ = MoveToFreeName(path_, target);
-        return finished_;
+        return finished_ = MoveToFreeName(path_, target);
     }
 
   private:

@@ -61,6 +61,9 @@ TEST_F(DownloadingUkDraws, ReplacesEachDatabaseByItsPage) {
     EXPECT_EQ(Database(4),
               "UK Lotto Hot Picks" + site + "4,49,0,0,0\r\n04-Jun-2005,1,2,3,4,5,6,0,0\r\n");
     EXPECT_EQ(test_.folder.Read("temp.txt"), PageOf(row) + "\r\n");
+    EXPECT_EQ(test_.folder.OldFiles(),
+              (std::map<std::string, std::string>{
+                  {"Backup/Undo/2000-01-01 000000 dbase100.txt", "old draws"}}));
     EXPECT_EQ(fetched_.size(), 5U);
 }
 

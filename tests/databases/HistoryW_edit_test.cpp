@@ -165,4 +165,43 @@ TEST_F(DrawsHistoryEdit, AFullDiskEndsTheRunAndLosesNoDraw) {
     }
 }
 
+Message ChangedOutsideMessage() {
+    return {.title = QStringLiteral("Lottery Quillon World"),
+            .text = QStringLiteral("dbase100.txt has been changed by another program since it "
+                                   "was\r\nshown here. Nothing is saved now; the file is read "
+                                   "anew."),
+            .sign = Sign::Exclamation};
+}
+
+TEST_F(DrawsHistoryEdit, ADatabaseThatWasChangedOutsideIsReadAnewAndNotChanged) {
+    for (const char* command : {deleteButton, updateButton}) {
+        Open();
+        ClickRow(2);
+        const std::string outside =
+            "UK Lotto\r\n\r\n6,49,0,0,1\r\n01 Jun 05,1,2,3,4,5,6,0,7\r\n"
+            "28 May 05,34,17,22,3,48,41,0,9\r\n";
+        test_.folder.Write("dbase100.txt", outside);
+        test_.messages.Expect(ChangedOutsideMessage());
+        Click(*form_, command);
+        EXPECT_EQ(Database(), outside);
+        EXPECT_EQ(Row(1), "01 Jun 05,1,2,3,4,5,6,,7");
+        EXPECT_EQ(Row(3), ",,,,,,,,");
+        Click(*form_, command);
+        EXPECT_NE(Database(), outside) << "what is shown now is what is in the file";
+        AddUkLotto(test_.folder);
+    }
+}
+
+TEST_F(DrawsHistoryEdit, TheDatabaseAsItWasIsKept) {
+    for (const char* command : {deleteButton, updateButton}) {
+        Open();
+        const std::string before = Database();
+        test_.folder.SetNow(test_.folder.Now() + std::chrono::seconds(1));
+        ClickRow(2);
+        Click(*form_, command);
+        EXPECT_EQ(test_.folder.OldFiles().rbegin()->second, before) << command;
+        EXPECT_TRUE(test_.folder.OldFiles().rbegin()->first.ends_with(" dbase100.txt"));
+    }
+}
+
 }  // namespace

@@ -113,6 +113,31 @@ TEST_F(DrawRecords, InsertingLeavesTheOldDatabaseAsTheWorkFile) {
     EXPECT_EQ(folder.Snapshot().size(), 2U);
 }
 
+TEST_F(DrawRecords, TheOldDatabaseIsKeptBeforeADrawIsChangedOrDeletedAndNotBeforeOneIsAdded) {
+    Insert(year(2005) / 6 / 1);
+    EXPECT_TRUE(folder.OldFiles().empty());
+    const std::string first = Database();
+    DeleteDraw(state, folder, 1);
+    const std::string second = Database();
+    Update(1, year(2005) / 6 / 2);
+    EXPECT_EQ(folder.OldFiles(), (std::map<std::string, std::string>{
+                                     {"Backup/Undo/2000-01-01 000000 dbase1.txt", first},
+                                     {"Backup/Undo/2000-01-01 000000-002 dbase1.txt", second}}));
+}
+
+TEST_F(DrawRecords, ADrawThatCannotBeStoredIsRescued) {
+    folder.OfferRescue();
+    for (const bool isNew : {true, false}) {
+        folder.FailAtOperation(isNew ? 0 : 1);
+        const std::string failure = FailureOf([&] {
+            if (isNew) Insert(year(2005) / 6 / 1);
+            if (!isNew) Update(1, year(2005) / 6 / 1);
+        });
+        EXPECT_TRUE(failure.ends_with("What was to be written is kept in elsewhere/dbase1.txt."));
+        EXPECT_EQ(folder.Rescued().at("dbase1.txt"), "01 Jun 05" + newNumbers + "\r\n");
+    }
+}
+
 TEST_F(DrawRecords, LinesThatEndInALineFeedAreWrittenWithBoth) {
     folder.Write("dbase1.txt", "Lotto\n\n6,49,0,0,1\n28 May 05,1,2,3,4,5,6,0,9\n21 May 05,x\n");
     Insert(year(2005) / 5 / 25);

@@ -6,6 +6,7 @@
 #include "core/draw_database.h"
 #include "core/failure.h"
 #include "core/memory_folder.h"
+#include "tests/core/failures.h"
 
 namespace {
 
@@ -74,6 +75,18 @@ TEST(CreateDatabase, ADiskThatIsFullAtAnyByteLeavesNothingBehind) {
         EXPECT_THROW(CreateDatabase(folder, SixOfFortyNine()), Failure) << bytes;
         EXPECT_TRUE(folder.Snapshot().empty()) << bytes;
     }
+}
+
+TEST(CreateDatabase, WhatCannotBeWrittenIsRescued) {
+    MemoryFolder folder;
+    folder.OfferRescue();
+    folder.FailAfterBytes(0);
+    EXPECT_EQ(FailureOf([&] { CreateDatabase(folder, SixOfFortyNine()); }),
+              "dbase1.txt: the disk is full. What was to be written is kept in "
+              "elsewhere/dbase1.txt.");
+    folder.FailAfterBytes({});
+    CreateDatabase(folder, SixOfFortyNine());
+    EXPECT_EQ(folder.Rescued().at("dbase1.txt"), folder.Read("dbase1.txt"));
 }
 
 TEST(LotteryNames, AreTheFirstLinesOfAllDatabasesEvenBeyondSeventySix) {

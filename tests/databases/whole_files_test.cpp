@@ -241,4 +241,15 @@ TEST_F(DeletingADatabase, CloseDeletesNothing) {
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
 
+TEST_F(DeletingADatabase, TheDatabaseIsKept) {
+    const std::string before = test_.folder.Read("dbase101.txt");
+    Lotteries().SetIndex(1);
+    test_.messages.Expect(areYouSure, Answer::Yes);
+    Click(*form_, deleteButton);
+    EXPECT_FALSE(test_.folder.Exists("dbase101.txt"));
+    EXPECT_EQ(test_.folder.OldFiles(),
+              (std::map<std::string, std::string>{
+                  {"Backup/Undo/2000-01-01 000000 dbase101.txt", before}}));
+}
+
 }  // namespace

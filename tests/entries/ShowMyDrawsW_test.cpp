@@ -1100,4 +1100,71 @@ TEST_F(ShowingEntries, DeletingAnEmptyRowChangesNoEntry) {
     EXPECT_EQ(Players(), "Tom Ann Bea ");
 }
 
+TEST_F(ShowingEntries, AreKeptBeforeTheyAreDeletedOrChanged) {
+    for (const char* command : {saveButton, deleteAllRows}) {
+        Open();
+        test_.folder.SetNow(test_.folder.Now() + std::chrono::seconds(1));
+        Enter(1, 1, "33");
+        if (std::string(command) == deleteAllRows) {
+            test_.messages.Expect(deleteAll);
+            test_.messages.Expect(allDeleted);
+        }
+        Run(command);
+        ASSERT_FALSE(test_.folder.OldFiles().empty()) << command;
+        EXPECT_EQ(test_.folder.OldFiles().rbegin()->first,
+                  command == saveButton ? "Backup/Undo/2000-01-01 000001 MyLottery.txt"
+                                        : "Backup/Undo/2000-01-01 000002 MyLottery.txt");
+        EXPECT_EQ(test_.folder.OldFiles().rbegin()->second, threeEntries) << command;
+    }
+}
+
+TEST_F(ShowingEntries, NeedNoCopyWhereTheyAreOnlySorted) {
+    Open();
+    Run(sortByName);
+    Run(saveButton);
+    EXPECT_NE(File(), threeEntries);
+    EXPECT_TRUE(test_.folder.OldFiles().empty());
+}
+
+TEST_F(ShowingEntries, ThatWereChangedOutsideAreReadAnewAndWhatWasTypedIsKept) {
+    Open();
+    Enter(1, 1, "33");
+    const std::string outside = "28 May 05,4,9,1,2,3,,,6,UK Thunderball,Zoe,dbase101.txt\r\n";
+    test_.folder.Write("MyLottery.txt", outside);
+    test_.messages.Expect(
+        {.title = QStringLiteral("Lottery Quillon World"),
+         .text = QStringLiteral("MyLottery.txt has been changed by another program since it "
+                                "was\r\nshown here. Nothing is saved now; the file is read "
+                                "anew.\r\nWhat you had here is kept in Backup/Undo."),
+         .sign = Sign::Exclamation});
+    Run(saveButton);
+    EXPECT_EQ(File(), outside);
+    EXPECT_EQ(Players(), "Zoe ");
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_TRUE(test_.folder.OldFiles().begin()->second.starts_with("28-May-2005,33,17,"));
+    Run(saveButton);
+    EXPECT_EQ(File(), outside);
+    ExpectNoChanges();
+}
+
+TEST_F(ShowingEntries, ThatWereDeletedOutsideAreSavedAgain) {
+    Open();
+    Enter(1, 1, "33");
+    test_.folder.Delete("MyLottery.txt");
+    Run(saveButton);
+    EXPECT_TRUE(File().starts_with("28-May-2005,33,17,"));
+}
+
+TEST_F(ShowingEntries, AreRescuedWhereTheyCannotBeSaved) {
+    Open();
+    Enter(1, 1, "33");
+    test_.folder.OfferRescue();
+    test_.folder.FailAfterBytes(0);
+    Run(saveButton);
+    const auto failure = TakeFailure();
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->ends_with("What was to be written is kept in elsewhere/MyLottery.txt."));
+    EXPECT_TRUE(test_.folder.Rescued().at("MyLottery.txt").starts_with("28-May-2005,33,17,"));
+}
+
 }  // namespace

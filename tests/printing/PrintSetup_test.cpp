@@ -561,8 +561,10 @@ TEST_F(SettingUpSlips, DeletingAsksAndThenShowsTheFirstTemplateWithoutPositions)
     Box(firstXBox).setText(QStringLiteral("1"));
     SaveAs("Two");
     test_.messages.Expect(Deleting("Two"), Answer::Yes);
+    const std::string two = test_.folder.Read("PTemplate.001");
     Click(*form_, deleteButton);
     EXPECT_FALSE(test_.folder.Exists("PTemplate.001"));
+    EXPECT_EQ(test_.folder.Read("Backup/Undo/2000-01-01 000000 PTemplate.001"), two);
     EXPECT_EQ(Entries(templateList), QStringList{QStringLiteral("Slip")});
     EXPECT_EQ(List(templateList).Index(), 0);
     EXPECT_EQ(Box(firstXBox).text(), QStringLiteral("38.2"));

@@ -132,6 +132,20 @@ TEST(NotesFile, FailsOrReadsButNeverElse) {
     }
 }
 
+TEST(NotesFile, IsKeptBeforeALineOfItIsLost) {
+    MemoryFolder folder;
+    Notes notes = NotesAtFirst();
+    notes.note = "one\r\ntwo";
+    SaveNotes(folder, notes);
+    const std::string before = folder.Read("Notes.txt");
+    notes.note = "one\r\ntwo\r\nthree";
+    SaveNotes(folder, notes);
+    EXPECT_TRUE(folder.OldFiles().empty());
+    SaveNotes(folder, NotesAtFirst());
+    ASSERT_EQ(folder.OldFiles().size(), 1U);
+    EXPECT_EQ(folder.OldFiles().begin()->second, before + "\r\nthree");
+}
+
 TEST(NotesFile, IsNotTouchedByAFailingWriteAtAnyByte) {
     MemoryFolder folder;
     SaveNotes(folder, NotesAtFirst());

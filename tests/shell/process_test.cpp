@@ -11,6 +11,7 @@
 
 #include "core/settings.h"
 #include "platform/system/DiskFolder.h"
+#include "platform/system/OneRun.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -22,15 +23,46 @@ class Process : public testing::Test {
         int exitCode = -1;
         bool crashed = false;
         std::string output;
+        std::string errors;
     };
+
+    /// Its own home, so that nobody else's rescued files are told of.
+    void SetHome(QProcess& process) const {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home.path() % QStringLiteral("/data"));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"),
+                           home.path() % QStringLiteral("/config"));
+        environment.insert(QStringLiteral("TMPDIR"), home.path());
+        process.setProcessEnvironment(environment);
+    }
+
+    /// Starts the program and lets it run; it has taken its folder once its settings are there.
+    void Start(QProcess& process, const QString& program, const QStringList& orders = {}) {
+        SetHome(process);
+        process.setWorkingDirectory(QDir::rootPath());
+        process.start(program, orders);
+        ASSERT_TRUE(process.waitForStarted());
+        QFileSystemWatcher watcher({folderPath});
+        QEventLoop loop;
+        const auto look = [&] {
+            if (QFile::exists(folderPath + QStringLiteral("/quillon.ini"))) loop.quit();
+        };
+        QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, look);
+        QObject::connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
+        QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
+        QTimer::singleShot(0, &loop, look);
+        loop.exec();
+    }
 
     Outcome RunToItsEnd(const QStringList& orders = {}) {
         QProcess process;
+        SetHome(process);
         process.start(QStringLiteral(QUILLON_PROBE), QStringList(folderPath) + orders);
         EXPECT_TRUE(process.waitForFinished(60'000)) << "the process did not end";
         return {.exitCode = process.exitCode(),
                 .crashed = process.exitStatus() != QProcess::NormalExit,
-                .output = process.readAllStandardOutput().toStdString()};
+                .output = process.readAllStandardOutput().toStdString(),
+                .errors = process.readAllStandardError().toStdString()};
     }
 
     /// Every file of the folder with its bytes.
@@ -75,6 +107,7 @@ class Process : public testing::Test {
         EXPECT_EQ(Files(), before);
     }
 
+    QTemporaryDir home;
     QTemporaryDir temporary;
     QString folderPath = temporary.path();
     State state;
@@ -150,26 +183,78 @@ TEST_F(Process, WhatCannotBeSavedAtQuitIsReported) {
         << "the settings come after the notes and are not saved";
 }
 
+TEST_F(Process, WhatCouldNotBeSavedIsRescuedAndToldOfAtTheNextStartOnce) {
+    QDir(folderPath).mkdir(QStringLiteral("Notes.txt"));
+    const Outcome failed = RunToItsEnd({QStringLiteral("quit")});
+    const QString rescued = home.path() % QStringLiteral("/data/quillon/Rescued");
+    const QStringList files = QDir(rescued).entryList(QDir::Files);
+    ASSERT_EQ(files.size(), 1) << failed.output;
+    const std::string path = QString(rescued % QLatin1Char('/') % files.first()).toStdString();
+    EXPECT_TRUE(path.ends_with(" Notes.txt"));
+    EXPECT_NE(failed.output.find("What was to be written is kept in " + path), std::string::npos)
+        << failed.output;
+    QDir(folderPath).rmdir(QStringLiteral("Notes.txt"));
+    const Outcome next = RunToItsEnd({QStringLiteral("quit")});
+    EXPECT_EQ(next.exitCode, 0);
+    EXPECT_NE(next.output.find(path), std::string::npos) << next.output;
+    QFile file(QString::fromStdString(path));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), Files()[QStringLiteral("Notes.txt")]);
+    EXPECT_EQ(RunToItsEnd({QStringLiteral("quit")}).output, "");
+}
+
+TEST_F(Process, ASecondStartBringsTheFirstToTheFrontAndEnds) {
+    QProcess first;
+    Start(first, QStringLiteral(QUILLON_PROBE), {folderPath});
+    const auto before = Files();
+    const Outcome second = RunToItsEnd();
+    EXPECT_EQ(second.exitCode, 0) << second.output;
+    EXPECT_EQ(second.output, "");
+    EXPECT_TRUE(
+        second.errors.ends_with("Lottery Quillon World is open already, and comes to the front.\n"))
+        << second.errors;
+    EXPECT_EQ(first.state(), QProcess::Running);
+    EXPECT_EQ(Files(), before);
+    first.kill();
+    first.waitForFinished();
+    EXPECT_EQ(RunToItsEnd({QStringLiteral("quit")}).exitCode, 0) << "a killed run holds nothing";
+}
+
+TEST_F(Process, ASecondStartNamesAFirstThatDoesNotAnswer) {
+    OneRun first(folderPath);
+    ASSERT_TRUE(first.HoldsFolder());
+    const Outcome second = RunToItsEnd();
+    EXPECT_EQ(second.exitCode, 1);
+    EXPECT_NE(second.output.find("Another Lottery Quillon World works in this folder:"),
+              std::string::npos)
+        << second.output;
+    EXPECT_NE(second.output.find(folderPath.toStdString()), std::string::npos) << second.output;
+    EXPECT_TRUE(Files().empty());
+}
+
 TEST_F(Process, TheProgramTakesTheFolderOfItsExecutable) {
     const QString copy = folderPath + QStringLiteral("/quillon");
     ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLON_EXECUTABLE), copy));
     QProcess process;
-    process.setWorkingDirectory(QDir::rootPath());
-    process.start(copy);
-    ASSERT_TRUE(process.waitForStarted());
-    QFileSystemWatcher watcher({folderPath});
-    QEventLoop loop;
-    const auto look = [&] {
-        if (QFile::exists(folderPath + QStringLiteral("/quillon.ini"))) loop.quit();
-    };
-    QObject::connect(&watcher, &QFileSystemWatcher::directoryChanged, &loop, look);
-    QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
-    QTimer::singleShot(0, &loop, look);
-    loop.exec();
+    Start(process, copy);
     process.kill();
     process.waitForFinished();
     EXPECT_TRUE(QFile::exists(folderPath + QStringLiteral("/quillon.ini")));
     EXPECT_TRUE(QDir(folderPath + QStringLiteral("/Backup")).exists());
+}
+
+TEST_F(Process, AConfigurationOfQtInItsFolderLeadsTheProgramNowhere) {
+    const QString copy = folderPath + QStringLiteral("/quillon");
+    ASSERT_TRUE(QFile::copy(QStringLiteral(QUILLON_EXECUTABLE), copy));
+    for (const char* name : {"qt.conf", "qt6.conf"}) {
+        Write(name, "[Paths]\nPrefix=/nowhere\nPlugins=/nowhere\n");
+    }
+    QProcess process;
+    Start(process, copy);
+    EXPECT_EQ(process.state(), QProcess::Running) << process.readAllStandardError().toStdString();
+    EXPECT_TRUE(QFile::exists(folderPath + QStringLiteral("/quillon.ini")));
+    process.kill();
+    process.waitForFinished();
 }
 
 }  // namespace

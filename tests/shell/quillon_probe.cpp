@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the program on a folder for tests that need a whole process: it prints the report of a
-// failure and presses its button, and it closes the main window where it is asked to quit.
+// failure or any other message and presses its first button. Where it is asked to, it stores an
+// entry for a player ("player=Ann") in the way a user does, chooses a menu entry
+// ("trigger=HelpAbout"), or closes the main window ("quit").
 #include <QAction>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -19,51 +22,90 @@ void CloseReport(QMessageBox& report) {
     report.buttons().constFirst()->click();
 }
 
-void CloseWindow() {
+QWidget* Window(const char* name) {
     const auto widgets = QApplication::topLevelWidgets();
     for (QWidget* widget : widgets) {
-        if (widget->objectName() == QStringLiteral("Quillon") && widget->isVisible()) {
-            // Not from within the timer's own event, which the report would have to wait for.
-            QTimer::singleShot(0, widget, &QWidget::close);
-            return;
+        if (widget->objectName() == QLatin1String(name) && widget->isVisible()) return widget;
+    }
+    return nullptr;
+}
+
+void CloseWindow() {
+    // Not from within the timer's own event, which the report would have to wait for.
+    if (QWidget* window = Window("Quillon")) QTimer::singleShot(0, window, &QWidget::close);
+}
+
+// Not from within the timer's own event, as a form is open until it closes.
+void Press(QWidget& form, const char* button) {
+    auto* const found = form.findChild<QPushButton*>(QLatin1String(button));
+    QTimer::singleShot(0, found, &QPushButton::click);
+}
+
+// The hand of a user who stores an entry: what is to be done next, at each of its moves.
+class Hand {
+  public:
+    explicit Hand(const QStringList& orders) : quits_(orders.contains(QStringLiteral("quit"))) {
+        for (const QString& order : orders) {
+            const QString value = order.section(QLatin1Char('='), 1);
+            if (order.startsWith(QStringLiteral("player="))) player_ = value;
+            if (order.startsWith(QStringLiteral("trigger="))) entry_ = value;
         }
     }
-}
+
+    void Move() {
+        if (auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            CloseReport(*report);
+        } else if (!player_.isEmpty()) {
+            StoreEntry();
+        } else if (!entry_.isEmpty()) {
+            Trigger(entry_);
+        } else if (quits_ && QApplication::activeModalWidget() == nullptr) {
+            CloseWindow();
+        }
+    }
+
+  private:
+    void StoreEntry() {
+        QWidget* const form = Window("StoreMyDrawsW");
+        if (form == nullptr) return Trigger(QStringLiteral("DatabaseStoreDrawsW"));
+        if (entered_) {
+            player_.clear();
+            return Press(*form, "Command3");
+        }
+        for (int box = 1; box <= 6; ++box) {
+            form->findChild<QLineEdit*>(QStringLiteral("Text1(%1)").arg(box))
+                ->setText(QString::number(box));
+        }
+        form->findChild<QLineEdit*>(QStringLiteral("TextPName"))->setText(player_);
+        form->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
+        entered_ = true;
+    }
+
+    // Once, when the main window stands.
+    void Trigger(const QString& menuEntry) {
+        QWidget* const window = Window("Quillon");
+        if (window == nullptr || triggered_) return;
+        triggered_ = true;
+        auto* const entry = window->findChild<QAction*>(menuEntry);
+        QTimer::singleShot(0, entry, &QAction::trigger);
+    }
+
+    bool quits_;
+    QString player_;
+    QString entry_;
+    bool triggered_ = false;
+    bool entered_ = false;
+};
 
 }  // namespace
-
-/// Triggers the menu entry that an argument "trigger=NAME" names, once.
-void TriggerEntry(const QStringList& given) {
-    static bool triggered = false;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (triggered || widget->objectName() != QStringLiteral("Quillon") ||
-            !widget->isVisible()) {
-            continue;
-        }
-        for (const QString& argument : given) {
-            if (!argument.startsWith(QStringLiteral("trigger="))) continue;
-            triggered = true;
-            auto* entry = widget->findChild<QAction*>(argument.section(QLatin1Char('='), 1));
-            QTimer::singleShot(0, widget, [entry] { entry->trigger(); });
-        }
-    }
-}
 
 int main(int argumentCount, char** arguments) {
     Application application(argumentCount, arguments);
     const QStringList given = QApplication::arguments();
+    Hand user(given);
     QTimer hand;
     hand.setInterval(0);
-    QObject::connect(
-        &hand, &QTimer::timeout, &hand, [&given, quit = given.contains(QStringLiteral("quit"))] {
-            if (auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-                CloseReport(*report);
-            } else if (quit) {
-                CloseWindow();
-            } else {
-                TriggerEntry(given);
-            }
-        });
+    QObject::connect(&hand, &QTimer::timeout, &hand, [&user] { user.Move(); });
     hand.start();
     return application.Run([&given] { return RunProgram(given.at(1)); });
 }

@@ -333,6 +333,7 @@ TEST_F(QuillonForm, SavedEntriesAreDeletedOnYes) {
     program.messages.Expect(deleteQuestion, Answer::Yes);
     Choose("FileDeleteSaved");
     EXPECT_FALSE(program.folder.Exists(savedEntriesFile));
+    EXPECT_EQ(program.folder.Read("Backup/Undo/2000-01-01 000000 MyLottery.txt"), "x\r\n");
 }
 
 TEST_F(QuillonForm, SavedEntriesStayOnNo) {

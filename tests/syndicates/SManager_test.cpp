@@ -548,7 +548,9 @@ TEST_F(Managing, EnterInABoxOfDetailsEntersNothing) {
 TEST_F(Managing, WhereTheDiaryCannotBeWrittenTheMembersAreSaved) {
     OpenWith(twoRecords);
     Type(*form_, "Text1(0)", QStringLiteral("Eve"));
-    test_.folder.FailAtOperation(1);
+    // Both files are read, the members are read again, kept (four steps) and written, the diary is
+    // read again, and then written.
+    test_.folder.FailAtOperation(9);
     Run(saveButton);
     test_.folder.FailAtOperation(std::nullopt);
     EXPECT_TRUE(TakeFailure().has_value());
@@ -622,6 +624,49 @@ TEST_F(Managing, PrintsTheDiaryWithItsHead) {
               "2.00");
     EXPECT_EQ(Table().CurrentRow(), 1);
     EXPECT_EQ(CurrentColumn(), 1);
+}
+
+TEST_F(Managing, ADiaryThatWasChangedOutsideIsReadAnewAndTheOneShownIsKept) {
+    OpenWith(twoRecords);
+    Enter(1, 5, "mine");
+    const std::string outside = "\"01-Jun-2005\",\"5\",\"\",\"\",\"\",\"theirs\"\r\n";
+    test_.folder.Write("Diary.000", outside);
+    test_.messages.Expect(ChangedOutsideMessage("Diary.000"));
+    Run(saveButton);
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(Diary(), outside);
+    EXPECT_EQ(Cell(1, 5), "theirs");
+    EXPECT_EQ(Cell(2, 5), "");
+    EXPECT_EQ(Row(0), "Date|Tickets|Cost|Won|Balance|Notes");
+    EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("mine"), std::string::npos);
+    Save();
+}
+
+TEST_F(Managing, DetailsThatWereChangedOutsideAreReadAnewAndTheDiaryShownStays) {
+    OpenWith(twoRecords);
+    Enter(1, 5, "mine");
+    Box("Text1(0)").setText(QStringLiteral("Zoe"));
+    std::string outside = test_.folder.Read("SMembers.000");
+    outside.replace(outside.find("Ann"), 3, "Ben");
+    test_.folder.Write("SMembers.000", outside);
+    test_.messages.Expect(ChangedOutsideMessage("SMembers.000"));
+    Run(saveButton);
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), outside);
+    EXPECT_EQ(Box("Text1(0)").text(), QStringLiteral("Ben"));
+    EXPECT_EQ(Cell(1, 5), "mine");
+    EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("\"Zoe\""), std::string::npos);
+    Save();
+    EXPECT_NE(Diary().find("mine"), std::string::npos);
+}
+
+TEST_F(Managing, TheDiaryIsKeptBeforeARecordIsDeleted) {
+    OpenWith(twoRecords);
+    ClickCell(1, 1);
+    Run(deleteButton);
+    Save();
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_EQ(test_.folder.OldFiles().begin()->second, twoRecords);
 }
 
 }  // namespace

@@ -306,4 +306,33 @@ TEST_F(EditingMembers, ShowsNamesAsTheyStand) {
     EXPECT_EQ(Label("Label3"), QStringLiteral("<b>Club</b>"));
 }
 
+TEST_F(EditingMembers, ThatWereChangedOutsideAreReadAnewAndThoseShownAreKept) {
+    AddMembers({"Bob"});
+    const std::string outside = test_.folder.Read("SMembers.000");
+    AddMembers({"Cid"});
+    Open();
+    Add("Dan");
+    test_.folder.Write("SMembers.000", outside);
+    test_.messages.Expect(ChangedOutsideMessage("SMembers.000"));
+    Run(saveButton);
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), outside);
+    EXPECT_EQ(Names(), "Bob");
+    EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("\"Dan\""), std::string::npos);
+    test_.messages.Expect(saved);
+    Run(saveButton);
+    ExpectNoChanges(closeButton);
+}
+
+TEST_F(EditingMembers, AreKeptBeforeOneIsDeleted) {
+    AddMembers({"Bob", "Cid"});
+    const std::string before = test_.folder.Read("SMembers.000");
+    Open();
+    List().SetIndex(0);
+    Run(deleteButton);
+    test_.messages.Expect(saved);
+    Run(saveButton);
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_EQ(test_.folder.OldFiles().begin()->second, before);
+}
+
 }  // namespace

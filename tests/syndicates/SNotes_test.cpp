@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QPlainTextEdit>
 
+#include "syndicates/syndicate_notes.h"
 #include "tests/syndicates/syndicate_form.h"
 
 namespace {
@@ -187,6 +188,17 @@ TEST_F(TakingNotes, AFailingWriteLeavesTheFile) {
     Run(saveButton);
     EXPECT_TRUE(TakeFailure().has_value());
     EXPECT_EQ(File(), firstFile);
+}
+
+TEST_F(TakingNotes, AreKeptBeforeTheyAreReset) {
+    SaveSyndicateNotes(test_.folder, {.checklist = {}, .note = "mine"});
+    const std::string before = test_.folder.Read("SNotes.txt");
+    Open();
+    Run(resetButton);
+    EXPECT_FALSE(test_.folder.Exists("SNotes.txt"));
+    EXPECT_EQ(
+        test_.folder.OldFiles(),
+        (std::map<std::string, std::string>{{"Backup/Undo/2000-01-01 000000 SNotes.txt", before}}));
 }
 
 }  // namespace

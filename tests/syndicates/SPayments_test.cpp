@@ -332,4 +332,32 @@ TEST_F(Paying, PrintsTheGridWhereThereIsAPrinter) {
     EXPECT_EQ(printed, "Bob");
 }
 
+TEST_F(Paying, PaymentsThatWereChangedOutsideAreReadAnewAndThoseShownAreKept) {
+    const std::string all = test_.folder.Read("SMembers.000");
+    AddMembers({"Dan"});
+    Open();
+    Enter("7.50");
+    test_.folder.Write("SMembers.000", all);
+    test_.messages.Expect(ChangedOutsideMessage("SMembers.000"));
+    Run(saveButton);
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), all);
+    EXPECT_EQ(Cell(3, 0), "Cid");
+    EXPECT_EQ(Cell(4, 0), "");
+    EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("\"7.50\""), std::string::npos);
+    ExpectNoChanges(closeButton);
+}
+
+TEST_F(Paying, PaymentsAreKeptBeforeOneIsOverwritten) {
+    SetPayment(1, "Cash", "5", "01-Jun-2005");
+    SaveSyndicate(test_.state, test_.folder);
+    const std::string before = test_.folder.Read("SMembers.000");
+    test_.folder.SetNow(test_.folder.Now() + std::chrono::seconds(1));
+    Open();
+    ClickCell(2, 0);
+    Enter("7.50");
+    test_.messages.Expect(saved);
+    Run(saveButton);
+    EXPECT_EQ(test_.folder.OldFiles().rbegin()->second, before);
+}
+
 }  // namespace

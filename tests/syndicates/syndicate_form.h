@@ -30,6 +30,15 @@ inline const Message inputProblem{
                            " Please check it and try again.  \r\n"),
     .sign = Sign::Information};
 
+inline Message ChangedOutsideMessage(const char* file) {
+    return {.title = QStringLiteral("Lottery Quillon World"),
+            .text = QLatin1String(file) %
+                    QStringLiteral(" has been changed by another program since it was\r\n"
+                                   "shown here. Nothing is saved now; the file is read anew.\r\n"
+                                   "What you had here is kept in Backup/Undo."),
+            .sign = Sign::Exclamation};
+}
+
 /// A form with the syndicate "Winners" open, whose manager is Ann.
 template <typename FormType>
 class SyndicateForm : public testing::Test {

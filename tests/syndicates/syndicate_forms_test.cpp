@@ -238,6 +238,8 @@ TEST_F(DeletingASyndicate, DeletesTheOneThatIsOpenWithItsDiary) {
     EXPECT_FALSE(form_->isVisible());
     EXPECT_FALSE(There("SMembers.001"));
     EXPECT_FALSE(There("Diary.001"));
+    EXPECT_TRUE(There("Backup/Undo/2000-01-01 000000 SMembers.001"));
+    EXPECT_TRUE(There("Backup/Undo/2000-01-01 000000-002 Diary.001"));
     EXPECT_TRUE(There("SMembers.000"));
     EXPECT_TRUE(There("Diary.000"));
     EXPECT_EQ(File(), "");

@@ -19,6 +19,7 @@
 
 #include "core/saved_entries.h"
 #include "core/settings.h"
+#include "platform/system/ProgramFolderPath.h"
 #include "platform/system/TextConversion.h"
 #include "shell/notes_file.h"
 #include "tests/core/failures.h"
@@ -691,6 +692,12 @@ TEST_F(InstalledProgram, FillsTheFolderOfTheHelpPages) {
     ProgramFolderPath(executables_, user_);
     EXPECT_EQ(BytesOf(own / "help" / "help.css"), "body {}");
     EXPECT_EQ(BytesOf(own / "help" / "Quillon.png"), "mine");
+}
+
+TEST_F(InstalledProgram, NamesTheFolderWhoseBytesAreNoText) {
+    const std::string failure = FailureOf([&] { ProgramFolderPath({}, user_); });
+    EXPECT_TRUE(failure.starts_with("The program's folder, /")) << failure;
+    EXPECT_TRUE(failure.ends_with("has a name that is not written in UTF-8. Give it another one."));
 }
 
 TEST_F(InstalledProgram, FailsWhereTheUsersFolderCannotBeMade) {
