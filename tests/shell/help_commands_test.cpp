@@ -21,6 +21,11 @@ const Message upToDate{.title = QStringLiteral("TVX update check"),
                        .text = QStringLiteral("You have the latest version of the program.    "),
                        .sign = Sign::Information};
 
+const Message notAsUpToDate{.title = QStringLiteral("Warning"),
+                            .text = QStringLiteral("This site is not as up to date\r\n"
+                                                   "or functional as the main site.    \r\n"),
+                            .sign = Sign::Exclamation};
+
 Message NewVersion(const std::string& latest) {
     return {
         .title = QStringLiteral("TVX update check"),
@@ -164,10 +169,7 @@ TEST_F(HelpMenu, MayBeQuitDuringACheck) {
 
 TEST_F(HelpMenu, WarnsOfTheAlternativeSiteAndOpensIt) {
     Start();
-    program.messages.Expect({.title = QStringLiteral("Warning"),
-                             .text = QStringLiteral("This site is not as up to date\r\n"
-                                                    "or functional as the main site.    \r\n"),
-                             .sign = Sign::Exclamation});
+    program.messages.Expect(notAsUpToDate);
     Choose("HelpBackupSite");
     EXPECT_EQ(program.pages, Pages{QString::fromLatin1(alternativeSite)});
 }
@@ -177,10 +179,7 @@ TEST_F(HelpMenu, HasAnAlternativeSiteThatNoSettingNames) {
     for (int slot = 1; slot <= setting::last; ++slot) EXPECT_NE(Setting(slot), alternativeSite);
     WriteSettings(setting::LinkAddresses, "http://www.other.example");
     Start();
-    program.messages.Expect({.title = QStringLiteral("Warning"),
-                             .text = QStringLiteral("This site is not as up to date\r\n"
-                                                    "or functional as the main site.    \r\n"),
-                             .sign = Sign::Exclamation});
+    program.messages.Expect(notAsUpToDate);
     Choose("HelpBackupSite");
     EXPECT_EQ(program.pages, Pages{QString::fromLatin1(alternativeSite)});
 }
