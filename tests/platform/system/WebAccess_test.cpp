@@ -4,6 +4,7 @@
 #include <netdb.h>
 
 #include <QSemaphore>
+#include <QTcpSocket>
 #include <string_view>
 
 #include "tests/platform/system/fetching_a_page.h"
@@ -89,6 +90,35 @@ TEST_F(FetchingASafePage, IsFollowedToButNeverLeft) {
     EXPECT_EQ(ProblemOf(safe_.Address(QStringLiteral("page"))),
               QStringLiteral("The page leads on to one that is not safe."));
     EXPECT_EQ(server_.requests.size(), 1U);
+}
+
+// Connects what the client of a proxy sends with a server on this computer, and back.
+ServerAnswer Tunnels(quint16 port) {
+    return [port](QTcpSocket& client) {
+        client.disconnect(SIGNAL(readyRead()));
+        auto* server = new QTcpSocket(&client);
+        QObject::connect(&client, &QTcpSocket::readyRead, server,
+                         [&client, server] { server->write(client.readAll()); });
+        QObject::connect(server, &QTcpSocket::readyRead, &client,
+                         [&client, server] { client.write(server->readAll()); });
+        QObject::connect(server, &QTcpSocket::disconnected, &client,
+                         [&client] { client.disconnectFromHost(); });
+        server->connectToHost(QStringLiteral("127.0.0.1"), port);
+        client.write("HTTP/1.1 200 Connection established\r\nContent-Length: 3\r\n\r\n");
+    };
+}
+
+TEST_F(FetchingASafePage, PassesThroughAProxyUnread) {
+    const QUrl page(safe_.Address(QStringLiteral("page")));
+    const QByteArray place = "127.0.0.1:" + QByteArray::number(page.port());
+    qputenv("https_proxy", server_.Address({}).toLatin1());
+    server_.answers[place] = Tunnels(static_cast<quint16>(page.port()));
+    EXPECT_EQ(FetchSafe(), "page");
+    EXPECT_EQ(server_.requests.size(), 1U);
+    server_.answers[place] = LeadsTo("302 Found", server_.Address(QStringLiteral("page")));
+    EXPECT_EQ(FetchSafe(), "");
+    EXPECT_EQ(server_.requests.size(), 2U);
+    qunsetenv("https_proxy");
 }
 
 /// Fetches through a proxy, which the server of the test is. No computer has the name that is
