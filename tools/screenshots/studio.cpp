@@ -140,4 +140,5 @@ Studio::Studio(const QString& folderPath)
 void Studio::LeaveOutBackgrounds() {
     state->Settings(setting::SkinBits) = "0";
     SaveSettings(*state, folder);
+    DateFiles(folder);
 }
