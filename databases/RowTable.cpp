@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "databases/RowTable.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -14,7 +13,7 @@
 #include "platform/widgets/Contrast.h"
 #include "platform/widgets/GridLooks.h"
 #include "platform/widgets/NumberColours.h"
-#include "platform/widgets/Widgets.h"
+#include "platform/widgets/TableCopy.h"
 #include "platform/widgets/WindowShade.h"
 
 namespace {
@@ -33,18 +32,11 @@ void AddRow(QString& text, const QStringList& cells, const QString& number) {
 }  // namespace
 
 RowTable::RowTable(QWidget* parent)
-    : QTableView(parent), model_(new RowTableModel(this)), shade_(new WindowShade(*this, [this] {
-          const bool dark = shade_->IsDark();
-          const QPalette colours = GridPalette(dark);
-          setPalette(colours);
-          const QColor base = colours.color(QPalette::Base);
-          model_->SetColours(StandingOut(QColor(Qt::gray), base, readable),
-                             dark ? OnDark(ExtraBallColour()) : ExtraBallColour());
-      })) {
+    : QTableView(parent),
+      model_(new RowTableModel(this)),
+      shade_(new WindowShade(*this, [this] { TakeColours(); })) {
     setModel(model_);
-    setPalette(GridPalette(false));
-    const QColor base = palette().color(QPalette::Base);
-    model_->SetColours(StandingOut(QColor(Qt::gray), base, readable), ExtraBallColour());
+    TakeColours();
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setTabKeyNavigation(false);
@@ -57,20 +49,17 @@ RowTable::RowTable(QWidget* parent)
     verticalHeader()->setHighlightSections(false);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     horizontalHeader()->setHighlightSections(false);
-    BuildMenu();
+    AddCopyMenu(*this, [this] { CopySelection(); });
     connect(model_, &RowTableModel::ticked, this, &RowTable::ticked);
 }
 
-void RowTable::BuildMenu() {
-    auto* copy = Named(new QAction(tr("Copy"), this), QStringLiteral("Copy"));
-    auto* selectAll = Named(new QAction(tr("Select all"), this), QStringLiteral("SelectAll"));
-    copy->setShortcut(QKeySequence::Copy);
-    selectAll->setShortcut(QKeySequence::SelectAll);
-    connect(copy, &QAction::triggered, this, [this] { CopySelection(); });
-    connect(selectAll, &QAction::triggered, this, [this] { this->selectAll(); });
-    for (QAction* action : {copy, selectAll}) action->setShortcutContext(Qt::WidgetShortcut);
-    addActions({copy, selectAll});
-    setContextMenuPolicy(Qt::ActionsContextMenu);
+// The colours of grids, and of those what can be read on their ground.
+void RowTable::TakeColours() {
+    setPalette(GridPalette(shade_->IsDark()));
+    // The shade may have looked again at that.
+    const QColor ground = palette().color(QPalette::AlternateBase);
+    model_->SetColours(StandingOut(QColor(Qt::gray), ground, readable),
+                       StandingOut(ExtraBallColour(), ground, readable));
 }
 
 // Rows that are shown anew after a small change stay where they were.

@@ -57,7 +57,7 @@ class RowTable final : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void BuildMenu();
+    void TakeColours();
     void CopySelection() const;
     void TurnTicks();
     void MarkRows(const QModelIndexList& rows, const QModelIndex& current);

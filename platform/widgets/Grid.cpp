@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/widgets/Grid.h"
 
-#include <QAction>
 #include <QClipboard>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -14,7 +13,7 @@
 
 #include "platform/widgets/GridLooks.h"
 #include "platform/widgets/GridModel.h"
-#include "platform/widgets/Widgets.h"
+#include "platform/widgets/TableCopy.h"
 #include "platform/widgets/WindowShade.h"
 
 namespace {
@@ -55,15 +54,7 @@ void Grid::SetUpView() {
 }
 
 void Grid::BuildMenu() {
-    auto* copy = Named(new QAction(tr("Copy"), this), QStringLiteral("Copy"));
-    auto* selectAll = Named(new QAction(tr("Select all"), this), QStringLiteral("SelectAll"));
-    copy->setShortcut(QKeySequence::Copy);
-    selectAll->setShortcut(QKeySequence::SelectAll);
-    connect(copy, &QAction::triggered, this, [this] { CopySelection(); });
-    connect(selectAll, &QAction::triggered, this, [this] { this->selectAll(); });
-    for (QAction* action : {copy, selectAll}) action->setShortcutContext(Qt::WidgetShortcut);
-    addActions({copy, selectAll});
-    setContextMenuPolicy(Qt::ActionsContextMenu);
+    AddCopyMenu(*this, [this] { CopySelection(); });
 }
 
 int Grid::RowCount() const { return model_->GridRows(); }

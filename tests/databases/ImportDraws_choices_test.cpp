@@ -3,6 +3,7 @@
 #include <QTabBar>
 
 #include "databases/RoleHeader.h"
+#include "platform/widgets/Contrast.h"
 #include "tests/databases/import_form.h"
 
 namespace {
@@ -43,6 +44,22 @@ TEST_F(ImportChoices, ATickComesBackByTheSpaceBar) {
     EXPECT_EQ(ImportButton().text(), QStringLiteral("Import 28 draws"));
     QTest::keyClick(&table, Qt::Key_Space);
     EXPECT_EQ(ImportButton().text(), QStringLiteral("Import 30 draws"));
+}
+
+TEST_F(ImportChoices, EveryNumberCanBeReadInADarkWindow) {
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0xef, 0xf0, 0xf1), QColor(0x31, 0x36, 0x3b)));
+    Open();
+    ChooseNew("village.csv", ResultsCsv(PublishedDraws(30)));
+    ClickTick(1);
+    const RowTable& table = Table("Draws");
+    for (const auto& [row, column] : {std::pair(0, 7), std::pair(1, 1)}) {
+        const auto ink = table.model()->index(row, column).data(Qt::ForegroundRole);
+        EXPECT_GE(Contrast(ink.value<QColor>(), table.palette().color(QPalette::Base)), 4.5);
+    }
+    EXPECT_LT(table.palette().color(QPalette::Base).lightness(), 128) << "dark as its window";
+    form_.reset();
+    QApplication::setPalette(light);
 }
 
 TEST_F(ImportChoices, AllTicksTakenAwayLeaveNothingToImport) {
