@@ -8,9 +8,11 @@
 #include <algorithm>
 
 #include "core/draw_database.h"
+#include "core/old_files.h"
 #include "databases/draw_records.h"
 #include "platform/forms/Hourglass.h"
 #include "platform/forms/LotteryList.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/system/MessageBoxes.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/DatePicker.h"
@@ -44,6 +46,7 @@ void HistoryW::CloseIfEmpty() {
 void HistoryW::ChooseLottery() {
     const Hourglass hourglass;
     LoadDatabase(state(), folder(), static_cast<std::int16_t>(lotteries_->Index()));
+    if (shown_.name != state().DbaseFile) takeBack_->Forget();
     shown_ = {.name = state().DbaseFile, .bytes = folder().Read(state().DbaseFile)};
     lotteryName_->setText(Readable(ToQString(state().LotteryName)));
     grid_->ClearCells();
@@ -147,14 +150,27 @@ void HistoryW::ShowInDrawOrder() {
 // A draw is changed by its row, which must still be that of the draw that is shown.
 bool HistoryW::ReadAnewIfChanged() {
     if (!ChangedOutside(program(), this, shown_)) return false;
+    takeBack_->Forget();
     ChooseLottery();
     return true;
+}
+
+// Draws are written at once, so what is taken back is the file.
+void HistoryW::RememberDraws(const QString& command, int row) {
+    takeBack_->Remember(command, [this, before = shown_, row] {
+        if (ReadAnewIfChanged()) return false;
+        WriteKeepingOld(folder(), before.name, before.bytes);
+        ChooseLottery();
+        SelectRow(row);
+        return true;
+    });
 }
 
 void HistoryW::UpdateChosenDraw() {
     if (ReadAnewIfChanged()) return;
     const Hourglass hourglass;
     const DrawRecord draw = MakeDrawRecord(date_->Value(), TextsOf(boxes_));
+    RememberDraws(tr("draw updated"), grid_->CurrentRow());
     UpdateDraw(state(), folder(), grid_->CurrentRow(), draw,
                {.region = services().region, .today = services().today()});
     ChooseLottery();
@@ -174,6 +190,7 @@ void HistoryW::DeleteChosenDraw() {
     if (ReadAnewIfChanged()) return;
     const Hourglass hourglass;
     const Date date = DateOfRow(row);
+    RememberDraws(tr("draw deleted"), row);
     DeleteDraw(state(), folder(), row);
     ChooseLottery();
     Say(tr("Draw of %1 deleted").arg(ToQString(DrawDate(date))));

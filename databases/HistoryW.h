@@ -12,6 +12,7 @@ class QGroupBox;
 class QLayout;
 class QRadioButton;
 class QTimer;
+class TakeBack;
 
 /// Shows all draws of a lottery, in draw order or with the numbers of each draw ascending, and lets
 /// the user correct or delete a draw in draw order.
@@ -46,6 +47,8 @@ class HistoryW final : public Form {
     void ShowAscending();
     void ShowInDrawOrder();
     bool ReadAnewIfChanged();
+    /// Keeps the database as it is, to be taken back to; `command` is what happens to the row now.
+    void RememberDraws(const QString& command, int row);
     void UpdateChosenDraw();
     void DeleteChosenDraw();
     void Print();
@@ -57,6 +60,7 @@ class HistoryW final : public Form {
     std::int16_t sortedView_ = 0;  // 0 in draw order, -1 in ascending order
     QLabel* lotteryName_;
     Grid* grid_;
+    TakeBack* takeBack_;
     QGroupBox* editPanel_;
     DatePicker* date_;
     DrawBoxes boxes_;

@@ -10,6 +10,7 @@
 
 #include "databases/HistoryW.h"
 #include "platform/forms/FormLayout.h"
+#include "platform/forms/TakeBack.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/DatePicker.h"
 #include "platform/widgets/ElidingLabel.h"
@@ -47,6 +48,7 @@ HistoryW::HistoryW(Program& program, QWidget* parent)
     columns->addLayout(MakeChoices(), 1);
     LayOutForm(this, title, explanation, columns, MakeActions());
     TabInReadingOrder();
+    takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 660});
     closing_ = Named(new QTimer(this), QStringLiteral("Timer1"));
     closing_->setInterval(closingDelay);

@@ -204,4 +204,51 @@ TEST_F(DrawsHistoryEdit, TheDatabaseAsItWasIsKept) {
     }
 }
 
+TEST_F(DrawsHistoryEdit, CtrlZBringsDeletedAndUpdatedDrawsBack) {
+    Open();
+    const std::string before = test_.folder.Read("dbase100.txt");
+    ClickRow(3);
+    Box(1).setText(QStringLiteral("13"));
+    Click(*form_, updateButton);
+    const std::string updated = test_.folder.Read("dbase100.txt");
+    EXPECT_NE(updated, before);
+    ClickRow(2);
+    Click(*form_, deleteButton);
+    EXPECT_NE(test_.folder.Read("dbase100.txt"), updated);
+
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(test_.folder.Read("dbase100.txt"), updated);
+    ExpectMarked(2);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(), QStringLiteral("Taken back: draw deleted"));
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(test_.folder.Read("dbase100.txt"), before);
+    ExpectMarked(3);
+}
+
+TEST_F(DrawsHistoryEdit, CtrlZLeavesADatabaseAloneThatWasChangedOutside) {
+    Open();
+    ClickRow(2);
+    Click(*form_, deleteButton);
+    const std::string outside = test_.folder.Read("dbase100.txt") + "14 May 05,1,2,3,4,5,6,0,7\r\n";
+    test_.folder.Write("dbase100.txt", outside);
+    test_.messages.Expect(ChangedOutsideMessage());
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(test_.folder.Read("dbase100.txt"), outside);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(),
+              QStringLiteral("There is nothing to take back"));
+}
+
+TEST_F(DrawsHistoryEdit, CtrlZKnowsNothingOfTheLotteryBefore) {
+    Open();
+    ClickRow(2);
+    Click(*form_, deleteButton);
+    const std::string deleted = test_.folder.Read("dbase100.txt");
+    ChooseLottery(1);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(test_.folder.Read("dbase100.txt"), deleted);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(),
+              QStringLiteral("There is nothing to take back"));
+}
+
 }  // namespace
