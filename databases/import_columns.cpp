@@ -158,7 +158,7 @@ bool CouldBeDrawn(const BallColumn& column) {
     if (column.filled < 8) return true;
     const double fair = 1.0 / std::max(column.distinct, 1);
     const double rows = static_cast<double>(column.filled);
-    if (column.lowest != 1 && column.distinct <= 6) return false;
+    if (column.filled >= 24 && column.lowest != 1 && column.distinct <= 6) return false;
     if (column.repeated > 3 * fair + 4 / rows && column.repeated > 0.2) return false;
     return column.commonest <= 3 * fair + 4 / rows;
 }

@@ -192,21 +192,25 @@ std::optional<WrittenDate> DateReader::Named(const Pieces& pieces) {
     return date;
 }
 
+// "20241014", else "14102024" in either order.
+std::optional<WrittenDate> DateReader::EightDigits(const Pieces& pieces) {
+    const int digits = pieces.numbers[0].value;
+    const WrittenDate yearFirst{.first = digits % 100,
+                                .second = digits / 100 % 100,
+                                .year = digits / 10000,
+                                .weekday = pieces.weekday};
+    const WrittenDate yearLast{.form = Form::YearKnown,
+                               .first = digits / 1000000,
+                               .second = digits / 10000 % 100,
+                               .year = digits % 10000,
+                               .weekday = pieces.weekday};
+    if (IsYear(yearFirst.year) && yearFirst.second <= 12) return yearFirst;
+    return IsYear(yearLast.year) ? std::optional(yearLast) : std::nullopt;
+}
+
 std::optional<WrittenDate> DateReader::Numeric(const Pieces& pieces) {
     const auto& [first, second, third] = pieces.numbers;
-    if (pieces.count == 1 && first.digits == 8) {
-        const WrittenDate yearFirst{.first = first.value % 100,
-                                    .second = first.value / 100 % 100,
-                                    .year = first.value / 10000,
-                                    .weekday = pieces.weekday};
-        const WrittenDate yearLast{.form = Form::YearKnown,
-                                   .first = first.value / 1000000,
-                                   .second = first.value / 10000 % 100,
-                                   .year = first.value % 10000,
-                                   .weekday = pieces.weekday};
-        if (IsYear(yearFirst.year) && yearFirst.second <= 12) return yearFirst;
-        return IsYear(yearLast.year) ? std::optional(yearLast) : std::nullopt;
-    }
+    if (pieces.count == 1 && first.digits == 8) return EightDigits(pieces);
     if (pieces.count != 3) return std::nullopt;
     std::size_t years = 0;
     for (const auto& number : pieces.numbers) {

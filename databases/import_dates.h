@@ -55,6 +55,7 @@ class DateReader {
     Word Meaning(std::string_view word) const;
     bool TakeWord(Pieces& pieces, std::string_view word) const;
     bool Cut(std::string_view text, Pieces& pieces) const;
+    static std::optional<WrittenDate> EightDigits(const Pieces& pieces);
     static std::optional<WrittenDate> Numeric(const Pieces& pieces);
     static std::optional<WrittenDate> Named(const Pieces& pieces);
 

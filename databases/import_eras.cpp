@@ -150,6 +150,14 @@ std::string RulesInWords(const ImportRules& rules) {
     return words;
 }
 
+std::string CautionAbout(const ImportRules& rules) {
+    constexpr int mostCounted = 70;
+    if (std::max(rules.highest, rules.highestExtra) <= mostCounted) return {};
+    return "Numbers above " + PlainDigits(mostCounted) +
+           " are not counted: hot and cold numbers and number statistics cannot be used with this "
+           "lottery.";
+}
+
 ImportRules RulesOf(const std::vector<ImportedDraw>& draws, bool extraFromSameDrum) {
     Shown all;
     bool extras = false;

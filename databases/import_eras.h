@@ -21,6 +21,10 @@ struct ImportRules {
 /// "6 of 1 to 59, bonus from the same numbers", "5 of 1 to 70, extra ball of 1 to 25".
 std::string RulesInWords(const ImportRules& rules);
 
+/// What of the program cannot be used with such a lottery, as a sentence for the user; empty where
+/// nothing is in the way.
+std::string CautionAbout(const ImportRules& rules);
+
 /// The rules that these draws show.
 ImportRules RulesOf(const std::vector<ImportedDraw>& draws, bool extraFromSameDrum);
 

@@ -272,6 +272,15 @@ TEST(ImportEras, MayBeTakenAlone) {
     EXPECT_EQ(OnlyEra(imported, eras[1]).draws.back().date, imported.draws.back().date);
 }
 
+TEST(ImportEras, WarnOfNumbersThatAreNotCounted) {
+    ImportRules rules{.picks = 5, .highest = 70, .highestExtra = 70, .hasBonus = false};
+    EXPECT_EQ(CautionAbout(rules), "");
+    rules.highest = 75;
+    EXPECT_NE(CautionAbout(rules).find("Numbers above 70 are not counted"), std::string::npos);
+    rules = {.picks = 5, .highest = 49, .highestExtra = 90, .hasBonus = false};
+    EXPECT_NE(CautionAbout(rules), "");
+}
+
 TEST(ImportProposal, TellsFewRowsByTheirHeading) {
     const Imported bonus = ImportByProposal(
         "Date,Ball 1,Ball 2,Ball 3,Ball 4,Ball 5,Ball 6,Bonus\n"

@@ -60,6 +60,10 @@ TEST(ImportText, IsReadInEachEncoding) {
                                        "2\0\n",
                                        8)),
               "1,2\n");
+}
+
+TEST(ImportText, TellsItsEncoding) {
+    using enum ImportEncoding;
     EXPECT_EQ(EncodingInWords(Utf8), "UTF-8");
     EXPECT_EQ(EncodingInWords(Utf16BigEndian), "UTF-16");
     EXPECT_EQ(EncodingInWords(Windows1252), "Windows-1252");
