@@ -19,7 +19,8 @@
 
 namespace {
 
-constexpr int longestAnswer = 2000;  // milliseconds
+// Milliseconds; a form that makes lines looks at no messages for ten seconds.
+constexpr int longestAnswer = 11'000;
 constexpr const char* activationToken = "XDG_ACTIVATION_TOKEN";
 constexpr const char* shown = "shown\n";
 

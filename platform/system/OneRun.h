@@ -23,8 +23,8 @@ class OneRun {
     /// Whether this run holds the folder. One that is just ending is waited for, a moment.
     bool HoldsFolder();
 
-    /// Calls the run that holds the folder; whether it has shown itself. One that is at work for
-    /// long does so afterwards, but is not waited for.
+    /// Calls the run that holds the folder; whether it has shown itself. One that is at work is
+    /// waited for, a little longer than a form works at most.
     bool CallHolder() const;
 
     /// Who holds the folder, such as "process 1234 of ann"; empty where the system does not tell.
