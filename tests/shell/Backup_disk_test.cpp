@@ -198,6 +198,19 @@ TEST_F(BackupOnDisk, LeavesOneFileWhereTheBackupIsSpelledOtherwise) {
     ExpectListsAsReadAnew();
 }
 
+TEST_F(BackupOnDisk, TakesTheBackupThatIsSpelledAsTheFileOfTwo) {
+    fs::create_directory(path_ / "Backup");
+    Put("Backup/Notes.txt", "other");
+    Put("Backup/notes.txt", "old");
+    Put("notes.txt", "new");
+    const OnDisk other = Snapshot(path_ / "Backup").at("Notes.txt");
+    Open();
+    Click(*form_, "Command4");
+    EXPECT_EQ(Snapshot(path_ / "Backup"),
+              (Files{{"Notes.txt", other}, {"notes.txt", Snapshot(path_).at("notes.txt")}}));
+    ExpectListsAsReadAnew();
+}
+
 TEST_F(BackupOnDisk, ListsNoFolderInBackup) {
     fs::create_directory(path_ / "Backup");
     fs::create_directory(path_ / "Backup" / "Undo");
