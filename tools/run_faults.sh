@@ -1,21 +1,25 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs every save of the program under every fault of every call that it makes to the system, and
-# prints a line for each save and the sum. Takes some twenty minutes; `tools/run_faults.sh --step 5`
-# tries each fifth fault, `--gtest_filter=*StoreEntries*` one of the saves.
+# Runs every save of the program under every fault of every call that it makes to the system, then
+# every file that is read in every damage, and prints a line for each and the sums. Takes some twenty
+# minutes; `tools/run_faults.sh --step 5` tries each fifth fault, `--gtest_filter=*StoreEntries*` one
+# of the saves.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . tools/setup.sh
 
 InstallPackages "${packages[@]}"
-Build dev faults_test
+Build dev faults_test bad_input_test
 home=$(mktemp -d) || exit 1
 trap 'rm -rf "$home"' EXIT
-chmod 700 "$home"
-log=build/faults.log
-QT_QPA_PLATFORM="offscreen:configfile=$PWD/tests/support/laptop_screen.json" \
-    HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_CACHE_HOME=$home/cache \
-    XDG_RUNTIME_DIR=$home TZ=Pacific/Chatham \
-    build/dev/tests/faults/faults_test --all "$@" 2>&1 |
-    tee "$log" | grep -vE '^\[ |^\[-|This plugin does not support'
-exit "${PIPESTATUS[0]}"
+export QT_QPA_PLATFORM="offscreen:configfile=$PWD/tests/support/laptop_screen.json" TZ=Pacific/Chatham
+export HOME=$home XDG_CONFIG_HOME=$home/config XDG_DATA_HOME=$home/data XDG_CACHE_HOME=$home/cache
+export XDG_RUNTIME_DIR=$home
+
+status=0
+for program in faults_test bad_input_test; do
+    "build/dev/tests/faults/$program" --all "$@" 2>&1 | tee "build/$program.log" |
+        grep -vE '^\[ |^\[-|This plugin does not support'
+    if [[ ${PIPESTATUS[0]} -ne 0 ]]; then status=1; fi
+done
+exit "$status"

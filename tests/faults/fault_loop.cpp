@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstring>
 #include <exception>
+#include <filesystem>
 
 using system_calls::CallKind;
 using system_calls::Fault;
@@ -21,9 +22,12 @@ void RecordCall(const char* call, const char* file) {
 }
 
 void RecordContents() {
+    std::string names = "\n";
     for (const auto& [name, bytes] : FilesIn(watchedPath)) {
         watchingRecord->Add(Record::Kind::Content, name, bytes);
+        names += name + '\n';
     }
+    watchingRecord->Add(Record::Kind::Names, names);
 }
 
 bool IsUnfinished(const std::string& name) { return name.find(".quillon-") != std::string::npos; }
@@ -41,25 +45,9 @@ bool TellsReason(const Record::Entry& said) {
 bool SoundsSaved(const std::string& text) {
     constexpr std::array<const char*, 8> words = {"saved",   "Saved",   "created", "updated",
                                                   "Updated", "deleted", "stored",  "Copied"};
-    for (const char* word : words) {
-        if (text.find(word) != std::string::npos) return true;
-    }
-    return false;
-}
-
-// Whether the way back holds a file that had one of these contents.
-bool IsKept(const Files& left, const std::set<std::string>& contents) {
-    return std::any_of(left.begin(), left.end(), [&contents](const auto& file) {
-        return file.first.starts_with("Backup/Undo/") && contents.count(file.second) > 0;
-    });
-}
-
-// Whether the file was to be a copy, to the backups or from there, of one that is still there.
-bool IsCopy(const Files& left, const std::string& file, const std::set<std::string>& contents) {
-    const std::string backups = "Backup/";
-    const bool backup = file.starts_with(backups);
-    const auto source = left.find(backup ? file.substr(backups.size()) : backups + file);
-    return source != left.end() && contents.count(source->second) > 0;
+    if (text.starts_with("? ") || text.find("not saved") != std::string::npos) return false;
+    return std::ranges::any_of(
+        words, [&text](const char* word) { return text.find(word) != std::string::npos; });
 }
 
 }  // namespace
@@ -68,6 +56,11 @@ FaultLoop::FaultLoop(const Scenario& scenario, const std::string& path)
     : scenario_(scenario), path_(path) {
     watchingRecord = &record_;
     watchedPath = path_;
+}
+
+FaultLoop::~FaultLoop() {
+    std::filesystem::remove_all(RescueFolderOf(path_));
+    std::filesystem::remove_all(OtherFolderOf(path_));
 }
 
 void FaultLoop::Act(const Fault& fault) {
@@ -108,13 +101,22 @@ std::string FaultLoop::RunSound() {
     for (const Record::Entry& entry : record_.Entries(Record::Kind::Content)) {
         contents_[entry.name].insert(entry.text);
     }
+    std::vector<Record::Entry> moments = record_.Entries(Record::Kind::Names);
     for (const auto& [name, bytes] : contents_) {
-        if (before_.count(name) == 0 || after_.count(name) == 0) removed_.insert(name);
+        const bool throughout =
+            before_.count(name) > 0 && std::ranges::all_of(moments, [&](const auto& moment) {
+                return moment.name.find('\n' + name + '\n') != std::string::npos;
+            });
+        if (!throughout) removed_.insert(name);
     }
     for (const Record::Entry& problem : record_.Entries(Record::Kind::Problem))
         return problem.name + ": " + problem.text;
     for (const Record::Entry& report : record_.Entries(Record::Kind::Report)) return report.name;
     if (end != RunEnd::Finished) return "it does not come to its end";
+    for (const Record::Entry& said : said_) {
+        if (SoundsSaved(said.name) && said.text != StateOf(path_))
+            return "it said \"" + said.name + "\" before it was so";
+    }
     return StartAgain();
 }
 
@@ -155,6 +157,7 @@ std::string FaultLoop::Run(const Fault& fault, Tally& tally) {
         return said;
     }
     std::string wrong = WhatIsUntold(end);
+    if (wrong.empty() && end != RunEnd::Killed) wrong = WhatIsLeft(fault);
     if (wrong.empty()) wrong = StartAgain();
     tally.other += wrong.empty() ? 0 : 1;
     return wrong;
@@ -167,7 +170,7 @@ std::string FaultLoop::WhatIsLost() const {
         const bool there = left.count(name) > 0;
         const bool comesAndGoes =
             removed_.count(name) > 0 || IsUnfinished(name) || name.starts_with("Backup/Undo/");
-        if (!there && !comesAndGoes && !IsKept(left, contents)) return name + " is gone";
+        if (!there && !comesAndGoes) return name + " is gone";
     }
     for (const auto& [name, bytes] : left) {
         if (IsUnfinished(name)) continue;
@@ -181,23 +184,28 @@ std::string FaultLoop::WhatIsLost() const {
     return {};
 }
 
-// What could not be written is in the rescue folder, in whole or what was to be appended of it.
+// What could not be written is in the rescue folder, in whole or what was to be appended of it, or
+// stands in another file, of which it was to be a copy.
 std::string FaultLoop::WhatIsNotRescued() const {
     constexpr std::string_view unwritten = " could not be written";
+    std::vector<std::string> kept;
+    for (const std::string& folder : {path_, RescueFolderOf(path_), OtherFolderOf(path_)}) {
+        for (const auto& [name, bytes] : FilesIn(folder)) kept.push_back(bytes);
+    }
     for (const Record::Entry& report : record_.Entries(Record::Kind::Report)) {
         const std::size_t end = report.name.find(unwritten);
         if (end == std::string::npos) continue;
         const std::string file = report.name.substr(0, end);
         if (file == "temp.txt") continue;  // the copy of a file that is still there
-        const auto wanted = contents_.find(file);
-        if (wanted == contents_.end()) return "it reported on " + file;
-        bool rescued = IsCopy(FilesIn(path_), file, wanted->second);
-        for (const auto& [name, bytes] : FilesIn(RescueFolderOf(path_))) {
-            for (const std::string& content : wanted->second) {
-                if (report.name.find(name) != std::string::npos && content.ends_with(bytes))
-                    rescued = true;
-            }
-        }
+        if (contents_.count(file) == 0) return "it reported on " + file;
+        const auto before = before_.find(file);
+        const bool rescued =
+            std::ranges::any_of(contents_.at(file), [&](const std::string& content) {
+                const bool isNew = before == before_.end() || content != before->second;
+                return isNew && std::ranges::any_of(kept, [&](const std::string& bytes) {
+                           return !bytes.empty() && content.ends_with(bytes);
+                       });
+            });
         if (!rescued) return "it did not rescue " + file + ": " + report.name;
     }
     return {};
@@ -228,9 +236,21 @@ std::string FaultLoop::WhatIsUntold(RunEnd end) const {
     if (end == RunEnd::Reported && reports.empty()) return "it ended without a report";
     const auto said = record_.Entries(Record::Kind::Said);
     const bool told = std::any_of(said.begin(), said.end(), TellsReason);
-    if (end != RunEnd::Finished || told) return {};
+    if (end != RunEnd::Finished || told || scenario_.silent) return {};
     if (ComparableFilesIn(path_) != after_) return "it says nothing and has not done its work";
     if (said.size() != said_.size()) return "it said too little";
+    return {};
+}
+
+// An unfinished file is removed where the run goes on or tells of a failure, if it can be.
+std::string FaultLoop::WhatIsLeft(const Fault& fault) const {
+    const auto removal = [](const Record::Entry& call) { return call.name == "unlink"; };
+    const bool refused = fault.kind == Fault::Kind::Lasting ||
+                         removal(calls_.at(static_cast<std::size_t>(fault.call)));
+    if (refused) return {};
+    for (const auto& [name, bytes] : FilesIn(path_)) {
+        if (IsUnfinished(name)) return name + " is left";
+    }
     return {};
 }
 

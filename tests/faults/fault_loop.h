@@ -19,6 +19,7 @@ struct Scenario {
     /// What the user does; the main window is open, but where `starts` says that this opens it.
     void (*act)(Session&);
     bool starts = false;
+    bool silent = false;  ///< Whether a failure ends it without a word, as it is told to.
 };
 
 /// What came of all faults of some scenarios.
@@ -40,6 +41,9 @@ class FaultLoop {
   public:
     /// `path` is an empty folder for the program.
     FaultLoop(const Scenario& scenario, const std::string& path);
+    ~FaultLoop();
+    FaultLoop(const FaultLoop&) = delete;
+    FaultLoop& operator=(const FaultLoop&) = delete;
 
     /// The run without a fault. Returns what is wrong with it, nothing where it is sound.
     std::string RunSound();
@@ -64,6 +68,7 @@ class FaultLoop {
     std::string WhatIsNotRescued() const;
     std::string WhatIsFalselySaid() const;
     std::string WhatIsUntold(RunEnd end) const;
+    std::string WhatIsLeft(const system_calls::Fault& fault) const;
     std::string StartAgain();
 
     const Scenario& scenario_;

@@ -32,6 +32,8 @@ std::string BytesOf(const fs::path& path) {
 
 std::string RescueFolderOf(const std::string& folder) { return folder + "-rescued"; }
 
+std::string OtherFolderOf(const std::string& folder) { return folder + "-other"; }
+
 Files FilesIn(const std::string& folder) {
     Files files;
     if (!fs::exists(folder)) return files;
@@ -76,6 +78,14 @@ Files ComparableFilesIn(const std::string& folder) {
         result[std::string(undoFolder) + std::to_string(i)] = copies[i];
     }
     return result;
+}
+
+std::string StateOf(const std::string& folder) {
+    std::string state;
+    for (const auto& [name, bytes] : ComparableFilesIn(folder)) {
+        state += name + '\n' + std::to_string(bytes.size()) + '\n' + bytes + '\n';
+    }
+    return state;
 }
 
 struct Record::Memory {

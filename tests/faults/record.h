@@ -16,12 +16,18 @@ Files FilesIn(const std::string& folder);
 /// Where a session in that folder rescues what it cannot write.
 std::string RescueFolderOf(const std::string& folder);
 
+/// Another folder for a session to read from or write to.
+std::string OtherFolderOf(const std::string& folder);
+
 /// Makes the folder hold these files and folders and nothing else, and the rescue folder nothing.
 void PutFiles(const std::string& folder, const Files& files);
 
 /// The files of the folder but for unfinished ones. Copies to go back to stand in the order of
 /// their contents, those among them that had to be put into the rescue folder.
 Files ComparableFilesIn(const std::string& folder);
+
+/// The same in one text.
+std::string StateOf(const std::string& folder);
 
 /// What a run of the program tells about itself, in memory that outlives the process.
 ///
@@ -33,6 +39,7 @@ class Record {
         Said = 's',     ///< A message or a line that the user sees, with the state of the files.
         Report = 'r',   ///< The report that ended the run.
         Content = 'f',  ///< What a file holds after something was renamed or removed.
+        Names = 'n',    ///< All files at that moment, each name between line ends.
         Problem = 'p'   ///< What only a broken test can do.
     };
 

@@ -260,18 +260,32 @@ void ResetPreferences(Session& session) {
                    [&](QDialog& form) { session.Press(form, "Command12"); });
 }
 
-void BackUpAll(Session& session) {
+void InBackup(Session& session, const char* command) {
     session.InForm("FileBackup", "Backup", [&](QDialog& form) {
-        session.Press(form, "Command4");
+        Session::ChooseLine(form, "List1", 0);
+        Session::ChooseLine(form, "List2", 0);
+        session.Press(form, command);
         session.Press(form, "Command3");
     });
 }
 
-void RestoreAll(Session& session) {
-    session.InForm("FileBackup", "Backup", [&](QDialog& form) {
-        session.Press(form, "Command5");
-        session.Press(form, "Command3");
-    });
+void BackUpOne(Session& session) { InBackup(session, "Command1"); }
+void BackUpAll(Session& session) { InBackup(session, "Command4"); }
+void RestoreOne(Session& session) { InBackup(session, "Command2"); }
+void RestoreAll(Session& session) { InBackup(session, "Command5"); }
+
+// With a floppy disk that holds older files.
+void UsedFolderAndFloppy(Session& session) {
+    UsedFolder(session);
+    const std::string other = OtherFolderOf(session.folder.Path().toStdString());
+    PutFiles(other, {{"MyLottery.txt", "01-May-2005,1,2,3,4,5,6,,,UK Lotto,Tom,dbase100.txt\r\n"},
+                     {"Diary.000", ""},
+                     {"Notes.txt", session.folder.Read("Notes.txt")}});
+}
+
+void CopyFromFloppy(Session& session) {
+    session.chosenPath = QString::fromStdString(OtherFolderOf(session.folder.Path().toStdString()));
+    session.Choose("FileCopyFromA");
 }
 
 // To try a save under every fault, add its line here.
@@ -306,8 +320,14 @@ const auto scenarios = std::to_array<Scenario>({
     {.name = "DeleteATemplate", .prepare = UsedFolderWithTemplate, .act = DeleteATemplate},
     {.name = "SavePreferences", .prepare = UsedFolder, .act = SavePreferences},
     {.name = "ResetPreferences", .prepare = UsedFolder, .act = ResetPreferences},
+    {.name = "BackUpOne", .prepare = UsedFolder, .act = BackUpOne},
     {.name = "BackUpAll", .prepare = UsedFolder, .act = BackUpAll},
+    {.name = "RestoreOne", .prepare = UsedFolder, .act = RestoreOne},
     {.name = "RestoreAll", .prepare = UsedFolder, .act = RestoreAll},
+    {.name = "CopyFromFloppy",
+     .prepare = UsedFolderAndFloppy,
+     .act = CopyFromFloppy,
+     .silent = true},
 });
 
 }  // namespace

@@ -28,16 +28,6 @@ Control& Find(const QObject& parent, const char* name) {
     return *control;
 }
 
-// All files in one text, to be compared with those of another run.
-std::string StateOf(const std::string& folder) {
-    const system_calls::Pause pause;
-    std::string state;
-    for (const auto& [name, bytes] : ComparableFilesIn(folder)) {
-        state += name + '\n' + std::to_string(bytes.size()) + '\n' + bytes + '\n';
-    }
-    return state;
-}
-
 }  // namespace
 
 Session::Session(const QString& path, Record& record)
@@ -138,10 +128,13 @@ void Session::ChooseLine(QWidget& form, const char* list, int line) {
 }
 
 void Session::Said(const QString& text) {
+    const system_calls::Pause pause;
     record_.Add(Record::Kind::Said, text.toStdString(), StateOf(path_));
 }
 
 Answer Session::Messages::Show(QWidget*, const Message& message) {
-    session_.Said(message.title % QLatin1Char('|') % message.text);
+    const bool asks = message.buttons != Buttons::Ok;
+    session_.Said((asks ? QStringLiteral("? ") : QString()) % message.title % QLatin1Char('|') %
+                  message.text);
     return message.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
 }

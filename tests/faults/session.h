@@ -50,7 +50,7 @@ class Session {
     /// Chooses a line of a list.
     static void ChooseLine(QWidget& form, const char* list, int line);
 
-    /// Records a text that the user sees.
+    /// Records a text that the user sees; a question begins with "? ".
     void Said(const QString& text);
 
     /// The page that a download from this address gives.
