@@ -205,6 +205,14 @@ TEST_F(FetchingAPage, FailsWhereNoByteComesInTime) {
               "");
 }
 
+TEST_F(FetchingAPage, MayDripLongerThanItMayBeSilent) {
+    access_.limits.silence = Milliseconds(400);
+    const QByteArray body(50, 'x');
+    EXPECT_EQ(FetchOf(SendsForever(HttpReply("200 OK", "Content-Length: 50\r\n", {}), "x",
+                                   Milliseconds(10))),
+              body.toStdString());
+}
+
 TEST_F(FetchingAPage, FailsWhereItDripsOnAfterItsTime) {
     access_.limits.whole = Milliseconds(60);
     EXPECT_EQ(FetchOf(SendsForever(HttpReply("200 OK", {}, {}), "x", Milliseconds(1))), "");
