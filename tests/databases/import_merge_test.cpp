@@ -121,6 +121,9 @@ TEST(ImportMerge, AddsTheOtherDrawOfADate) {
     const MergedDatabase merged = Merged(old, {second, first});
     EXPECT_EQ(merged.added, 1);
     EXPECT_EQ(merged.there, 1);
+    EXPECT_EQ(
+        merged.bytes,
+        "L\r\n\r\n6,49,0,0,0\r\n05 Jan 24,7,8,9,10,11,12,0,0\r\n05 Jan 24,1,2,3,4,5,6,0,0\r\n");
     EXPECT_EQ(Merged(merged.bytes, {second, first}).added, 0);
     EXPECT_EQ(Merged(old, {second}).conflicts.size(), 1U);
 }
