@@ -55,6 +55,9 @@ QString RemarksOf(const ImportSession& session) {
                            note.topic == ImportTopic::Product;
         if (tells && !note.guess) remarks += ToQString(note.text);
     }
+    const ImportRules rules = RulesOf(session.Taken().draws, session.Mapping().extraFromSameDrum);
+    const std::string caution = CautionAbout(rules);
+    if (!caution.empty()) remarks += ToQString(caution);
     if (session.TooMany() > 0) {
         remarks += tr("The oldest %1 are left out: a lottery has room for %2.")
                        .arg(DrawsInWords(static_cast<std::size_t>(session.TooMany())),

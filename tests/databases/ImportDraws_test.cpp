@@ -213,6 +213,17 @@ TEST_F(ImportDrawsForm, MakesNoMoreLotteriesThanTheListsHaveRoomFor) {
     EXPECT_FALSE(ImportButton().isEnabled());
 }
 
+TEST_F(ImportDrawsForm, SaysWhatALotteryOfManyNumbersCannotBeUsedFor) {
+    Open();
+    ChooseNew("many.csv", ResultsCsv(PublishedDraws(100, 75)));
+    const ImportRules rules{.picks = 6, .highest = 75, .highestExtra = 0, .hasBonus = true};
+    ASSERT_FALSE(CautionAbout(rules).empty());
+    EXPECT_TRUE(TextOf("Remarks").contains(ToQString(CautionAbout(rules))))
+        << TextOf("Remarks").toStdString();
+    ChooseNew("few.csv", ResultsCsv(PublishedDraws(100)));
+    EXPECT_FALSE(TextOf("Remarks").contains(ToQString(CautionAbout(rules))));
+}
+
 TEST_F(ImportDrawsForm, TakesTheNewestDrawsThatALotteryHasRoomFor) {
     Open();
     ChooseNew("long.csv", ResultsCsv(PublishedDraws(3100)));
