@@ -43,7 +43,8 @@ void MainMenu::ShowLinks(const State& state) {
         const QString caption = ToQString(state.Settings(setting::LinkCaptions + i));
         QAction* entry = Entry(Member(QStringLiteral("LinksLink"), i));
         entry->setVisible(!caption.isEmpty());
-        if (!caption.isEmpty()) entry->setText(ShownCaption(caption));
+        // As it is kept: an "&" that is to be shown is doubled there already.
+        if (!caption.isEmpty()) entry->setText(caption);
         entry->setToolTip(AddressTip({}, ToQString(state.Settings(setting::LinkAddresses + i))));
     }
 }

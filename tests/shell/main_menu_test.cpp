@@ -238,9 +238,9 @@ TEST_F(MainMenuOfWindow, AnEmptiedLinkLeavesAGapInTheMenu) {
     EXPECT_EQ(Entry("LinksLink(4)")->text(), QStringLiteral("US Mega Millions"));
 }
 
-TEST_F(MainMenuOfWindow, ShowsTheAmpersandOfALinksName) {
+TEST_F(MainMenuOfWindow, ShowsTheDoubledAmpersandOfALinksNameOnce) {
     MakeDefaultSettings(program.state, program.folder);
-    program.state.Settings(setting::LinkCaptions + 1) = "Draws & dates";
+    program.state.Settings(setting::LinkCaptions + 1) = "Draws && dates";
     SaveSettings(program.state, program.folder);
     Start();
     EXPECT_EQ(Entry("LinksLink(1)")->text(), QStringLiteral("Draws && dates"));

@@ -70,8 +70,30 @@ TEST_F(AfterPreferences, SavedLinksStandOnTheMenuAsTheyWereTyped) {
         Click(form, "Command7");
     });
     EXPECT_TRUE(Entry("LinksLink(5)")->isVisible());
+    // A menu draws one ampersand for the two.
+    EXPECT_EQ(Entry("LinksLink(5)")->text(), QStringLiteral("Bread && Butter"));
     Choose("LinksLink(5)");
     EXPECT_EQ(program.pages, std::vector{QStringLiteral("http://www.bread.example")});
+}
+
+TEST_F(AfterPreferences, ALinkWhoseCaptionIsEmptiedStaysOnTheMenu) {
+    Start();
+    InPreferences([](QDialog& form) {
+        Type(form, "Text1(2)", {});
+        Click(form, "Command7");
+    });
+    EXPECT_TRUE(Entry("LinksLink(3)")->isVisible());
+    EXPECT_EQ(Entry("LinksLink(3)")->text(), QStringLiteral("US Powerball"));
+}
+
+TEST_F(AfterPreferences, AResetTakesALinkThatWasAddedOffTheMenu) {
+    WriteSettings(setting::LinkCaptions + 9, "Added");
+    Start();
+    EXPECT_TRUE(Entry("LinksLink(9)")->isVisible());
+    ResetAll();
+    EXPECT_FALSE(Entry("LinksLink(9)")->isVisible());
+    EXPECT_EQ(Entry("LinksLink(10)")->text(), QStringLiteral("Link"));
+    EXPECT_TRUE(Entry("LinksLink(10)")->isVisible());
 }
 
 TEST_F(AfterPreferences, AResetWritesTheDefaultsAndLeavesTheScreenAsItIs) {
