@@ -158,21 +158,25 @@ void Backup::CopySelected(Side& from, Side& to) {
     if (from.list->Index() >= 0) Say(tr("Copied: %1").arg(ToQString(CopyChosen(from, to))));
 }
 
-/// Copies the chosen file, and leaves both lists as if they were read anew. Only what the copy has
-/// changed is looked up on the disk, which for hundreds of files makes seconds of minutes.
+/// Copies the chosen file, and leaves both lists as if they were read anew. Only that file is
+/// looked up on the disk, which for hundreds of files makes seconds of minutes.
 std::string Backup::CopyChosen(Side& from, Side& to) {
     const std::string entry = FromQString(from.list->item(from.list->Index())->text());
     const std::string name = NameInEntry(entry);
     const std::string path = from.files.PathOf(name);
     if (&to == &data_) KeepIfDifferent(folder(), name, folder().Read(path));
     folder().Copy(path, to.files.PathOf(name));
-    for (const Side* side : {&from, &to}) side->list->SetIndex(-1);
-    const auto change = to.files.Renew(folder(), name);
-    if (!change) return name;
-    const auto row = static_cast<int>(change->row);
-    if (change->added) to.list->insertItem(row, QString());
-    to.list->item(row)->setText(ToQString(to.files.Entry(change->row)));
+    for (Side* side : {&from, &to}) Renew(*side, name);
     return name;
+}
+
+void Backup::Renew(Side& side, const std::string& name) {
+    side.list->SetIndex(-1);
+    const auto change = side.files.Renew(folder(), name);
+    if (!change) return;
+    const auto row = static_cast<int>(change->row);
+    if (change->added) side.list->insertItem(row, QString());
+    side.list->item(row)->setText(ToQString(side.files.Entry(change->row)));
 }
 
 void Backup::CopyAll(Side& from, Side& to) {

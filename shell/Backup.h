@@ -40,6 +40,7 @@ class Backup final : public Form {
     void Fill(Side& side);
     void CopySelected(Side& from, Side& to);
     std::string CopyChosen(Side& from, Side& to);
+    void Renew(Side& side, const std::string& name);
     void CopyAll(Side& from, Side& to);
 
     Side data_;

@@ -35,8 +35,8 @@ class BackupList {
         bool added;
     };
 
-    /// Takes note of a file that was just copied to this folder, so that the list is as it would be
-    /// read anew. Nothing where files of that name are not listed.
+    /// Takes note of a file that was just copied to this folder or from it, so that the list is as
+    /// it would be read anew. Nothing where files of that name are not listed.
     std::optional<Change> Renew(const ProgramFolder& folder, std::string_view name);
 
     std::size_t Count() const { return files_.size(); }

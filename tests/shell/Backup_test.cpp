@@ -173,6 +173,36 @@ TEST_F(BackupForm, ReplacesTheBackupOfBefore) {
     EXPECT_EQ(EntriesOf("List2"), Entries{"Notes.txt                  01-06-05"});
 }
 
+TEST_F(BackupForm, ShowsAFileThatHasChangedMeanwhileAlikeOnBothSides) {
+    Put("Notes.txt", "old");
+    Open();
+    Put("Notes.txt", "new", std::chrono::July / 2 / 2006);
+    BackUp("Notes.txt");
+    EXPECT_EQ(EntriesOf("List1"), Entries{"Notes.txt                  02-07-06"});
+    EXPECT_EQ(EntriesOf("List2"), EntriesOf("List1"));
+    ExpectNothingChosen();
+}
+
+TEST_F(BackupForm, EndsTheRunAtAFileThatCannotBeRead) {
+    Put("Notes.txt", "new");
+    Put("Backup/Notes.txt", "old");
+    Open();
+    test_.folder.Lock("Notes.txt");
+    BackUp("Notes.txt");
+    EXPECT_NE(TakeFailure().value_or("").find("Notes.txt"), std::string::npos);
+    EXPECT_EQ(test_.folder.Read("Backup/Notes.txt"), "old");
+}
+
+TEST_F(BackupForm, LeavesTheDataFileWholeWhereARestorationFails) {
+    Put("Backup/Notes.txt", "1234567890");
+    Put("Notes.txt", "mine");
+    Open();
+    test_.folder.FailAfterBytes(8);
+    Restore("Notes.txt");
+    EXPECT_TRUE(TakeFailure().has_value());
+    EXPECT_EQ(test_.folder.Read("Notes.txt"), "mine");
+}
+
 TEST_F(BackupForm, ReplacesABackupThatIsSpelledOtherwise) {
     Put("Notes.txt", "new");
     Put("Backup/NOTES.TXT", "old", std::chrono::May / 1 / 2001);

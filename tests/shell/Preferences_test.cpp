@@ -202,14 +202,17 @@ TEST_F(PreferencesForm, ShowsTheStrengthsOfTheSettings) {
 TEST_F(PreferencesForm, ShowsTheFirstStrengthForEveryNumberButTwo) {
     test_.state.Settings(11) = "3";
     test_.state.Settings(12) = "";
+    test_.state.Settings(13) = "3 History  filter";
     test_.state.Settings(14) = "7 Long Run filter";
     Open();
     EXPECT_TRUE(Chosen("Option1(0)"));
     EXPECT_TRUE(Chosen("Option2(0)"));
+    EXPECT_TRUE(Chosen("Option3(0)"));
     EXPECT_TRUE(Chosen("Option4(0)"));
     Click(*form_, "Command7");
     EXPECT_EQ(Saved(11), "1 Odd/Even filter");
     EXPECT_EQ(Saved(12), "1 High/Low filter");
+    EXPECT_EQ(Saved(13), "1 History  filter");
     EXPECT_EQ(Saved(14), "3 Long Run filter");
 }
 
@@ -414,6 +417,18 @@ TEST_F(PreferencesForm, TakesLettersOfTheFilesCharacterSet) {
     Box("Text1(0)").setText(QString::fromUtf8("Zürich €"));
     Click(*form_, "Command7");
     EXPECT_EQ(Saved(21), "Z\xFCrich \x80");
+}
+
+TEST_F(PreferencesForm, ALineEndThatIsPastedMakesNoLineOfTheFile) {
+    Open();
+    Box("Text1(0)").clear();
+    Box("Text1(0)").insert(QStringLiteral("UK\r\nLotto"));
+    Box("Text2(0)").clear();
+    Box("Text2(0)").insert(QStringLiteral("www.lotto.example\n"));
+    Click(*form_, "Command7");
+    EXPECT_EQ(Saved(21), "UK Lotto");
+    EXPECT_EQ(Saved(31), "http://www.lotto.example");
+    EXPECT_EQ(std::ranges::count(test_.folder.Read("quillon.ini"), '\n'), 100);
 }
 
 TEST_F(PreferencesForm, EnterInATextBoxSaves) {
