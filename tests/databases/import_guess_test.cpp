@@ -67,11 +67,11 @@ TEST(ImportGuess, WeeksSetsAndMultipliersAreNoBalls) {
     const Draws draws = MakeDraws({.picks = 6, .highest = 54, .draws = 150}, 7);
     ExpectDraws(
         BareTable(draws,
-                  [](const auto&, int place) { return "," + std::to_string(52 - place / 2 % 52); }),
+                  [](const auto&, int place) { return "," + std::to_string(52 - place % 52); }),
         draws);
     ExpectDraws(
         BareTable(draws, [](const auto&,
-                            int place) { return "," + std::to_string(place / 5 * 3 % 8 + 1); }),
+                            int place) { return "," + std::to_string(place / 2 * 3 % 8 + 1); }),
         draws);
     ExpectDraws(
         BareTable(draws, [](const auto&,
