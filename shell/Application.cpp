@@ -10,6 +10,7 @@
 #include "platform/system/FailureReport.h"
 #include "platform/system/TextConversion.h"
 #include "platform/widgets/OutlinedStyle.h"
+#include "shell/program_version.h"
 
 // A static library's resources are linked in only where somebody asks for them.
 static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
@@ -18,6 +19,7 @@ Application::Application(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
     RegisterIcons();
     setApplicationName(QStringLiteral("quillon"));
+    setApplicationVersion(ToQString(ProgramVersion()));
     setDesktopFileName(QStringLiteral("quillon"));
     setStyle(new OutlinedStyle);
     QIcon::setFallbackThemeName(QStringLiteral("breeze"));

@@ -35,8 +35,9 @@ Welcome::Welcome(QWidget* parent) : QWidget(parent) {
     layout->addWidget(MakeLabel(QStringLiteral("WelcomeLine"),
                                 tr("Every method of play is in the menu above. To begin:"), this));
     layout->addSpacing(8);
-    setUp_ = AddStep("DatabasesCreate", "toolbar02", tr("Set up your lottery"),
-                     tr("From one of over a hundred templates, or tell how many numbers are drawn"));
+    setUp_ =
+        AddStep("DatabasesCreate", "toolbar02", tr("Set up your lottery"),
+                tr("From one of over a hundred templates, or tell how many numbers are drawn"));
     addDraw_ = AddLink("wUpdateDbase", "toolbar02");
     connect(addDraw_, &WelcomeLink::clicked, this, [this] { Q_EMIT drawWanted(lottery_); });
     AddStep("DatabaseImport", "toolbar01", tr("Import draws"),

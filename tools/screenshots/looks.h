@@ -4,9 +4,6 @@
 #include <QPalette>
 #include <QTemporaryFile>
 
-/// The colours of a dark desktop.
-QPalette DarkPalette();
-
 /// White and yellow on black, as desktops for weak eyes have it.
 QPalette ContrastPalette();
 

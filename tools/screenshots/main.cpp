@@ -13,6 +13,7 @@
 #include "core/draw_database.h"
 #include "core/text.h"
 #include "platform/forms/PrintPreview.h"
+#include "platform/system/DesktopColours.h"
 #include "platform/system/DesktopPrinters.h"
 #include "printing/grid_reports.h"
 #include "shell/Application.h"
