@@ -32,9 +32,11 @@ TEST_F(DesktopThatTells, DarkAndThenLightIsFollowedWhileWindowsAreOpen) {
     QLabel window(QStringLiteral("open"));
     window.show();
     colours.SettingChanged(appearance, colourScheme, QDBusVariant(1U));
+    QApplication::processEvents();
     EXPECT_TRUE(WindowsAreDark());
     EXPECT_EQ(window.palette().color(QPalette::Window), DarkPalette().color(QPalette::Window));
     colours.SettingChanged(appearance, colourScheme, QDBusVariant(2U));
+    QApplication::processEvents();
     EXPECT_EQ(QApplication::palette(), before);
     EXPECT_EQ(window.palette().color(QPalette::Window), before.color(QPalette::Window));
 }
