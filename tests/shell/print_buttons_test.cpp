@@ -59,6 +59,7 @@ class EveryPrintButton : public testing::Test {
         std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
         test_.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
         test_.folder.MakeFolder("Backup");
+        test_.folder.Write("Lottery Info.txt", "#One\r\ntext\r\n");
         test_.tick = 0.001;
         MakeDefaultSettings(test_.state, test_.folder);
         routines_.Offer();
