@@ -73,14 +73,15 @@ void FaultLoop::Act(const Fault& fault) {
 }
 
 RunEnd FaultLoop::RunWith(const Fault& fault) {
-    return RunForked(record_,
-                     [&] {
-                         Act(fault);
-                         if (system_calls::LeavesUnflushed())
-                             record_.Add(Record::Kind::Problem, "a power cut could lose it",
-                                         "not flushed");
-                     })
-        .end;
+    const auto run = [&] {
+        Act(fault);
+        // What could not be flushed is not flushed.
+        const bool flushes =
+            fault.call < 0 || calls_.at(static_cast<std::size_t>(fault.call)).name != "fsync";
+        if (flushes && system_calls::LeavesUnflushed())
+            record_.Add(Record::Kind::Problem, "a power cut could lose it", "not flushed");
+    };
+    return RunForked(record_, run).end;
 }
 
 std::string FaultLoop::RunSound() {
@@ -198,13 +199,16 @@ std::string FaultLoop::WhatIsNotRescued() const {
         const std::string file = report.name.substr(0, end);
         if (file == "temp.txt") continue;  // the copy of a file that is still there
         if (contents_.count(file) == 0) return "it reported on " + file;
-        const auto before = before_.find(file);
+        std::set<std::string> wanted = contents_.at(file);
+        if (const auto before = before_.find(file); before != before_.end()) {
+            wanted.erase(before->second);
+        }
+        // Where the write was to change nothing, there is nothing to rescue.
         const bool rescued =
-            std::ranges::any_of(contents_.at(file), [&](const std::string& content) {
-                const bool isNew = before == before_.end() || content != before->second;
-                return isNew && std::ranges::any_of(kept, [&](const std::string& bytes) {
-                           return !bytes.empty() && content.ends_with(bytes);
-                       });
+            wanted.empty() || std::ranges::any_of(wanted, [&kept](const std::string& content) {
+                return std::ranges::any_of(kept, [&content](const std::string& bytes) {
+                    return !bytes.empty() && content.ends_with(bytes);
+                });
             });
         if (!rescued) return "it did not rescue " + file + ": " + report.name;
     }
