@@ -117,6 +117,7 @@ TEST_F(CopyingToFloppy, StopsOnCancelBeforeItAsksForAFolder) {
 }
 
 TEST_F(CopyingToFloppy, EndsSilentlyWhereNoFolderIsChosen) {
+    program.dialogs.otherFolders[{}] = disk;
     Start();
     for (const bool toFloppy : {true, false}) {
         ExpectQuestion(toFloppy);
@@ -133,6 +134,29 @@ TEST_F(CopyingToFloppy, AsksForTheFolderEachTime) {
     Copy(true);
     Copy(false);
     EXPECT_EQ(program.dialogs.titles.size(), 3U);
+}
+
+TEST_F(CopyingToFloppy, LetsMessagesRunBeforeItsHourglassAndItsFirstFile) {
+    Start();
+    bool ran = false;
+    bool underHourglass = false;
+    const auto message = [&] {
+        ran = true;
+        underHourglass = QGuiApplication::overrideCursor() != nullptr;
+    };
+    program.services.chooseFolder = [&](QWidget*, const QString&) {
+        QMetaObject::invokeMethod(window.get(), message, Qt::QueuedConnection);
+        return diskPath;
+    };
+    program.services.openFolder = [&](const QString&) {
+        EXPECT_TRUE(ran);
+        EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+        return disk;
+    };
+    ExpectQuestion(true);
+    Choose("FileCopyToA");
+    EXPECT_FALSE(underHourglass);
+    EXPECT_TRUE(disk->Exists("quillon.ini"));
 }
 
 TEST_F(CopyingToFloppy, CountsItsFilesUnderTheHourglassAndClearsTheCount) {

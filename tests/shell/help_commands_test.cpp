@@ -174,6 +174,15 @@ TEST_F(HelpMenu, WarnsOfTheAlternativeSiteAndOpensIt) {
     EXPECT_EQ(program.pages, Pages{QString::fromLatin1(alternativeSite)});
 }
 
+TEST_F(HelpMenu, OpensTheAlternativeSiteOnlyAfterTheWarning) {
+    Start();
+    int warnings = 0;
+    program.services.openPage = [&](const QString&) { warnings = program.messages.Shown(); };
+    program.messages.Expect(notAsUpToDate);
+    Choose("HelpBackupSite");
+    EXPECT_EQ(warnings, 1);
+}
+
 TEST_F(HelpMenu, HasAnAlternativeSiteThatNoSettingNames) {
     Start();
     for (int slot = 1; slot <= setting::last; ++slot) EXPECT_NE(Setting(slot), alternativeSite);
