@@ -1,55 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <benchmark/benchmark.h>
-
+// quillon_bench [--page=FILE] [options of the benchmark library]
 #include <cstdio>
-#include <map>
+#include <fstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
-namespace {
-
-// Prints the usual table, and below it how many times as fast each routine is as the plain one of
-// the same name in the same run.
-class RatioReporter final : public benchmark::ConsoleReporter {
-  public:
-    void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& run : runs) {
-            if (run.run_type != Run::RT_Iteration || run.error_occurred) continue;
-            nanoseconds_[run.benchmark_name()] =
-                run.cpu_accumulated_time / static_cast<double>(run.iterations) * 1e9;
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-
-    void Finalize() override {
-        ConsoleReporter::Finalize();
-        for (const auto& [name, fast] : nanoseconds_) {
-            for (const char* kind : {"/bits", "/hash", "/fast"}) PrintRatio(name, kind, fast);
-        }
-    }
-
-  private:
-    void PrintRatio(std::string name, const std::string& kind, double fast) {
-        const auto place = name.find(kind);
-        if (place == std::string::npos) return;
-        const std::string plainName = name.replace(place, kind.size(), "/plain");
-        const auto plain = nanoseconds_.find(plainName);
-        if (plain == nanoseconds_.end()) return;
-        const std::string title = name.replace(place, std::string("/plain").size(), "");
-        std::printf("%-40s plain %12.0f ns   fast %9.0f ns   ratio %7.0f\n", title.c_str(),
-                    plain->second, fast, plain->second / fast);
-    }
-
-    std::map<std::string, double> nanoseconds_;
-};
-
-}  // namespace
+#include "bench/report.h"
 
 int main(int argc, char** argv) {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    std::string pageFile;
+    std::vector<char*> others;
+    for (int i = 0; i < argc; ++i) {
+        constexpr std::string_view pageOption = "--page=";
+        const std::string_view argument = argv[i];
+        if (argument.starts_with(pageOption)) {
+            pageFile = argument.substr(pageOption.size());
+        } else {
+            others.push_back(argv[i]);
+        }
+    }
+    int count = static_cast<int>(others.size());
+    benchmark::Initialize(&count, others.data());
+    if (benchmark::ReportUnrecognizedArguments(count, others.data())) return 1;
     RatioReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();
+    if (pageFile.empty()) return 0;
+    std::ofstream page(pageFile);
+    reporter.WritePage(page);
+    if (!page.flush()) {
+        std::fprintf(stderr, "%s could not be written\n", pageFile.c_str());
+        return 1;
+    }
     return 0;
 }

@@ -12,7 +12,7 @@ set(plugins platforms/libqxcb platforms/libqoffscreen platforms/libqminimal plat
     imageformats/libqjpeg imageformats/libqsvg iconengines/libqsvgicon
     platforminputcontexts/libcomposeplatforminputcontextplugin
     platforminputcontexts/libibusplatforminputcontextplugin
-    printsupport/libcupsprintersupport tls/libqopensslbackend
+    printsupport/libcupsprintersupport
     xcbglintegrations/libqxcb-egl-integration xcbglintegrations/libqxcb-glx-integration)
 
 file(REMOVE_RECURSE ${FOLDER})

@@ -62,6 +62,22 @@ void Draw(Outline outline, const QStyleOption& option, QPainter& painter) {
     painter.restore();
 }
 
+/// The style marks a button that has the focus as it marks the default one, and lists, tables and
+/// texts not at all.
+void DrawFocus(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter) {
+    const bool button = element == QStyle::PE_PanelButtonCommand;
+    if (!ShowsFocus(option) || (!button && element != QStyle::PE_Frame)) return;
+    const double inset = button ? 3.5 : 0.5;
+    const QColor colour = option.palette.color(button ? QPalette::ButtonText : QPalette::Highlight);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(colour);
+    painter.setBrush(Qt::NoBrush);
+    const QRectF rect = QRectF(option.rect).adjusted(inset, inset, -inset, -inset);
+    painter.drawRoundedRect(rect, roundness, roundness);
+    painter.restore();
+}
+
 }  // namespace
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -70,6 +86,7 @@ void OutlinedStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* 
                                   QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     Draw(OutlineOf(element), *option, *painter);
+    DrawFocus(element, *option, *painter);
 }
 
 void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

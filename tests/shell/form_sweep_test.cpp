@@ -8,8 +8,6 @@
 #include <QRegularExpression>
 #include <algorithm>
 #include <cctype>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <set>
 
@@ -17,24 +15,12 @@
 #include "platform/forms/RoomOnScreen.h"
 #include "shell/form_catalogue.h"
 #include "test_folders.h"
+#include "tests/shell/every_form.h"
 #include "tests/shell/help_pages.h"
 #include "tests/shell/letters.h"
 #include "tests/support/form_test.h"
 
 namespace {
-
-/// Every row of the catalogue whose form exists.
-std::vector<CatalogueEntry> ExistingForms() {
-    std::vector<CatalogueEntry> forms;
-    for (const CatalogueEntry& entry : FormCatalogue()) {
-        if (entry.make != nullptr) forms.push_back(entry);
-    }
-    return forms;
-}
-
-std::string TestName(const testing::TestParamInfo<CatalogueEntry>& form) {
-    return std::string(form.param.form) + "_" + form.param.menuEntry;
-}
 
 const std::map<std::string, Qt::GlobalColor> pictures = {
     {"SkinMain.jpg", Qt::red},        {"SkinPlay.jpg", Qt::green},
@@ -91,48 +77,8 @@ std::string PictureIn(const QColor& colour) {
     return bytes.toStdString();
 }
 
-class EveryForm : public testing::TestWithParam<CatalogueEntry> {
+class EveryForm : public EveryFormTest {
   protected:
-    void SetUp() override {
-        std::string database = "Sample\r\n\r\n6,49,0,0,1\r\n";
-        for (int draw = 0; draw < 12; ++draw) {
-            database += "01 Jun 05," + std::to_string(draw + 1) + ",12,23,34,45,49,0,7\r\n";
-        }
-        program.folder.Write("dbase1.txt", database);
-        program.folder.Write("LotteryTemplates.txt", "Sample,6,49,0,0,\r\n");
-        program.folder.Write("Lottery Info.txt", "#One\r\ntext\r\n#Two\r\ntext\r\n\r\n");
-        std::ifstream wheel(SUPPLIED_DATA "/wheel49.dat", std::ios::binary);
-        program.folder.Write("wheel49.dat", std::string{std::istreambuf_iterator<char>(wheel), {}});
-        program.folder.MakeFolder("Backup");
-        program.tick = 0.001;
-        MakeDefaultSettings(program.state, program.folder);
-    }
-
-    void Open() {
-        form = GetParam().make(program.program, nullptr);
-        form->Load();
-        if (GetParam().prepare != nullptr) GetParam().prepare(*form);
-        form->show();
-        QApplication::processEvents();
-    }
-
-    /// The form's own controls; parts that Qt makes inside of them are not named by us.
-    std::vector<QWidget*> Controls() const {
-        std::vector<QWidget*> controls;
-        const auto widgets = form->findChildren<QWidget*>();
-        for (QWidget* widget : widgets) {
-            const QString name = widget->objectName();
-            if (!name.isEmpty() && !name.startsWith(QStringLiteral("qt_")))
-                controls.push_back(widget);
-        }
-        return controls;
-    }
-
-    static bool TakesFocus(const QWidget* control) {
-        return control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0 &&
-               control->focusProxy() == nullptr;
-    }
-
     /// Of what is wider than the screen the beginning.
     static void ExpectInSight(const QWidget* control) {
         if (control == nullptr) return;
@@ -148,9 +94,6 @@ class EveryForm : public testing::TestWithParam<CatalogueEntry> {
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
         return spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
     }
-
-    TestProgram program;
-    std::unique_ptr<Form> form;
 };
 
 TEST_P(EveryForm, HasItsNameAndATitle) {
@@ -286,6 +229,6 @@ TEST_P(EveryForm, WearsThePictureOfItsFamily) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Catalogue, EveryForm, testing::ValuesIn(ExistingForms()), TestName);
+INSTANTIATE_TEST_SUITE_P(Catalogue, EveryForm, testing::ValuesIn(ExistingForms()), FormTestName);
 
 }  // namespace
