@@ -70,7 +70,7 @@ QLayout* ImportDraws::MakeActions() {
                                   tr("Writes the draws into the lottery"));
     import->StandOut();
     import_ = WithKeysOf(Command::Save, import);
-    close_ = MakeButton(QStringLiteral("Close"), tr(" Close "));
+    close_ = MakeCommandButton(QStringLiteral("Close"), Command::Close, tr(" Close "));
     SetCloseButton(close_);
     connect(import_, &QPushButton::clicked, this, [this] { Import(); });
     connect(close_, &QPushButton::clicked, this, [this] { Unload(); });
