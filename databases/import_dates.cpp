@@ -48,7 +48,7 @@ template <typename Action>
 void ForEachName(std::string_view names, Action action) {
     for (int index = 0; !names.empty(); ++index) {
         const std::size_t end = std::min(names.find(' '), names.size());
-        action(std::string(names.substr(0, end)), index);
+        action(names.substr(0, end), index);
         names.remove_prefix(std::min(end + 1, names.size()));
     }
 }
@@ -88,11 +88,11 @@ struct DateReader::Pieces {
 
 DateReader::DateReader(const DateRules& rules)
     : lastYear_(static_cast<int>(rules.today.year()) + 20) {
-    ForEachName(monthNames, [this](std::string name, int index) {
-        names_.push_back({std::move(name), {.month = index % 12 + 1, .weekday = 0}});
+    ForEachName(monthNames, [this](std::string_view name, int index) {
+        names_.push_back({std::string(name), {.month = index % 12 + 1, .weekday = 0}});
     });
-    ForEachName(weekdayNames, [this](std::string name, int index) {
-        names_.push_back({std::move(name), {.month = 0, .weekday = index % 7 + 1}});
+    ForEachName(weekdayNames, [this](std::string_view name, int index) {
+        names_.push_back({std::string(name), {.month = 0, .weekday = index % 7 + 1}});
     });
     for (std::size_t month = 0; month < 12; ++month) {
         for (const std::string* name :
