@@ -43,13 +43,14 @@ TEST_F(Session, TakesTheNextFileOfTheSameShapeAsTheLastOne) {
 
 TEST_F(Session, CutsTheRowsOfTheSameSourceAsTheUserDid) {
     const std::string text =
-        "Day|Numbers|Note\n2026-02-28|1 12 23 34 45 49|a\n2026-02-21|2 13 24 35 46 48|b\n";
+        "Day | Numbers | Note\n2026-02-28 | 1 12 23 34 45 49 | a\n"
+        "2026-02-21 | 2 13 24 35 46 48 | b\n";
     Open(text);
     const ImportSeparator guessed = session_.Mapping().separator;
     const ImportSeparator other =
         guessed == ImportSeparator::Blanks ? ImportSeparator::Bar : ImportSeparator::Blanks;
     session_.ChooseSeparator(other);
-    if (!session_.HasDraws()) GTEST_SKIP() << "the other separator gives no draws";
+    ASSERT_TRUE(session_.HasDraws());
     const ImportFormats formats = Remembered("dbase1.txt");
     Open(text, formats);
     EXPECT_EQ(session_.Mapping().separator, other);
