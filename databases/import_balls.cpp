@@ -60,7 +60,7 @@ class Chooser {
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             const HeadingKind kind = HeadingOf(i).kind;
             if (kind == HeadingKind::Main && At(i).part == 0) mains_.push_back(i);
-            if (kind == HeadingKind::Extra && At(i).part <= 3) extras_.push_back(i);
+            if (At(i).told || (kind == HeadingKind::Extra && At(i).part <= 3)) extras_.push_back(i);
         }
         choice_.extraByHeading = !extras_.empty();
     }
@@ -176,7 +176,8 @@ class Chooser {
         if (choice_.mains.empty()) return;
         std::size_t last = choice_.mains.back();
         for (std::size_t i = last + 1; i < columns_.size() && choice_.extras.size() < 2; ++i) {
-            const bool next = At(i).column == At(last).column + 1 ||
+            const std::size_t column = At(i).column - (At(i).behindWord ? 1 : 0);
+            const bool next = column == At(last).column + 1 ||
                               (At(i).part > 1 && At(i).column == At(last).column);
             if (!next || !CouldBeDrawn(At(i)) || At(i).distinct < 2) return;
             if (choice_.extras.size() == 1) {

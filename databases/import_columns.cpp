@@ -106,8 +106,9 @@ int NumberIn(std::string_view cell) {
     const BallList list = ReadBallList(cell);
     const std::string_view word =
         cell.substr(0, std::min(cell.find_first_of("0123456789"), cell.size()));
-    const bool told = list.count == 1 && ReadHeading(word).kind == HeadingKind::Extra;
-    return told ? list.numbers.front() : noNumber;
+    // "C(12)" and "R(7)" are what Spanish lists call the complementary and the refund.
+    const bool told = ReadHeading(word).kind == HeadingKind::Extra || word == "C(" || word == "R(";
+    return told && list.count == 1 ? list.numbers.front() : noNumber;
 }
 
 // The column where nearly all cells hold one number each; else nothing of it is filled.
@@ -125,6 +126,25 @@ BallColumn SingleNumbers(const ImportTable& table, const std::vector<SampleRow>&
     Describe(single);
     if (wrong * 20 > std::max<std::size_t>(single.filled, 1)) single.filled = 0;
     return single;
+}
+
+// Whether nearly all rows have the same word for an extra ball, or "+", in that column.
+bool HoldsWordForExtra(const ImportTable& table, const std::vector<SampleRow>& rows,
+                       std::size_t column) {
+    if (rows.empty()) return false;
+    const std::string_view word = table.Cell(rows.front().row, column);
+    if (word != "+" && ReadHeading(word).kind != HeadingKind::Extra) return false;
+    const auto same = std::count_if(rows.begin(), rows.end(), [&](const SampleRow& row) {
+        return table.Cell(row.row, column) == word;
+    });
+    return static_cast<std::size_t>(same) * 20 >= rows.size() * 19;
+}
+
+// "1 + 2 + 3 + 4 + 5 + 6 + 7": where signs stand between all numbers they tell nothing.
+void BelieveWords(std::vector<BallColumn>& columns) {
+    const auto words = std::count_if(columns.begin(), columns.end(),
+                                     [](const BallColumn& column) { return column.behindWord; });
+    for (BallColumn& column : columns) column.told = column.behindWord && words <= 3;
 }
 
 }  // namespace
@@ -145,12 +165,14 @@ std::vector<BallColumn> FindBallColumns(const ImportTable& table,
         const bool told = kind == HeadingKind::Main || kind == HeadingKind::Extra;
         const bool enough = single.filled > 0 && single.filled * 20 >= rows.size();
         if (enough && single.highest > 0 && (told || !IsCounter(single, rows))) {
+            single.behindWord = column > 0 && HoldsWordForExtra(table, rows, column - 1);
             found.push_back(std::move(single));
         } else if (single.filled == 0) {
             const std::size_t places = PlacesOf(table, rows, column);
             if (places >= 2) AddPlaces(table, rows, column, places, found);
         }
     }
+    BelieveWords(found);
     return found;
 }
 

@@ -14,6 +14,8 @@ struct BallColumn {
     std::size_t column = 0;
     int part = 0;                      ///< The place in the cell, from 1; 0 for the whole cell.
     std::vector<std::int8_t> numbers;  ///< Below 0 where the row has none.
+    bool behindWord = false;  ///< The column in front holds a word for an extra ball, or "+".
+    bool told = false;        ///< That word tells that this is an extra ball.
     std::size_t filled = 0;
     int lowest = 99;
     int highest = 0;

@@ -23,6 +23,10 @@ constexpr std::string_view monthNames =
     "janeiro fevereiro marco abril maio junho julho agosto setembro outubro novembro dezembro "
     "januari februari maart april mei juni juli augustus september oktober november december "
     "januari februari mars april maj juni juli augusti september oktober november december "
+    "stycznia lutego marca kwietnia maja czerwca lipca sierpnia wrzesnia pazdziernika listopada "
+    "grudnia ledna unora brezna dubna kvetna cervna cervence srpna zari rijna listopadu prosince "
+    "januar februar marcius aprilis majus junius julius augusztus szeptember oktober november "
+    "december ocak subat mart nisan mayis haziran temmuz agustos eylul ekim kasim aralik "
     "janner feber mrt april maj juni juli aug setiembre okt nov desember";
 
 // Seven a language, Sunday first. Those of two letters stand for themselves alone.
@@ -63,9 +67,29 @@ std::string_view DigitsAt(std::string_view text) {
 std::string_view WithoutTime(std::string_view text) {
     const std::size_t colon = text.find(':');
     if (colon == std::string_view::npos) return text;
+    if (colon + 1 == text.size()) return text.substr(0, colon);  // "25/10/2025: 3 17 22"
     std::size_t end = colon;
     while (end > 0 && IsDigitByte(text[end - 1])) --end;
     return text.substr(0, end);
+}
+
+// The year before the first of one of Japan's eras, which are written "R7/10/23"; 0 for none.
+int YearBeforeEra(char letter) {
+    return letter == 'R' ? 2018 : letter == 'H' ? 1988 : letter == 'S' ? 1925 : 0;
+}
+
+// The date with a year of four digits where an era is written in front, also with "?" for the rest
+// of its name. Its first year has no digit then.
+std::string WithYearOfEra(std::string_view text) {
+    const int before = text.empty() ? 0 : YearBeforeEra(text.front());
+    std::size_t year = std::min<std::size_t>(1, text.size());
+    while (year < text.size() && (text[year] == '?' || text[year] == ' ')) ++year;
+    const std::string_view digits = DigitsAt(text.substr(year));
+    const std::string_view rest = text.substr(year + digits.size());
+    const bool follows = rest.starts_with('/') || rest.starts_with('.');
+    const bool written = digits.empty() ? year > 1 : digits.size() <= 2;
+    if (before == 0 || !follows || !written) return std::string(text);
+    return PlainDigits(before + (digits.empty() ? 1 : LeadingWhole(digits))) + std::string(rest);
 }
 
 bool IsYear(int number) { return number >= 1900 && number <= 2100; }
@@ -171,6 +195,9 @@ bool DateReader::Cut(std::string_view text, Pieces& pieces) const {
             while (end < text.size() && IsLetterByte(text[end])) ++end;
             if (!TakeWord(pieces, text.substr(0, end))) return false;
             text.remove_prefix(end);
+        } else if (text.starts_with("??") && pieces.count > 0 && pieces.count < 3 &&
+                   text.find_first_of("0123456789") != std::string_view::npos) {
+            return false;  // a month in letters that cannot be read
         } else {
             const bool sign = signs.find(text.front()) != std::string_view::npos;
             if (!sign && passed.find(text.front()) == std::string_view::npos) return false;
@@ -212,6 +239,13 @@ std::optional<WrittenDate> DateReader::Numeric(const Pieces& pieces) {
     const auto& [first, second, third] = pieces.numbers;
     if (pieces.count == 1 && first.digits == 8) return EightDigits(pieces);
     if (pieces.count != 3) return std::nullopt;
+    if (first.digits == 3 && first.value >= 80 && second.digits <= 2 && third.digits <= 2) {
+        constexpr int republic = 1911;  // Taiwan counts years from then: "114/10/25"
+        return WrittenDate{.first = third.value,
+                           .second = second.value,
+                           .year = first.value + republic,
+                           .weekday = pieces.weekday};
+    }
     std::size_t years = 0;
     for (const auto& number : pieces.numbers) {
         if (number.digits == 3 || number.digits > 4) return std::nullopt;
@@ -242,7 +276,7 @@ std::optional<WrittenDate> DateReader::Numeric(const Pieces& pieces) {
 std::optional<WrittenDate> DateReader::Read(std::string_view text) const {
     if (text.size() < 6 || text.size() > 60) return std::nullopt;
     Pieces pieces;
-    if (!Cut(WithoutTime(text), pieces)) return std::nullopt;
+    if (!Cut(WithYearOfEra(WithoutTime(text)), pieces)) return std::nullopt;
     return pieces.month > 0 ? Named(pieces) : Numeric(pieces);
 }
 

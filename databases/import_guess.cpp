@@ -2,12 +2,14 @@
 #include "databases/import_guess.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "core/text.h"
 #include "databases/import_balls.h"
 #include "databases/import_draws.h"
 #include "databases/import_names.h"
+#include "databases/import_numbers.h"
 #include "databases/import_rows.h"
 
 namespace {
@@ -215,6 +217,35 @@ class Understanding {
         return table_.Cell(one, column) != table_.Cell(other, column);
     }
 
+    // A column that tells the draws of a date apart where the numbers of draws do not: its lowest
+    // is the same on all of these dates and stands there once, as in "sequence" 0, 1, 2.
+    bool CountsDraws(const ImportedDraws& all, std::size_t column) const {
+        constexpr std::size_t enough = 4;
+        std::map<Date, std::vector<int>> dates;
+        for (const ImportedDraw& draw : all.draws) {
+            dates[draw.date].push_back(PlainNumber(table_.Cell(draw.row, column)));
+        }
+        std::erase_if(dates, [](const auto& date) { return date.second.size() < 2; });
+        int first = -1;
+        for (const auto& [date, counts] : dates) {
+            const int lowest = *std::min_element(counts.begin(), counts.end());
+            if (lowest < 0 || lowest > 1 || (first >= 0 && lowest != first)) return false;
+            if (std::count(counts.begin(), counts.end(), lowest) != 1) return false;
+            first = lowest;
+        }
+        return dates.size() >= enough;
+    }
+
+    void FindCounter(const ImportedDraws& all) {
+        ImportMapping& mapping = proposal_.mapping;
+        for (std::size_t column = 0; column < mapping.columns.size(); ++column) {
+            if (mapping.columns[column] != ColumnRole::Nothing || !CountsDraws(all, column))
+                continue;
+            mapping.drawNumberColumn = static_cast<int>(column);
+            return;
+        }
+    }
+
     // Two draws on most dates are true ones.
     void SameDates() {
         ImportMapping& mapping = proposal_.mapping;
@@ -240,6 +271,7 @@ class Understanding {
             Note(ImportTopic::SameDate, false, "Most dates have several draws: all are taken.");
             return;
         }
+        if (apart == 0) FindCounter(all);
         Note(ImportTopic::SameDate, true,
              PlainDigits(static_cast<long long>(several)) +
                  (several == 1 ? " date has" : " dates have") +

@@ -137,6 +137,21 @@ int IndexOf(const std::vector<std::string>& words) {
     return 0;
 }
 
+// "1st", "2nd": the letters behind the number.
+bool IsEndingOfOrdinal(std::string_view word) {
+    return word == "st" || word == "nd" || word == "rd" || word == "th";
+}
+
+// A number in front of signs that cannot be read ("?"), in Japanese and Korean headings of prizes.
+bool IsRankOfPrizes(std::string_view text, const std::vector<std::string>& words) {
+    const bool digits = std::all_of(words.begin(), words.end(), [](const std::string& word) {
+        return IsDigitByte(word.front());
+    });
+    const std::size_t behind = text.find_first_not_of("0123456789 ");
+    return digits && IsDigitByte(text.front()) && behind != std::string_view::npos &&
+           text[behind] == '?';
+}
+
 // What the words of a heading can mean: any of them, all but numbers, and how many there are.
 struct Words {
     unsigned any = 0;
@@ -166,10 +181,11 @@ ColumnHeading ReadHeading(std::string_view text) {
     ColumnHeading heading;
     const std::vector<std::string> words = WordsOf(text);
     if (words.empty()) return heading;
+    if (IsRankOfPrizes(text, words)) return heading;
     heading.index = IndexOf(words);
     Words meanings{.any = 0, .all = ~0U, .alone = words.size() == 1};
     for (const std::string& word : words) {
-        if (IsDigitByte(word.front())) continue;
+        if (IsDigitByte(word.front()) || IsEndingOfOrdinal(word)) continue;
         const unsigned meaning = MeaningOf(word);
         meanings.any |= meaning;
         meanings.all &= meaning;
@@ -261,5 +277,10 @@ std::vector<std::string> HeadingTexts(const ImportTable& table, std::size_t row,
         texts.erase(texts.begin() + static_cast<std::ptrdiff_t>(i) + 1);
     }
     if (blanks && texts.size() != columns) return {};
+    // One heading over several numbers, without the empty ones behind it: nothing stands in line.
+    const bool overMany = std::any_of(texts.begin(), texts.end(), [](const std::string& text) {
+        return ReadHeading(text).kind == HeadingKind::Mains;
+    });
+    if (overMany && texts.size() + 3 <= columns) return {};
     return texts;
 }

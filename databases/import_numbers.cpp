@@ -31,6 +31,8 @@ int BallNumber(std::string_view cell) {
     constexpr std::string_view around = "()[]{}*";
     while (cell.size() > 1 && around.find(cell.front()) != std::string_view::npos)
         cell.remove_prefix(1);
+    // "3, 17, 22" cut at its blanks keeps the commas.
+    if (cell.size() > 1 && (cell.back() == ',' || cell.back() == ';')) cell.remove_suffix(1);
     while (cell.size() > 1 && around.find(cell.back()) != std::string_view::npos)
         cell.remove_suffix(1);
     if (cell.size() >= 3 && cell.ends_with(".0")) cell.remove_suffix(2);
@@ -42,7 +44,7 @@ int BallNumber(std::string_view cell) {
 }
 
 BallList ReadBallList(std::string_view cell) {
-    constexpr std::string_view between = " -,;/+|.:&()[]{}_*#\t'\"";
+    constexpr std::string_view between = " -,;/+|.:&()[]{}_*#\t'\"\xBA\xAA";
     constexpr std::size_t longestWord = 14;
     BallList list;
     for (std::size_t at = 0; at < cell.size();) {

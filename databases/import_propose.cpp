@@ -31,6 +31,7 @@ ImportSeparator BestSeparator(std::string_view text, const DateRules& dates) {
     constexpr auto all = std::to_array({HtmlCells, Tab, Semicolon, Bar, Comma, WideBlanks, Blanks});
     const bool page = IsHtml(text);
     const std::string excerpt = Excerpt(page ? LinesOfHtml(text) : std::string(text));
+    std::optional<ImportSeparator> dated;
     ImportSeparator best = Comma;
     std::size_t most = 0;
     for (const ImportSeparator separator : all) {
@@ -38,13 +39,19 @@ ImportSeparator BestSeparator(std::string_view text, const DateRules& dates) {
         const ImportTable table(separator == HtmlCells ? text : std::string_view(excerpt),
                                 separator);
         const ImportProposal proposal = ProposeImport(table, dates);
-        if (!proposal.refusal.empty()) continue;
+        if (!proposal.refusal.empty()) {
+            // What to say of a text without draws is best told where its dates are found.
+            if (!dated && !ColumnsOf(proposal.mapping, ColumnRole::Dated).empty()) {
+                dated = separator;
+            }
+            continue;
+        }
         const std::size_t draws = ReadDraws(table, proposal.mapping, dates).draws.size();
         if (draws * 20 <= most * 21) continue;
         most = draws;
         best = separator;
     }
-    return best;
+    return most > 0 ? best : dated.value_or(best);
 }
 
 }  // namespace
@@ -58,7 +65,11 @@ ImportProposal ProposeImport(std::string_view text, const DateRules& dates,
                            .guess = false,
                            .text = "Cells are separated by: " + SeparatorInWords(chosen) + "."});
     if (!IsHtml(text)) return proposal;
-    if (proposal.title.empty()) proposal.title = NameFromTitle(TitleOfHtml(text));
+    // Tables for the layout of a page stand before that of the draws; its title knows better.
+    if (proposal.mapping.product.empty()) {
+        const std::string title = NameFromTitle(TitleOfHtml(text));
+        if (!title.empty()) proposal.title = title;
+    }
     if (!proposal.refusal.empty()) {
         proposal.refusal =
             "This is a web page without any table of draws. Look for a results file to download "

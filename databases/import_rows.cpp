@@ -72,14 +72,24 @@ class DateSearch {
     void Try(const std::vector<std::size_t>& columns, bool told = false) {
         Candidate candidate{.columns = columns, .count = 0, .rank = RankOf(columns.front())};
         const bool together = columns.size() > 1;
+        std::size_t others = 0;
         for (const std::size_t row : sample_) {
             const auto empty = [&](std::size_t column) { return table_.Cell(row, column).empty(); };
             if (std::any_of(columns.begin(), columns.end(), empty)) continue;
             // A year in the middle may be that of the date beside a ball.
             if (columns.size() > 2 && !told && PlainNumber(table_.Cell(row, columns[1])) > 99)
                 continue;
-            if (IsDate(Joined(table_, row, columns), together)) ++candidate.count;
+            const auto digits = [&](std::size_t column) {
+                return IsDigitByte(table_.Cell(row, column).front());
+            };
+            if (IsDate(Joined(table_, row, columns), together)) {
+                ++candidate.count;
+            } else if (std::all_of(columns.begin(), columns.end(), digits)) {
+                ++others;
+            }
         }
+        // Nor are a year and two balls, of which most but not all could be a month and a day.
+        if (columns.size() > 2 && !told && others * 20 > candidate.count) return;
         const bool many = candidate.count * 10 > best_.count * 9;
         const bool better = many && (candidate.rank > best_.rank || best_.count == 0 ||
                                      best_.count * 10 <= candidate.count * 9);
