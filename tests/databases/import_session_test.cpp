@@ -10,10 +10,6 @@ namespace {
 
 class Session : public testing::Test {
   protected:
-    Session() {
-        dates_.today = Date(std::chrono::year(2026), std::chrono::March, std::chrono::day(1));
-    }
-
     void Open(const std::string& text, const ImportFormats& formats = {}) {
         session_.Open("results.csv", text, formats);
     }
@@ -25,7 +21,7 @@ class Session : public testing::Test {
         return formats;
     }
 
-    DateRules dates_;
+    DateRules dates_{.region = {}, .today = std::chrono::year(2026) / 3 / 1};
     MemoryFolder folder_;
     ImportSession session_{dates_};
 };
