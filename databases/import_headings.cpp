@@ -34,7 +34,8 @@ constexpr std::string_view ownDrumWords =
 constexpr std::string_view sameDrumWords =
     " bonus bonusball bn bb extra supplementary supplementaries supp supps suppl sup zusatzzahl zz "
     "zusatzzahlen zusatz complementario complementaria complement complementaire comp compl jolly "
-    "additional addl special particular reserve tillegg tilleggstall lisanumero kiegeszito ";
+    "additional addl special particular reserve tillegg tilleggstall tillaggstal lisanumero "
+    "lisanumerot kiegeszito comodin ";
 constexpr std::string_view manyWords =
     " numbers balls zahlen gewinnzahlen lottozahlen numeros bolas dezenas combinacion boules "
     "combination combinations combinaciones combinaison getallen tall results result winning "
@@ -225,9 +226,13 @@ std::vector<ColumnHeading> ReadHeadings(const std::vector<std::string>& texts) {
     const std::string* first = nullptr;
     for (ColumnHeading& heading : headings) {
         if (heading.kind == HeadingKind::Other || !counted(heading)) continue;
-        // A second set of balls is that of another draw.
+        // A second set of balls is that of another draw, or of several extra balls.
         if (first == nullptr) first = &heading.prefix;
-        heading.kind = heading.prefix == *first ? HeadingKind::Main : HeadingKind::Other;
+        if (heading.prefix == *first) {
+            heading.kind = HeadingKind::Main;
+        } else if (heading.kind != HeadingKind::Extra) {
+            heading.kind = HeadingKind::Other;
+        }
     }
     return headings;
 }

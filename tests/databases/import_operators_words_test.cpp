@@ -86,6 +86,20 @@ TEST(ImportOperatorsWords, ColonsBehindDatesAndCommasBehindNumbers) {
                 WithBonus());
 }
 
+TEST(ImportOperatorsWords, CountedHeadingsOfExtraBallsAreNoSecondDraw) {
+    const Draws draws = MakeDraws({.picks = 7, .highest = 35, .extras = 4}, 70);
+    std::string heading = "Dragning;Datum";
+    for (int i = 1; i <= 7; ++i) heading += ";Tal " + std::to_string(i);
+    for (int i = 1; i <= 4; ++i) heading += ";Tilläggstal " + std::to_string(i);
+    int number = 1000;
+    ExpectDraws(FileOf(draws, heading + "\n",
+                       [&](const MadeDraw& draw) {
+                           return std::to_string(--number) + ";" + DateBy("Y-M-D", draw.date) +
+                                  ";" + Joined(draw.numbers, ";") + ";" + Joined(draw.extras, ";");
+                       }),
+                draws);
+}
+
 TEST(ImportOperatorsWords, OrdinalsHeadBalls) {
     const Draws draws = MakeDraws({.picks = 6, .highest = 40, .extras = 1, .ascending = false}, 63);
     const Row row = [](const MadeDraw& draw) {
