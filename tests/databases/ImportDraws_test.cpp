@@ -142,7 +142,7 @@ TEST_F(ImportDrawsForm, SaysWhatToDoInsteadOfBadInputAndChangesNothing) {
         {"photo.png", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "icture"},
         {"paper.pdf", "%PDF-1.7\n%\xe2\xe3\xcf\xd3\n1 0 obj", "PDF"},
         {"table.xlsx",
-         std::string("PK\x03\x04\x14\0\x06\0\x08\0\0\0!\0", 16) +
+         std::string("PK\x03\x04\x14\0\x06\0\x08\0\0\0!\0", 14) +
              "[Content_Types].xml PK xl/workbook.xml",
          "CSV"},
         {"empty.csv", "", "nothing"},
