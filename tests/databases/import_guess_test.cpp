@@ -65,10 +65,9 @@ TEST(ImportGuess, TheSeventhOfManyNumbersIsABonusBall) {
 
 TEST(ImportGuess, WeeksSetsAndMultipliersAreNoBalls) {
     const Draws draws = MakeDraws({.picks = 6, .highest = 54, .draws = 150}, 7);
-    ExpectDraws(
-        BareTable(draws,
-                  [](const auto&, int place) { return "," + std::to_string(52 - place % 52); }),
-        draws);
+    ExpectDraws(BareTable(draws, [](const auto&,
+                                    int place) { return "," + std::to_string(52 - place % 52); }),
+                draws);
     ExpectDraws(
         BareTable(draws, [](const auto&,
                             int place) { return "," + std::to_string(place / 2 * 3 % 8 + 1); }),

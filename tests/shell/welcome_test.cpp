@@ -75,7 +75,8 @@ TEST_F(WelcomeOfWindow, OffersTheCheckOnceEntriesAreSaved) {
     AddUkLotto(program.folder);
     program.folder.Write(savedEntriesFile, savedEntry);
     Start();
-    EXPECT_EQ(Offered(), (Links{addDrawLink, importLink, generateLink, checkLink, storeLink, deskLink}));
+    EXPECT_EQ(Offered(),
+              (Links{addDrawLink, importLink, generateLink, checkLink, storeLink, deskLink}));
     InDialog([this] { Click(*window, checkLink); },
              [](QDialog& form) { EXPECT_EQ(form.objectName(), QStringLiteral("ShowMyDrawsW")); });
 }
