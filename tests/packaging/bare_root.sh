@@ -91,9 +91,10 @@ cp "$deb" "$root/tmp/first.deb"
 Install /tmp/first.deb
 files=$root/home/player/.local/share/quillon
 Play quillon
-for supplied in "$root"/usr/share/quillon/*; do
-    cmp -s "$supplied" "$files/$(basename "$supplied")" || Fail "$supplied was not supplied to the user"
-done
+while IFS= read -r supplied; do
+    cmp -s "$root/usr/share/quillon/$supplied" "$files/$supplied" ||
+        Fail "$supplied was not supplied to the user"
+done < <(cd "$root/usr/share/quillon" && find . -type f)
 printf ' ,,,,,,,,\r\na note of mine\r\n' >>"$files/Notes.txt"
 Play quillon save
 [[ $(wc -l <"$files/MyLottery.txt") -eq 5 ]] || Fail "the five lines of a lucky dip were not saved"
