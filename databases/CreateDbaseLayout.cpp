@@ -95,10 +95,8 @@ QLayout* CreateDbase::MakeNames() {
                        tr(" Start Internet Explorer and go to site "));
     connect(openWebSite, &QPushButton::clicked, this,
             [this] { services().openPage(address_->text()); });
-    connect(address_, &QLineEdit::textChanged, openWebSite,
-            [openWebSite, words = openWebSite->toolTip()](const QString& address) {
-                openWebSite->setToolTip(AddressTip(words, address));
-            });
+    connect(address_, &QLineEdit::textChanged, new AddressTip(openWebSite),
+            &AddressTip::SetAddress);
 
     auto* names = new QGridLayout;
     names->setVerticalSpacing(8);

@@ -99,15 +99,17 @@ QLayout* DbaseUpdateW::MakeActions() {
     auto* save = WithKeysOf(
         Command::Save, MakeButton(QStringLiteral("Command1"), tr(" Save lottery draw result ")));
     save->setDefault(true);
-    goToWebsite_ = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
-    goToWebsite_->setMinimumWidth(112);
+    auto* goToWebsite = MakeButton(QStringLiteral("Command2"), tr("Go to website"));
+    goToWebsite->setToolTip(tr(" Start Intenet Explorer "));
+    goToWebsite->setMinimumWidth(112);
+    website_ = new AddressTip(goToWebsite);
     auto* close = MakeButton(QStringLiteral("CancelButton"), tr(" Close "));
     SetCloseButton(close);
     connect(save, &QPushButton::clicked, this, [this] { Save(); });
-    connect(goToWebsite_, &QPushButton::clicked, this,
+    connect(goToWebsite, &QPushButton::clicked, this,
             [this] { services().openPage(ToQString(state().LotteryURL)); });
     connect(close, &QPushButton::clicked, this, [this] { Unload(); });
-    return BuildActionRow({save, goToWebsite_}, {close});
+    return BuildActionRow({save, goToWebsite}, {close});
 }
 
 void DbaseUpdateW::Load() {
@@ -131,8 +133,7 @@ void DbaseUpdateW::ChooseLottery() {
         boxes_[i]->clear();
         boxes_[i]->setVisible(newest.filled[i]);
     }
-    goToWebsite_->setToolTip(
-        AddressTip(tr(" Start Intenet Explorer "), ToQString(state().LotteryURL)));
+    website_->SetAddress(ToQString(state().LotteryURL));
     lastBoxTitle_->clear();
     if (state().HasBonus > 0) lastBoxTitle_->setText(tr("Bonus"));
     if (state().MaxPball > 0) lastBoxTitle_->setText(tr("Powerball"));

@@ -7,10 +7,10 @@
 #include "databases/DrawBoxes.h"
 #include "platform/forms/Form.h"
 
+class AddressTip;
 class DatePicker;
 class ListBox;
 class QLayout;
-class QPushButton;
 
 /// Takes one draw that the user types in and inserts it at the place of its date. It shows the
 /// newest draws and says when the lottery has a draw of the date already, which bars nothing.
@@ -44,5 +44,5 @@ class DbaseUpdateW final : public Form {
     QLabel* lastBoxTitle_;
     DrawBoxes boxes_;
     QLabel* newestDraws_;
-    QPushButton* goToWebsite_;
+    AddressTip* website_;
 };

@@ -45,7 +45,8 @@ void MainMenu::ShowLinks(const State& state) {
         entry->setVisible(!caption.isEmpty());
         // As it is kept: an "&" that is to be shown is doubled there already.
         if (!caption.isEmpty()) entry->setText(caption);
-        entry->setToolTip(AddressTip({}, ToQString(state.Settings(setting::LinkAddresses + i))));
+        entry->setToolTip(
+            TipWithAddress({}, ToQString(state.Settings(setting::LinkAddresses + i))));
     }
 }
 

@@ -332,10 +332,11 @@ TEST_F(UpdatingADatabase, TheButtonOfTheWebsiteShowsWhereItLeads) {
                        "28 May 05,1,2,3,4,5,6,0,7\r\n");
     Open();
     const auto* button = Find<QPushButton>(*form_, webSiteButton);
-    EXPECT_EQ(button->toolTip(), QStringLiteral(" Start Intenet Explorer "));
+    EXPECT_EQ(button->accessibleDescription(), QStringLiteral("Start Intenet Explorer"));
     Find<ListBox>(*form_, "List1")->SetIndex(1);
-    EXPECT_EQ(button->toolTip(),
-              QStringLiteral(" Start Intenet Explorer \nhttp://www.lotto.example"));
+    EXPECT_EQ(button->accessibleDescription(),
+              QStringLiteral("Start Intenet Explorer http://www.lotto.example"));
+    EXPECT_EQ(button->toolTip(), QStringLiteral(" Start Intenet Explorer "));
 }
 
 TEST_F(UpdatingADatabase, CloseAsksNothing) {
