@@ -87,6 +87,7 @@ void ShowMyDrawsW::GoToFirstCell() {
 
 void ShowMyDrawsW::ToggleButtons() {
     for (QPushButton* command : commands_) command->setEnabled(!command->isEnabled());
+    takeBack_->SetEnabled(commands_.front()->isEnabled());
 }
 
 void ShowMyDrawsW::RememberEntries(const QString& command) {
@@ -237,6 +238,7 @@ void ShowMyDrawsW::Save() {
     if (ChangedOutside(program(), this, shown_, records)) {
         entryTable_.Fill({});
         ReadEntries();
+        takeBack_->Forget();
         MarkChanged();
         return entriesChanged_.Clear();
     }

@@ -136,7 +136,8 @@ void StoreMyDrawsW::Offer(QPushButton& command, bool possible) {
 
 void StoreMyDrawsW::RememberEntries(const QString& command) {
     std::vector<QStringList> before;
-    for (int row = 1; row < parkingRow; ++row) {
+    // The parking row too: the 99th entry stands there.
+    for (int row = 1; row <= parkingRow; ++row) {
         QStringList& cells = before.emplace_back();
         for (int column = 0; column <= entry_column::last; ++column) {
             cells << grid_->Cell(row, column);

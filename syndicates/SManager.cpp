@@ -44,6 +44,7 @@ void SManager::Load() {
                                                     .status = {}});
     boxes_->Show(DetailsOf(view()));
     dirty_.Clear();
+    detailsTyped_ = false;
     date_->SetValue(services().today());
     ShowDiary();
     editor_->GoTo(1, 1);
@@ -93,6 +94,7 @@ void SManager::RememberDiary(const QString& command) {
                     grid_->SetCellColour(each, at, *colour++);
             }
             dirty_ = changed;
+            if (detailsTyped_) dirty_.Set();
             editor_->GoTo(row, column);
             AddUp();
             return true;
@@ -234,6 +236,7 @@ void SManager::Save() {
 }
 
 void SManager::ReadDiaryAnew() {
+    takeBack_->Forget();
     diary_->Fill({});
     ShowRows(1, lastRecord);
     ShowDiary();

@@ -69,6 +69,7 @@ class SManager final : public Form {
 
     ShownFile shown_;
     Dirty dirty_;
+    bool detailsTyped_ = false;  // which taking back a command of the diary does not undo
     std::unique_ptr<DiaryTable> diary_ = std::make_unique<DiaryTable>("diary");
 
     SyndicateBoxes* boxes_;

@@ -35,7 +35,10 @@ SManager::SManager(Program& program, QWidget* parent)
                            "can keep track of the tickets bought, their cost and any winnings "
                            "below.")),
                BuildBody(), BuildActions());
-    connect(boxes_, &SyndicateBoxes::changed, this, [this] { dirty_.Set(); });
+    connect(boxes_, &SyndicateBoxes::changed, this, [this] {
+        dirty_.Set();
+        detailsTyped_ = true;
+    });
     TabInReadingOrder();
     takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 740});

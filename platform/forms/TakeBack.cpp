@@ -8,9 +8,9 @@
 
 #include "platform/forms/Form.h"
 
-TakeBack::TakeBack(Form& form) : QObject(&form), form_(form) {
-    auto* keys = new QShortcut(QKeySequence::Undo, &form);
-    connect(keys, &QShortcut::activated, this, &TakeBack::Last);
+TakeBack::TakeBack(Form& form)
+    : QObject(&form), form_(form), keys_(new QShortcut(QKeySequence::Undo, &form)) {
+    connect(keys_, &QShortcut::activated, this, &TakeBack::Last);
     for (QLineEdit* box : form.findChildren<QLineEdit*>()) box->installEventFilter(this);
 }
 
@@ -19,6 +19,8 @@ void TakeBack::Remember(const QString& command, std::function<bool()> undo) {
     if (commands_.size() == most) commands_.erase(commands_.begin());
     commands_.push_back({command, std::move(undo)});
 }
+
+void TakeBack::SetEnabled(bool enabled) { keys_->setEnabled(enabled); }
 
 void TakeBack::Last() {
     if (commands_.empty()) return form_.Say(tr("There is nothing to take back"));

@@ -7,6 +7,7 @@
 #include <vector>
 
 class Form;
+class QShortcut;
 
 /// Ctrl+Z in a form with a grid: takes back its commands, the last one first, until they are saved
 /// or the form is closed.
@@ -23,6 +24,9 @@ class TakeBack final : public QObject {
     /// in the quiet line what was taken back: "row deleted". Of more than twenty commands the
     /// oldest are forgotten.
     void Remember(const QString& command, std::function<bool()> undo);
+
+    /// While another command is under way, the keys do nothing.
+    void SetEnabled(bool enabled);
 
     /// The last command did not happen after all.
     void Drop() { commands_.pop_back(); }
@@ -42,5 +46,6 @@ class TakeBack final : public QObject {
     void Last();
 
     Form& form_;
+    QShortcut* keys_;
     std::vector<Command> commands_;
 };

@@ -965,6 +965,21 @@ TEST_F(ShowingEntries, TheCommandsRestWhileTheCheckRuns) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(ShowingEntries, NothingIsTakenBackUnderARunningCheck) {
+    Open();
+    Enter(1, 1, "5");
+    bool pressed = false;
+    QTimer::singleShot(0, form_.get(), [&] {
+        pressed = true;
+        QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("5"));
+    });
+    Find<QPushButton>(*form_, checkButton)->click();
+    EXPECT_TRUE(pressed);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("3"));
+}
+
 TEST_F(ShowingEntries, PrintingLeadsBackToTheFirstNumber) {
     const Grid* printed = nullptr;
     test_.services.printEntries = [&](Form* form, Grid& entries) {
@@ -1142,6 +1157,9 @@ TEST_F(ShowingEntries, ThatWereChangedOutsideAreReadAnewAndWhatWasTypedIsKept) {
     EXPECT_EQ(Players(), "Zoe ");
     ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
     EXPECT_TRUE(test_.folder.OldFiles().begin()->second.starts_with("28-May-2005,33,17,"));
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Said(), QStringLiteral("There is nothing to take back"));
+    EXPECT_EQ(Players(), "Zoe ");
     Run(saveButton);
     EXPECT_EQ(File(), outside);
     ExpectNoChanges();

@@ -553,6 +553,15 @@ TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
     EXPECT_TRUE(TakeFailure());
 }
 
+TEST_F(StoringEntries, CtrlZTakesBackTheEntryInTheParkingRow) {
+    Open();
+    QApplication::processEvents();  // The window becomes the active one.
+    for (int entry = 1; entry <= 99; ++entry) Add({1, 2, 3, 4, 5, 6});
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(99), ",,,,,,,,,,,");
+    EXPECT_EQ(Entries().Cell(98, 1), QStringLiteral("1"));
+}
+
 TEST_F(StoringEntries, RowsMoveDownAsFarAsRow98) {
     Open();
     for (int entry = 1; entry <= 99; ++entry) {

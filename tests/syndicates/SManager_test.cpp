@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "syndicates/SManager.h"
 
+#include "platform/forms/Dirty.h"
 #include "syndicates/TotalBox.h"
 #include "tests/syndicates/syndicate_form.h"
 
@@ -128,6 +129,18 @@ TEST_F(Managing, CtrlZTakesBackCellsRowsAndTheirColours) {
     // Nothing is unsaved any more, so closing asks nothing.
     Run(closeButton);
     EXPECT_FALSE(form_->isVisible());
+}
+
+TEST_F(Managing, CtrlZInTheDiaryKeepsTheWarningOfTypedDetails) {
+    OpenWith(twoRecords);
+    Enter(2, 5, "mine");
+    Box("Text1(0)").setText(QStringLiteral("Zoe"));
+    ClickCell(1, 1);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_NE(Cell(2, 5), "mine");
+    test_.messages.Expect(UnsavedWarning(), Answer::Cancel);
+    Run(closeButton);
+    EXPECT_TRUE(form_->isVisible());
 }
 
 TEST_F(Managing, WhatWasRefusedIsNothingToTakeBack) {
@@ -638,6 +651,8 @@ TEST_F(Managing, ADiaryThatWasChangedOutsideIsReadAnewAndTheOneShownIsKept) {
     EXPECT_EQ(Cell(1, 5), "theirs");
     EXPECT_EQ(Cell(2, 5), "");
     EXPECT_EQ(Row(0), "Date|Tickets|Cost|Won|Balance|Notes");
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Cell(1, 5), "theirs");
     EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("mine"), std::string::npos);
     Save();
 }
