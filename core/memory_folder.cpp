@@ -5,6 +5,7 @@
 
 #include "core/failure.h"
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/text.h"
 
 namespace {
@@ -52,7 +53,7 @@ void MemoryFolder::Append(std::string_view name, std::string_view records) try {
     Count(name);
     Store(name, Appended(Exists(name) ? Stored(name).bytes : std::string(), records));
 } catch (const Failure& failure) {
-    throw AfterRescue(*this, name, records, failure);
+    throw AfterRescue(*this, NewLinesOf(name), records, failure);
 }
 
 std::vector<std::string> MemoryFolder::Find(std::string_view pattern) const {

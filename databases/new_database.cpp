@@ -2,13 +2,12 @@
 #include "databases/new_database.h"
 
 #include "core/field_reader.h"
+#include "core/saving.h"
 #include "databases/draw_records.h"
 
-std::string FirstFreeDatabase(const ProgramFolder& folder) {
-    for (int number = 1;; ++number) {
-        const std::string name = "dbase" + std::to_string(number) + ".txt";
-        if (!folder.Exists(name)) return name;
-    }
+std::string CreateDatabaseFile(ProgramFolder& folder, std::string_view bytes) {
+    const auto name = [](int number) { return "dbase" + std::to_string(number) + ".txt"; };
+    return CreateNumbered(folder, 1, name, bytes);
 }
 
 std::string CreateDatabase(ProgramFolder& folder, const NewLottery& lottery) {
@@ -17,15 +16,7 @@ std::string CreateDatabase(ProgramFolder& folder, const NewLottery& lottery) {
     bytes += lottery.picks + "," + lottery.highest + ",1," + lottery.highestExtra + "," +
              (lottery.hasBonus ? "1" : "0") + "\r\n";
     bytes += MakeDrawRecord(lottery.firstDraw, lottery.numbers).text + "\r\n";
-    for (;;) {
-        const std::string file = FirstFreeDatabase(folder);
-        try {
-            // Another program may have taken the name meanwhile; then the next one is free.
-            if (folder.Create(file, bytes)) return file;
-        } catch (const Failure& failure) {
-            throw AfterRescue(folder, file, bytes, failure);
-        }
-    }
+    return CreateDatabaseFile(folder, bytes);
 }
 
 std::vector<std::string> LotteryNames(const ProgramFolder& folder) {

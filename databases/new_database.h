@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/date.h"
@@ -20,8 +21,9 @@ struct NewLottery {
     std::array<std::string, 8> numbers;  ///< The first draw; the last is the bonus or extra ball.
 };
 
-/// The first of `dbase1.txt`, `dbase2.txt` and so on that no file is named.
-std::string FirstFreeDatabase(const ProgramFolder& folder);
+/// Makes a new draw database of these bytes, the first of `dbase1.txt`, `dbase2.txt` and so on that
+/// is free, and gives the file's name.
+std::string CreateDatabaseFile(ProgramFolder& folder, std::string_view bytes);
 
 /// Writes the lottery and its first draw to a new draw database and returns the file's name.
 std::string CreateDatabase(ProgramFolder& folder, const NewLottery& lottery);

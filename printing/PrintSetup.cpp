@@ -187,13 +187,13 @@ void PrintSetup::Save() {
     Generate();
     const SlipTemplate slip = EnteredTemplate();
     const int known = TemplateNamed(Trim(slip.name));
-    const std::string file =
-        known < 0 ? FirstFreeSlipTemplate(folder()) : FromQString(files_->item(known)->text());
-    WriteSlipTemplate(folder(), file, slip);
     if (known < 0) {
+        const std::string file = CreateSlipTemplate(folder(), slip);
         templates_->addItem(ToQString(Trim(slip.name)));
         files_->addItem(ToQString(file));
         templates_->SetIndex(templates_->count() - 1);
+    } else {
+        WriteSlipTemplate(folder(), FromQString(files_->item(known)->text()), slip);
     }
     services().messages.Show(this,
                              {.title = tr("Lottery Quillon"), .text = tr("Template saved...    ")});

@@ -4,6 +4,7 @@
 #include "core/failure.h"
 #include "core/field_reader.h"
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/text.h"
 
 namespace {
@@ -62,6 +63,22 @@ Orientation ReadOrientation(FieldReader& reader) {
     const int orientation = LeadingWhole(field);
     if (orientation != 0 && orientation != 1) throw reader.Unexpected(expected, field);
     return orientation == 0 ? Orientation::Portrait : Orientation::Landscape;
+}
+
+std::string SlipTemplateText(const SlipTemplate& slip) {
+    const bool landscape = slip.orientation == Orientation::Landscape;
+    std::string bytes =
+        slip.name + "\r\n" + slip.lottery + "\r\n" + (landscape ? " 1 " : " 0 ") + "\r\n";
+    // Kept on purpose: a comma in a measurement is written too, and shifts what follows it.
+    for (std::size_t i = 0; i < slip.measures.size(); i += 2) {
+        bytes += slip.measures[i] + "," + slip.measures[i + 1] + "\r\n";
+    }
+    for (int number = 1; number <= highestOnSlip; ++number) {
+        for (int column = 0; column < positionColumns; ++column) {
+            bytes += slip.positions(number, column) + (column < extraY ? "," : "\r\n");
+        }
+    }
+    return bytes;
 }
 
 }  // namespace
@@ -131,26 +148,10 @@ SlipTemplate ReadSlipTemplate(const ProgramFolder& folder, const std::string& fi
 }
 
 void WriteSlipTemplate(ProgramFolder& folder, const std::string& file, const SlipTemplate& slip) {
-    const bool landscape = slip.orientation == Orientation::Landscape;
-    std::string bytes =
-        slip.name + "\r\n" + slip.lottery + "\r\n" + (landscape ? " 1 " : " 0 ") + "\r\n";
-    // Kept on purpose: a comma in a measurement is written too, and shifts what follows it.
-    for (std::size_t i = 0; i < slip.measures.size(); i += 2) {
-        bytes += slip.measures[i] + "," + slip.measures[i + 1] + "\r\n";
-    }
-    for (int number = 1; number <= highestOnSlip; ++number) {
-        for (int column = 0; column < positionColumns; ++column) {
-            bytes += slip.positions(number, column) + (column < extraY ? "," : "\r\n");
-        }
-    }
-    WriteKeepingOld(folder, file, bytes);
+    WriteKeepingOld(folder, file, SlipTemplateText(slip));
 }
 
-std::string FirstFreeSlipTemplate(const ProgramFolder& folder) {
-    for (int number = 0;; ++number) {
-        std::string digits = std::to_string(number);
-        if (digits.size() < 3) digits.insert(0, 3 - digits.size(), '0');
-        const std::string file = "PTemplate." + digits;
-        if (!folder.Exists(file)) return file;
-    }
+std::string CreateSlipTemplate(ProgramFolder& folder, const SlipTemplate& slip) {
+    const auto name = [](int number) { return NumberedName("PTemplate", number); };
+    return CreateNumbered(folder, 0, name, SlipTemplateText(slip));
 }

@@ -85,8 +85,9 @@ SlipTemplate ReadSlipTemplate(const ProgramFolder& folder, const std::string& fi
 /// Writes a template to that file.
 void WriteSlipTemplate(ProgramFolder& folder, const std::string& file, const SlipTemplate& slip);
 
-/// The first of `PTemplate.000`, `PTemplate.001` and so on that no file is named.
-std::string FirstFreeSlipTemplate(const ProgramFolder& folder);
+/// Writes a template to a new file, the first of `PTemplate.000`, `PTemplate.001` and so on that is
+/// free, and gives its name.
+std::string CreateSlipTemplate(ProgramFolder& folder, const SlipTemplate& slip);
 
 /// Whether all of a measurement counts: a number with nothing behind it that would be passed over.
 bool ReadsWhole(std::string_view measure);

@@ -12,6 +12,7 @@
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/Widgets.h"
 #include "syndicates/SyndicateBoxes.h"
+#include "syndicates/SyndicateReadAnew.h"
 
 NewSyndicate::NewSyndicate(Program& program, QWidget* parent)
     : Form(program, QStringLiteral("NewSyndicate"), tr("Create syndicate"), parent),
@@ -58,6 +59,8 @@ void NewSyndicate::Save() {
                                                        "a manager and a syndicate name...    ")));
         return;
     }
+    // What is open is saved with the new one, unless somebody else has changed its file.
+    if (SyndicateReadAnew(program(), this)) return;
     StartSyndicate(state(), folder(), details);
     services().messages.Show(this,
                              {.title = tr("New syndicate"),

@@ -5,6 +5,7 @@
 
 #include "core/field_reader.h"
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/settings.h"
 #include "core/text.h"
 
@@ -46,22 +47,16 @@ void PutDetails(State& state, const SyndicateDetails& details) {
     for (const std::string& text : details.manager) state.Members(0, column++) = text;
 }
 
-std::string FreeSyndicateFile(const ProgramFolder& folder) {
-    constexpr std::size_t digits = 3;
-    for (int number = 0;; ++number) {
-        std::string text = std::to_string(number);
-        if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-        const std::string file = "SMembers." + text;
-        if (!folder.Exists(file)) return file;
-    }
-}
-
 void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails& trimmed) {
-    SaveSyndicate(state, folder);
-    state.Settings(setting::SyndicateFile) = FreeSyndicateFile(folder);
-    state.Members.Fill({});
-    PutDetails(state, trimmed);
-    SaveSyndicate(state, folder);
+    const auto create = [&] {
+        state.Members.Fill({});
+        PutDetails(state, trimmed);
+        state.MembersOnDisk = SyndicateText(state);
+        const auto name = [](int number) { return NumberedName("SMembers", number); };
+        state.Settings(setting::SyndicateFile) =
+            CreateNumbered(folder, 0, name, state.MembersOnDisk);
+    };
+    SaveAll({[&] { SaveSyndicate(state, folder); }, create});
 }
 
 std::vector<ListedSyndicate> ListSyndicates(const ProgramFolder& folder) {

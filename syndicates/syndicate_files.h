@@ -26,11 +26,9 @@ bool HasNames(const SyndicateDetails& trimmed);
 SyndicateDetails DetailsOf(const State& state);
 void PutDetails(State& state, const SyndicateDetails& details);
 
-/// The first name from "SMembers.000" on for which there is no file.
-std::string FreeSyndicateFile(const ProgramFolder& folder);
-
-/// Saves the syndicate that is open, makes one with these details and opens it. What stands in the
-/// members without being saved goes into the file of the old one.
+/// Saves the syndicate that is open, makes one with these details and opens it, its file being the
+/// first from `SMembers.000` on that is free. What stands in the members without being saved goes
+/// into the file of the old one.
 void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails& trimmed);
 
 struct ListedSyndicate {

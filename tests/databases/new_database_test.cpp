@@ -7,6 +7,7 @@
 #include "core/failure.h"
 #include "core/memory_folder.h"
 #include "tests/core/failures.h"
+#include "tests/core/taken_names.h"
 
 namespace {
 
@@ -21,21 +22,26 @@ NewLottery SixOfFortyNine() {
             .numbers = {"1", "2", "13", "24", "35", "49", "", "7"}};
 }
 
-TEST(FirstFreeDatabase, IsNumberOneInAnEmptyFolder) {
-    EXPECT_EQ(FirstFreeDatabase(MemoryFolder()), "dbase1.txt");
-}
-
-TEST(FirstFreeDatabase, FillsTheGapThatADeletedOneLeft) {
+TEST(CreateDatabaseFile, FillsTheGapThatADeletedOneLeft) {
     MemoryFolder folder;
     folder.Write("dbase1.txt", "");
     folder.Write("dbase3.txt", "");
-    EXPECT_EQ(FirstFreeDatabase(folder), "dbase2.txt");
+    EXPECT_EQ(CreateDatabaseFile(folder, "new"), "dbase2.txt");
+    EXPECT_EQ(folder.Read("dbase2.txt"), "new");
 }
 
-TEST(FirstFreeDatabase, TakesNamesInCapitalsForTheSame) {
+TEST(CreateDatabaseFile, TakesNamesInCapitalsForTheSame) {
     MemoryFolder folder;
     folder.Write("DBASE1.TXT", "");
-    EXPECT_EQ(FirstFreeDatabase(folder), "dbase2.txt");
+    EXPECT_EQ(CreateDatabaseFile(folder, "new"), "dbase2.txt");
+    EXPECT_EQ(folder.Read("DBASE1.TXT"), "");
+}
+
+TEST(CreateDatabaseFile, LeavesOneThatSomebodyElseMakesMeanwhile) {
+    MemoryFolder folder;
+    TakenNames taken(folder, {"dbase1.txt"});
+    EXPECT_EQ(CreateDatabaseFile(taken, "new"), "dbase2.txt");
+    EXPECT_EQ(folder.Read("dbase1.txt"), theirs);
 }
 
 TEST(CreateDatabase, WritesTheLotteryAndItsFirstDraw) {

@@ -216,9 +216,9 @@ TEST_F(DeletingADatabase, ADoubleClickAsksTheSameQuestion) {
 
 TEST_F(DeletingADatabase, FreesItsNumberForTheNextNewOne) {
     test_.folder.Write("dbase1.txt", "First\r\n\r\n6,49,0,0,0\r\n");
-    EXPECT_EQ(FirstFreeDatabase(test_.folder), "dbase2.txt");
+    EXPECT_EQ(CreateDatabaseFile(test_.folder, "Second\r\n"), "dbase2.txt");
     test_.folder.Delete("dbase1.txt");
-    EXPECT_EQ(FirstFreeDatabase(test_.folder), "dbase1.txt");
+    EXPECT_EQ(CreateDatabaseFile(test_.folder, "Third\r\n"), "dbase1.txt");
 }
 
 TEST_F(DeletingADatabase, AFileThatCannotBeDeletedEndsTheRunAndStays) {

@@ -8,6 +8,7 @@
 
 #include "core/memory_folder.h"
 #include "tests/core/failures.h"
+#include "tests/core/taken_names.h"
 #include "tests/printing/slips.h"
 
 namespace {
@@ -264,22 +265,22 @@ TEST(SlipTemplateFiles, WithoutAFirstLineEndTheRun) {
               "PTemplate.000, line 1: expected the name of the template, but the file ends there.");
 }
 
-TEST(FirstFreeSlipTemplate, FillsTheGapThatADeletedOneLeft) {
+TEST(CreateSlipTemplate, FillsTheGapThatADeletedOneLeft) {
     MemoryFolder folder;
-    EXPECT_EQ(FirstFreeSlipTemplate(folder), "PTemplate.000");
-    for (const char* file : {"PTemplate.000", "ptemplate.001", "PTemplate.003", "PTemplate.bak"}) {
+    EXPECT_EQ(CreateSlipTemplate(folder, {}), "PTemplate.000");
+    for (const char* file : {"ptemplate.001", "PTemplate.003", "PTemplate.bak"}) {
         folder.Write(file, "Slip\r\n");
     }
-    EXPECT_EQ(FirstFreeSlipTemplate(folder), "PTemplate.002");
+    EXPECT_EQ(CreateSlipTemplate(folder, {}), "PTemplate.002");
+    EXPECT_EQ(folder.Read("PTemplate.002"), folder.Read("PTemplate.000"));
+    EXPECT_EQ(folder.Read("ptemplate.001"), "Slip\r\n");
 }
 
-TEST(FirstFreeSlipTemplate, GoesOnWithFourDigits) {
+TEST(CreateSlipTemplate, LeavesOneThatSomebodyElseMakesMeanwhile) {
     MemoryFolder folder;
-    for (int number = 0; number < 1000; ++number) {
-        folder.Write(FirstFreeSlipTemplate(folder), "Slip\r\n");
-    }
-    EXPECT_TRUE(folder.Exists("PTemplate.099"));
-    EXPECT_EQ(FirstFreeSlipTemplate(folder), "PTemplate.1000");
+    TakenNames taken(folder, {"PTemplate.000"});
+    EXPECT_EQ(CreateSlipTemplate(taken, {}), "PTemplate.001");
+    EXPECT_EQ(folder.Read("PTemplate.000"), theirs);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "core/memory_folder.h"
 #include "core/settings.h"
 #include "tests/core/failures.h"
+#include "tests/core/taken_names.h"
 
 namespace {
 
@@ -42,7 +43,37 @@ TEST_F(Syndicates, AreNumberedFromNought) {
 TEST_F(Syndicates, TakeTheFirstFreeNumber) {
     folder_.Write("SMembers.000", "");
     folder_.Write("SMembers.002", "");
-    EXPECT_EQ(FreeSyndicateFile(folder_), "SMembers.001");
+    Start("Winners");
+    EXPECT_EQ(File(), "SMembers.001");
+    EXPECT_EQ(folder_.Read("SMembers.000"), "");
+}
+
+TEST_F(Syndicates, LeaveAFileThatSomebodyElseMakesMeanwhile) {
+    TakenNames taken(folder_, {"SMembers.000"});
+    StartSyndicate(state_, taken, Details("Winners", "Ann"));
+    EXPECT_EQ(File(), "SMembers.001");
+    EXPECT_EQ(folder_.Read("SMembers.000"), theirs);
+    EXPECT_EQ(folder_.Read("SMembers.001"), state_.MembersOnDisk);
+}
+
+TEST_F(Syndicates, AreMadeThoughTheOneThatWasOpenCannotBeSaved) {
+    folder_.OfferRescue();
+    Start("Winners");
+    state_.Members(1, 0) = "Bob";
+    folder_.Lock("SMembers.000");
+    const std::string failure = FailureOf([&] { Start("Club"); });
+    EXPECT_NE(failure.find("elsewhere/SMembers.000"), std::string::npos) << failure;
+    EXPECT_NE(folder_.Rescued().at("SMembers.000").find("\"Bob\""), std::string::npos);
+    EXPECT_NE(folder_.Read("SMembers.001").find("\"Club\""), std::string::npos);
+}
+
+TEST_F(Syndicates, ThatCannotBeMadeAreRescued) {
+    folder_.OfferRescue();
+    Start("Winners");
+    folder_.FailAfterBytes(0);
+    const std::string failure = FailureOf([&] { Start("Club"); });
+    EXPECT_NE(failure.find("elsewhere/SMembers.001"), std::string::npos) << failure;
+    EXPECT_NE(folder_.Rescued().at("SMembers.001").find("\"Club\""), std::string::npos);
 }
 
 TEST_F(Syndicates, GoOnWithNumber100AndAreThenNotListed) {

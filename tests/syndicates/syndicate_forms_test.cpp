@@ -102,6 +102,26 @@ TEST_F(MakingASyndicate, AsksForTwoNamesBeforeItSavesTheOldOne) {
     EXPECT_EQ(test_.folder.Snapshot(), before);
 }
 
+TEST_F(MakingASyndicate, ReadsTheOldOneAnewWhereItWasChangedOutsideAndMakesTheNewOneThen) {
+    test_.state.Members(1, 0) = "Bob";
+    Open();
+    std::string outside = test_.folder.Read("SMembers.000");
+    outside.replace(outside.find("Ann"), 3, "Ben");
+    test_.folder.Write("SMembers.000", outside);
+    Box("Text1(7)").setText(QStringLiteral("Club"));
+    Box("Text1(0)").setText(QStringLiteral("Eve"));
+    test_.messages.Expect(ChangedOutsideMessage("SMembers.000"));
+    Run("Command1");
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), outside);
+    EXPECT_FALSE(test_.folder.Exists("SMembers.001"));
+    EXPECT_NE(test_.folder.OldFiles().rbegin()->second.find("\"Bob\""), std::string::npos);
+    test_.messages.Expect(created);
+    Run("Command1");
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), outside);
+    EXPECT_EQ(Member(0, 10), "Club");
+}
+
 TEST_F(MakingASyndicate, SavesTheOldOneAndOpensTheNew) {
     test_.state.Members(1, 0) = "Bob";
     Open();
