@@ -9,6 +9,7 @@
 #include "core/draw_database.h"
 #include "core/old_files.h"
 #include "core/saved_entries.h"
+#include "core/saving.h"
 #include "core/settings.h"
 #include "core/syndicate.h"
 #include "databases/ImportDraws.h"
@@ -248,8 +249,7 @@ void Quillon::dropEvent(QDropEvent* event) {
 }
 
 void Quillon::closeEvent(QCloseEvent* event) {
-    SaveNotes();
-    SaveSettings(program_.state, program_.folder);
+    SaveAll({[this] { SaveNotes(); }, [this] { SaveSettings(program_.state, program_.folder); }});
     event->accept();
     Q_EMIT ended();
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/settings.h"
 #include "core/text.h"
 #include "platform/forms/GridEditor.h"
@@ -230,8 +231,8 @@ void SManager::Save() {
     if (ChangedOutside(program(), this, shown_, DiaryText(*diary_))) return ReadDiaryAnew();
     PutDetails(state(), details);
     if (SyndicateReadAnew(program(), this)) return boxes_->Show(DetailsOf(view()));
-    SaveSyndicate(state(), folder());
-    WriteKeepingOld(folder(), DiaryFile(), DiaryText(*diary_));
+    SaveAll({[this] { SaveSyndicate(state(), folder()); },
+             [this] { WriteKeepingOld(folder(), DiaryFile(), DiaryText(*diary_)); }});
     Unload();
 }
 

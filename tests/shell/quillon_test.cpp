@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QAbstractButton>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QScreen>
 #include <QTemporaryDir>
 
@@ -375,14 +376,33 @@ TEST_F(QuillonForm, WhatAFormChangedInTheSettingsReachesTheDiskAtQuit) {
     EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
 }
 
-TEST_F(QuillonForm, NotesThatCannotBeWrittenFailTheEndAndChangeNothing) {
+TEST_F(QuillonForm, NotesAndSettingsThatCannotBeWrittenFailTheEndAndAreBothRescued) {
     Start();
+    program.state.Settings(setting::PlayerName) = "Ann";
+    Find<QPlainTextEdit>(*window, notePad)->setPlainText(QStringLiteral("typed"));
     const auto before = program.folder.Snapshot();
+    program.folder.OfferRescue();
     program.folder.FailAfterBytes(3);
     window->close();
-    EXPECT_TRUE(TakeFailure().has_value());
+    const std::string failure = TakeFailure().value_or("");
     EXPECT_EQ(timesEnded, 0);
     EXPECT_EQ(program.folder.Snapshot(), before);
+    for (const char* file : {"Notes.txt", "quillon.ini"}) {
+        EXPECT_NE(failure.find(std::string("is kept in elsewhere/") + file), std::string::npos)
+            << failure;
+    }
+    EXPECT_TRUE(program.folder.Rescued().at("Notes.txt").ends_with("typed"));
+    EXPECT_NE(program.folder.Rescued().at("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
+}
+
+TEST_F(QuillonForm, NotesThatCannotBeWrittenLetTheSettingsBeSaved) {
+    Start();
+    program.state.Settings(setting::PlayerName) = "Ann";
+    program.folder.MakeFolder("Notes.txt");
+    window->close();
+    EXPECT_NE(TakeFailure().value_or("").find("Notes.txt"), std::string::npos);
+    EXPECT_EQ(timesEnded, 0);
+    EXPECT_NE(program.folder.Read("quillon.ini").find("\r\nAnn\r\n"), std::string::npos);
 }
 
 TEST_F(QuillonForm, SettingsThatCannotBeWrittenFailTheEndAfterTheNotes) {

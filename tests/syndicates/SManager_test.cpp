@@ -657,6 +657,20 @@ TEST_F(Managing, ADiaryThatWasChangedOutsideIsReadAnewAndTheOneShownIsKept) {
     Save();
 }
 
+TEST_F(Managing, DetailsAndDiaryAreBothRescuedWhereNeitherCanBeSaved) {
+    OpenWith(twoRecords);
+    test_.folder.OfferRescue();
+    Enter(1, 5, "mine");
+    Box("Text1(0)").setText(QStringLiteral("Zoe"));
+    test_.folder.FailAfterBytes(0);
+    Run(saveButton);
+    const std::string failure = TakeFailure().value_or("");
+    EXPECT_NE(failure.find("kept in elsewhere/SMembers.000"), std::string::npos) << failure;
+    EXPECT_NE(failure.find("kept in elsewhere/Diary.000"), std::string::npos) << failure;
+    EXPECT_NE(test_.folder.Rescued().at("SMembers.000").find("Zoe"), std::string::npos);
+    EXPECT_NE(test_.folder.Rescued().at("Diary.000").find("mine"), std::string::npos);
+}
+
 TEST_F(Managing, DetailsThatWereChangedOutsideAreReadAnewAndTheDiaryShownStays) {
     OpenWith(twoRecords);
     Enter(1, 5, "mine");
