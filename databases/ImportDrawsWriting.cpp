@@ -103,19 +103,19 @@ QString ImportDraws::MakeLotteries() {
 std::string ImportDraws::CreateDatabase(const PlannedLottery& lottery) {
     // A lottery's second line is where its results are, as far as that is known.
     const std::string address = session_.FormatInto({}).IsAddress() ? session_.Source() : "";
-    const std::string bytes =
-        NewImportDatabase(lottery.name, address, lottery.rules, lottery.draws, services().today());
-    // Another program may take the name meanwhile; its file stays as it is.
-    std::string file = FirstFreeDatabase(folder());
-    while (!folder().Create(file, bytes)) file = FirstFreeDatabase(folder());
-    return file;
+    return CreateDatabaseFile(folder(), NewImportDatabase(lottery.name, address, lottery.rules,
+                                                          lottery.draws, services().today()));
 }
 
 // The draws are counted afresh, as the file may have changed since they were shown.
 QString ImportDraws::AddToLottery() {
     const std::string file = target_->Database();
     const MergedDatabase merged = session_.MergeInto(folder(), file);
-    KeepOld(folder(), file);
+    try {
+        KeepOld(folder(), file);
+    } catch (const Failure& failure) {
+        throw AfterRescue(folder(), file, merged.bytes, failure);
+    }
     folder().Write(file, merged.bytes);
     RememberInto(file);
     return tr("%1 added to %2")
@@ -125,5 +125,5 @@ QString ImportDraws::AddToLottery() {
 void ImportDraws::RememberInto(const std::string& database) {
     ReadFormats();
     Remember(formats_, session_.FormatInto(database));
-    folder().Write(importFormatsFile, ImportFormatsText(formats_));
+    WriteKeepingOld(folder(), importFormatsFile, ImportFormatsText(formats_));
 }

@@ -5,6 +5,7 @@
 
 #include "core/field_reader.h"
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/text.h"
 
 namespace {
@@ -64,12 +65,41 @@ Shortened WithoutDraw(std::string_view content, const std::string& file, int dra
 
 // What comes before a draw is written; where it fails, what was typed outlives the run.
 template <typename Step>
-void Prepare(const State& state, ProgramFolder& folder, const DrawRecord& draw, Step step) {
+auto Prepare(const State& state, ProgramFolder& folder, const DrawRecord& draw, Step step) {
     try {
-        step();
+        return step();
     } catch (const Failure& failure) {
-        throw AfterRescue(folder, state.DbaseFile, draw.text + "\r\n", failure);
+        throw AfterRescue(folder, NewLinesOf(state.DbaseFile), draw.text + "\r\n", failure);
     }
+}
+
+// The database as it is with the draw, made of the copy in the work file.
+std::string Inserted(const State& state, ProgramFolder& folder, const DrawRecord& draw,
+                     const DateRules& rules) {
+    folder.Copy(state.DbaseFile, workFile);
+    const std::string content = folder.Read(workFile);
+    FieldReader reader(content, state.DbaseFile);
+    std::string heading = HeadingLines(reader);
+    // Nothing tells where a draw belongs; what the database held is safe in the work file.
+    if (reader.AtEnd()) WriteKeepingOld(folder, state.DbaseFile, {});
+    return WithDraw(std::move(heading), reader, draw, rules);
+}
+
+// The same for a draw that has been in it, on another day or with other numbers.
+std::string Updated(const State& state, ProgramFolder& folder, int draw, const DrawRecord& changed,
+                    const DateRules& rules) {
+    const Shortened rest = WithoutDraw(folder.Read(state.DbaseFile), state.DbaseFile, draw);
+    KeepOld(folder, state.DbaseFile);
+    if (rest.otherDraws.empty()) {
+        std::string bytes = rest.heading + changed.text + "\r\n";
+        folder.Write(workFile, bytes);
+        return bytes;
+    }
+    const std::string work = rest.heading + rest.otherDraws;
+    folder.Write(workFile, work);
+    FieldReader reader(work, std::string(workFile) + ", a copy of " + state.DbaseFile);
+    std::string heading = HeadingLines(reader);
+    return WithDraw(std::move(heading), reader, changed, rules);
 }
 
 }  // namespace
@@ -119,13 +149,9 @@ std::string NumbersInWords(std::string_view line, const std::string& lastTitle) 
 
 void InsertDraw(const State& state, ProgramFolder& folder, const DrawRecord& draw,
                 const DateRules& rules) {
-    Prepare(state, folder, draw, [&] { folder.Copy(state.DbaseFile, workFile); });
-    const std::string content = folder.Read(workFile);
-    FieldReader reader(content, state.DbaseFile);
-    std::string heading = HeadingLines(reader);
-    // Nothing tells where a draw belongs; what the database held is safe in the work file.
-    if (reader.AtEnd()) WriteKeepingOld(folder, state.DbaseFile, {});
-    folder.Write(state.DbaseFile, WithDraw(std::move(heading), reader, draw, rules));
+    const std::string bytes =
+        Prepare(state, folder, draw, [&] { return Inserted(state, folder, draw, rules); });
+    folder.Write(state.DbaseFile, bytes);
 }
 
 void DeleteDraw(const State& state, ProgramFolder& folder, int draw) {
@@ -137,16 +163,7 @@ void DeleteDraw(const State& state, ProgramFolder& folder, int draw) {
 
 void UpdateDraw(const State& state, ProgramFolder& folder, int draw, const DrawRecord& changed,
                 const DateRules& rules) {
-    const Shortened rest = WithoutDraw(folder.Read(state.DbaseFile), state.DbaseFile, draw);
-    Prepare(state, folder, changed, [&] { KeepOld(folder, state.DbaseFile); });
-    if (rest.otherDraws.empty()) {
-        folder.Write(workFile, rest.heading + changed.text + "\r\n");
-        folder.Copy(workFile, state.DbaseFile);
-        return;
-    }
-    const std::string work = rest.heading + rest.otherDraws;
-    Prepare(state, folder, changed, [&] { folder.Write(workFile, work); });
-    FieldReader reader(work, std::string(workFile) + ", a copy of " + state.DbaseFile);
-    std::string heading = HeadingLines(reader);
-    folder.Write(state.DbaseFile, WithDraw(std::move(heading), reader, changed, rules));
+    const std::string bytes = Prepare(state, folder, changed,
+                                      [&] { return Updated(state, folder, draw, changed, rules); });
+    folder.Write(state.DbaseFile, bytes);
 }

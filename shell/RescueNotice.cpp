@@ -18,7 +18,9 @@ void TellOfRescuedFiles(MessageBoxes& messages, QWidget* parent, const QStringLi
     lines += QCoreApplication::translate(
         "RescueNotice",
         "To use such a file, close the program and copy it into the program's folder, under the "
-        "name that follows the date and time. When you no longer need it, delete it.");
+        "name that follows the date and time. One that ends with \"(new lines)\" holds nothing but "
+        "what was to be added: put its lines into the file of that name. When you no longer need "
+        "it, delete it.");
     messages.Show(parent, {.title = QStringLiteral("Lottery Quillon World"),
                            .text = lines.join(QStringLiteral("\r\n\r\n")),
                            .sign = Sign::Information});

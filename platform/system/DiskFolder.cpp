@@ -12,6 +12,7 @@
 
 #include "core/failure.h"
 #include "core/old_files.h"
+#include "core/saving.h"
 #include "core/text.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/system/TextConversion.h"
@@ -182,7 +183,7 @@ void DiskFolder::Append(std::string_view name, std::string_view records) {
     try {
         bytes = Appended(Exists(name) ? Read(name) : std::string(), records);
     } catch (const Failure& failure) {
-        throw AfterRescue(*this, name, records, failure);
+        throw AfterRescue(*this, NewLinesOf(name), records, failure);
     }
     Write(name, bytes);
 }
@@ -238,8 +239,9 @@ std::string DiskFolder::Rescue(std::string_view name, std::string_view bytes) {
             QDir().mkpath(place.left(place.lastIndexOf(QLatin1Char('/'))));
             for (int count = 1;; ++count) {
                 const QString path = place + ToQString(StampedName(Now(), count, bare));
-                if (CreateFileSafely(BytesOnDisk(path), bytes, ownersAlone))
-                    return FromQString(path);
+                if (!CreateFileSafely(BytesOnDisk(path), bytes, ownersAlone)) continue;
+                surroundings_.rescued(path);
+                return FromQString(path);
             }
         } catch (const FileError&) {
             // The next place is tried.

@@ -84,6 +84,43 @@ TEST_F(ImportDrawsForm, AddsWhatTheLotteryLacksAndListsWhatDiffers) {
     EXPECT_EQ(test_.folder.Read(kept.front()), database) << "to go back to";
 }
 
+TEST_F(ImportDrawsForm, RescuesALotteryThatCannotBeWritten) {
+    test_.folder.OfferRescue();
+    const auto draws = PublishedDraws(60);
+    Open();
+    ChooseNew("village.csv", ResultsCsv(draws));
+    test_.folder.FailAfterBytes(0);
+    Click(*form_, "Import");
+    EXPECT_NE(TakeFailure().value_or("").find("elsewhere/dbase1.txt"), std::string::npos);
+    const std::string& rescued = test_.folder.Rescued().at("dbase1.txt");
+    EXPECT_NE(rescued.find(DatabaseLine(draws.back())), std::string::npos);
+}
+
+TEST_F(ImportDrawsForm, RescuesNewDrawsWhereTheOldDatabaseCannotBeKept) {
+    const auto draws = PublishedDraws(60);
+    const std::string database = DatabaseText("Village", 49, {draws.begin() + 2, draws.end()});
+    test_.folder.Write("dbase1.txt", database);
+    test_.folder.OfferRescue();
+    Open();
+    ChooseNew("village.csv", ResultsCsv(draws));
+    test_.folder.FailAtOperation(1);
+    Click(*form_, "Import");
+    EXPECT_NE(TakeFailure().value_or("").find("elsewhere/dbase1.txt"), std::string::npos);
+    EXPECT_NE(test_.folder.Rescued().at("dbase1.txt").find(DatabaseLine(draws[0])),
+              std::string::npos);
+    test_.folder.FailAtOperation({});
+    EXPECT_EQ(test_.folder.Read("dbase1.txt"), database);
+}
+
+TEST_F(ImportDrawsForm, KeepsTheFormatsBeforeALineThatWasPutThereByHandGoes) {
+    test_.folder.Write("ImportFormats.txt", "# mine\r\n");
+    Open();
+    ChooseNew("village.csv", ResultsCsv(PublishedDraws(60)));
+    Click(*form_, "Import");
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_EQ(test_.folder.OldFiles().begin()->second, "# mine\r\n");
+}
+
 TEST_F(ImportDrawsForm, TakesATableThatWasCopiedFromAWebPage) {
     Open();
     const auto draws = PublishedDraws(30);

@@ -126,16 +126,36 @@ TEST_F(DrawRecords, TheOldDatabaseIsKeptBeforeADrawIsChangedOrDeletedAndNotBefor
 }
 
 TEST_F(DrawRecords, ADrawThatCannotBeStoredIsRescued) {
-    folder.OfferRescue();
+    const std::string line = "01 Jun 05" + newNumbers + "\r\n";
     for (const bool isNew : {true, false}) {
-        folder.FailAtOperation(isNew ? 0 : 1);
-        const std::string failure = FailureOf([&] {
-            if (isNew) Insert(year(2005) / 6 / 1);
-            if (!isNew) Update(1, year(2005) / 6 / 1);
-        });
-        EXPECT_TRUE(failure.ends_with("What was to be written is kept in elsewhere/dbase1.txt."));
-        EXPECT_EQ(folder.Rescued().at("dbase1.txt"), "01 Jun 05" + newNumbers + "\r\n");
+        for (std::size_t operation = 0;; ++operation) {
+            SCOPED_TRACE(std::to_string(operation) + (isNew ? " of a new draw" : " of an old one"));
+            MemoryFolder disk;
+            disk.OfferRescue();
+            disk.Write("dbase1.txt", Database());
+            disk.FailAtOperation(operation);
+            const std::string failure = FailureOf([&] {
+                const DrawRecord draw = Draw(year(2005) / 6 / 1);
+                if (isNew) InsertDraw(state, disk, draw, rules);
+                if (!isNew) UpdateDraw(state, disk, 1, draw, rules);
+            });
+            if (failure == "no failure") break;
+            const bool wholeFile = failure.ends_with("is kept in elsewhere/dbase1.txt.");
+            const std::string name = wholeFile ? "dbase1.txt" : "dbase1.txt (new lines)";
+            EXPECT_TRUE(failure.ends_with("is kept in elsewhere/" + name + ".")) << failure;
+            ASSERT_EQ(disk.Rescued().count(name), 1U) << failure;
+            const std::string& rescued = disk.Rescued().at(name);
+            EXPECT_NE(rescued.find(line), std::string::npos) << failure;
+            EXPECT_EQ(rescued == line, !wholeFile);
+        }
     }
+}
+
+TEST_F(DrawRecords, ADrawIsRescuedWhereTheDatabaseHasADateThatCannotBeRead) {
+    folder.OfferRescue();
+    folder.Write("dbase1.txt", heading + may28 + "someday,1,2,3,4,5,6,0,7\r\n" + may21);
+    FailureOf([&] { Insert(year(2005) / 5 / 1); });
+    EXPECT_EQ(folder.Rescued().at("dbase1.txt (new lines)"), "01 May 05" + newNumbers + "\r\n");
 }
 
 TEST_F(DrawRecords, LinesThatEndInALineFeedAreWrittenWithBoth) {
