@@ -91,10 +91,18 @@ void BringToFront(QWidget& window) {
     QApplication::alert(&front);
 }
 
-void TellOfRescues(MessageBoxes& messages, QWidget& window) {
-    TellOfRescuedFiles(
-        messages, &window,
-        FirstTold(RescuedFiles(RescuePlaces()), ConfigFile(QStringLiteral("rescued.ini"))));
+QString RescueRecord() { return ConfigFile(QStringLiteral("rescued.ini")); }
+
+DiskFolder::Surroundings SurroundingsOf(const QString& folderPath) {
+    return {.now = LocalNow, .rescuePlaces = RescuePlaces(), .rescued = [folderPath](auto& file) {
+                NoteOrigin(file, folderPath, RescueRecord());
+            }};
+}
+
+void TellOfRescues(const Services& services, QWidget& window) {
+    const QString record = RescueRecord();
+    const QStringList ours = FromFolder(RescuedFiles(RescuePlaces()), services.folderPath, record);
+    TellOfRescuedFiles(services.messages, &window, FirstTold(ours, record));
 }
 
 int ShowWindow(Program& program, OneRun& run) {
@@ -103,7 +111,7 @@ int ShowWindow(Program& program, OneRun& run) {
     run.AnswerBy([&window] { BringToFront(window); });
     window.Load();
     window.show();
-    QTimer::singleShot(0, &window, [&] { TellOfRescues(program.services.messages, window); });
+    QTimer::singleShot(0, &window, [&] { TellOfRescues(program.services, window); });
     return QApplication::exec();
 }
 
@@ -116,7 +124,7 @@ int RunProgram(const QString& folderPath) {
     const auto state = std::make_shared<State>();
     static_cast<Application*>(qApp)->TellWhatWasInUse(
         [state] { return ToQString(LotteryInUse(*state)); });
-    DiskFolder folder(folderPath, {.now = LocalNow, .rescuePlaces = RescuePlaces()});
+    DiskFolder folder(folderPath, SurroundingsOf(folderPath));
     Random random(SeedOfTheMoment);
     DesktopPrinters printers;
     WindowStates windows(ConfigFile(QStringLiteral("windows.ini")));

@@ -24,6 +24,8 @@ class DiskFolder final : public ProgramFolder {
         /// How the paths of what is rescued start ("/home/ann/Rescued/", "/tmp/rescued "), the best
         /// place first. None: nothing is rescued.
         std::vector<QString> rescuePlaces = {};
+        /// Is told the path of each file that is rescued.
+        std::function<void(const QString& path)> rescued = [](const QString&) {};
     };
 
     /// `path` is the absolute path of an existing folder.

@@ -4,9 +4,31 @@
 #include <unistd.h>
 
 #include <QDir>
+#include <QFile>
 #include <QRegularExpression>
 #include <QSettings>
 #include <QStandardPaths>
+#include <map>
+
+namespace {
+
+constexpr QLatin1String originsKey("origins");
+constexpr QLatin1String fileKey("file");
+constexpr QLatin1String folderKey("folder");
+
+// The folders that rescued files came from, by the files' paths.
+std::map<QString, QString> OriginsIn(QSettings& record) {
+    std::map<QString, QString> origins;
+    const int count = record.beginReadArray(originsKey);
+    for (int index = 0; index < count; ++index) {
+        record.setArrayIndex(index);
+        origins[record.value(fileKey).toString()] = record.value(folderKey).toString();
+    }
+    record.endArray();
+    return origins;
+}
+
+}  // namespace
 
 std::vector<QString> RescuePlaces() {
     using Paths = QStandardPaths;
@@ -31,14 +53,45 @@ QStringList RescuedFiles(const std::vector<QString>& places) {
     return files;
 }
 
+void NoteOrigin(const QString& file, const QString& folder, const QString& record) {
+    QSettings settings(record, QSettings::IniFormat);
+    std::map<QString, QString> origins = OriginsIn(settings);
+    origins[file] = folder;
+    settings.beginWriteArray(originsKey);
+    int index = 0;
+    for (const auto& [rescued, from] : origins) {
+        if (!QFile::exists(rescued)) continue;
+        settings.setArrayIndex(index++);
+        settings.setValue(fileKey, rescued);
+        settings.setValue(folderKey, from);
+    }
+    settings.endArray();
+}
+
+QStringList FromFolder(const QStringList& files, const QString& folder, const QString& record) {
+    QSettings settings(record, QSettings::IniFormat);
+    const std::map<QString, QString> origins = OriginsIn(settings);
+    const QString own = QFileInfo(folder).canonicalFilePath();
+    QStringList result;
+    for (const QString& file : files) {
+        const auto found = origins.find(file);
+        const QString origin =
+            found == origins.end() ? QString() : QFileInfo(found->second).canonicalFilePath();
+        if (origin.isEmpty() || origin == own) result += file;
+    }
+    return result;
+}
+
 QStringList FirstTold(const QStringList& files, const QString& record) {
     const QString key = QStringLiteral("told");
     QSettings settings(record, QSettings::IniFormat);
-    const QStringList told = settings.value(key).toStringList();
+    QStringList told = settings.value(key).toStringList();
     QStringList untold;
     for (const QString& file : files) {
         if (!told.contains(file)) untold += file;
     }
-    if (!untold.isEmpty()) settings.setValue(key, files);
+    if (untold.isEmpty()) return untold;
+    told.removeIf([](const QString& file) { return !QFile::exists(file); });
+    settings.setValue(key, told + untold);
     return untold;
 }

@@ -12,6 +12,13 @@ std::vector<QString> RescuePlaces();
 /// The files of this user that were rescued to these places, the first place's first.
 QStringList RescuedFiles(const std::vector<QString>& places);
 
-/// Those of the files of which the user has not been told, by the record in the file `record`;
-/// from now on all of them count as told.
+/// Notes in the file `record` from which program's folder the rescued file came.
+void NoteOrigin(const QString& file, const QString& folder, const QString& record);
+
+/// Those of the files that came from that folder, by the same record, or from nobody knows where: a
+/// folder that was not noted or is no longer there.
+QStringList FromFolder(const QStringList& files, const QString& folder, const QString& record);
+
+/// Those of the files of which the user has not been told, by the same record; from now on all of
+/// them count as told.
 QStringList FirstTold(const QStringList& files, const QString& record);

@@ -80,6 +80,7 @@ std::string LinkTarget(std::string path) {
     for (int link = 0; link < longestChain; ++link) {
         std::array<char, PATH_MAX> target{};
         const ssize_t length = ::readlink(path.c_str(), target.data(), target.size());
+        if (length == -1 && errno != EINVAL && errno != ENOENT) Fail(errno);
         if (length == -1) return path;
         const std::string next(target.data(), static_cast<std::size_t>(length));
         path = next.starts_with('/') ? next : FolderOf(path) + next;
@@ -225,7 +226,7 @@ void WriteFileSafely(const std::string& path, std::string_view bytes,
     const std::string target = LinkTarget(path);
     const std::optional<mode_t> permissions = PermissionsToKeep(target);
     const Folder folder(target);
-    UnfinishedFile file(target);
+    UnfinishedFile file(target, permissions.value_or(0666));
     WriteAll(file.Number(), bytes);
     if (permissions) Check(::fchmod(file.Number(), *permissions));
     if (modified) {

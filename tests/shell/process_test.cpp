@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 #include <map>
+#include <utility>
 
 #include "core/settings.h"
 #include "platform/system/DiskFolder.h"
@@ -179,8 +180,19 @@ TEST_F(Process, WhatCannotBeSavedAtQuitIsReported) {
     EXPECT_EQ(outcome.exitCode, 1);
     EXPECT_FALSE(outcome.crashed);
     EXPECT_NE(outcome.output.find("Notes.txt"), std::string::npos) << outcome.output;
-    EXPECT_TRUE(Files()[QStringLiteral("quillon.ini")].contains("\r\n01/01/1970\r\n"))
-        << "the settings come after the notes and are not saved";
+    EXPECT_TRUE(Files()[QStringLiteral("quillon.ini")].contains("\r\n01-Jan-1970\r\n"))
+        << "the settings are saved all the same";
+}
+
+TEST_F(Process, WhatWasRescuedFromAnotherFolderIsNotToldHere) {
+    QDir(folderPath).mkdir(QStringLiteral("Notes.txt"));
+    RunToItsEnd({QStringLiteral("quit")});
+    QDir(folderPath).rmdir(QStringLiteral("Notes.txt"));
+    const QTemporaryDir other;
+    const QString own = std::exchange(folderPath, other.path());
+    EXPECT_EQ(RunToItsEnd({QStringLiteral("quit")}).output, "");
+    folderPath = own;
+    EXPECT_NE(RunToItsEnd({QStringLiteral("quit")}).output.find("Notes.txt"), std::string::npos);
 }
 
 TEST_F(Process, WhatCouldNotBeSavedIsRescuedAndToldOfAtTheNextStartOnce) {

@@ -57,6 +57,32 @@ TEST_F(FilesRescued, AreToldOnce) {
     EXPECT_TRUE(Told().isEmpty());
 }
 
+TEST_F(FilesRescued, AreToldInTheFolderThatTheyCameFrom) {
+    const QString record = place_.path() % QStringLiteral("/rescued.ini");
+    const QTemporaryDir here;
+    const QTemporaryDir there;
+    const QString ours = Put(QStringLiteral("home/Rescued/2026-11-22 093015 A.txt"));
+    const QString theirs = Put(QStringLiteral("home/Rescued/2026-11-22 093016 B, C; \xE9.txt"));
+    const QString gone = Put(QStringLiteral("home/Rescued/2026-11-22 093017 C.txt"));
+    const QString unknown = Put(QStringLiteral("home/Rescued/2026-11-22 093018 D.txt"));
+    NoteOrigin(ours, here.path(), record);
+    NoteOrigin(theirs, there.path(), record);
+    NoteOrigin(gone, place_.path() % QStringLiteral("/no such folder"), record);
+    EXPECT_EQ(FromFolder(Found(), here.path(), record), (QStringList{ours, gone, unknown}));
+    EXPECT_EQ(FromFolder(Found(), there.path() % QStringLiteral("/."), record),
+              (QStringList{theirs, gone, unknown}));
+}
+
+TEST_F(FilesRescued, AreToldOnceThoughThoseOfOtherFoldersAreToldBetween) {
+    const QString record = place_.path() % QStringLiteral("/rescued.ini");
+    const QString ours = Put(QStringLiteral("home/Rescued/2026-11-22 093015 A.txt"));
+    const QString theirs = Put(QStringLiteral("home/Rescued/2026-11-22 093016 B.txt"));
+    EXPECT_EQ(FirstTold({ours}, record), QStringList{ours});
+    EXPECT_EQ(FirstTold({theirs}, record), QStringList{theirs});
+    EXPECT_TRUE(FirstTold({ours}, record).isEmpty());
+    EXPECT_TRUE(FirstTold({theirs}, record).isEmpty());
+}
+
 TEST_F(FilesRescued, GoToTheUsersDataElseToTheTemporaryFolder) {
     const std::vector<QString> places = RescuePlaces();
     ASSERT_EQ(places.size(), 2U);
