@@ -20,6 +20,8 @@ struct Scenario {
     void (*act)(Session&);
     bool starts = false;
     bool silent = false;  ///< Whether a failure ends it without a word, as it is told to.
+    /// A file of which a copy is to be kept whenever it changes, beside those that lose a line.
+    const char* keeps = "";
 };
 
 /// What came of all faults of some scenarios.
@@ -58,14 +60,17 @@ class FaultLoop {
     /// is as it is to be.
     std::string Run(const system_calls::Fault& fault, Tally& tally);
 
-    /// The fault in words: "EIO at call 12, rename MyLottery.txt".
+    /// The fault in words: "EIO at call 12, rename MyLottery.txt". Files that are not in the
+    /// program's folder have "(other)/" before their names.
     std::string InWords(const system_calls::Fault& fault) const;
 
   private:
     RunEnd RunWith(const system_calls::Fault& fault);
     void Act(const system_calls::Fault& fault);
+    std::string WhatIsSaidTooEarly() const;
     std::string WhatIsLost() const;
     std::string WhatIsNotRescued() const;
+    bool IsRescued(const std::string& file, const std::set<std::string>& kept) const;
     std::string WhatIsFalselySaid() const;
     std::string WhatIsUntold(RunEnd end) const;
     std::string WhatIsLeft(const system_calls::Fault& fault) const;

@@ -69,8 +69,7 @@ TEST_P(FaultLoopTest, LosesNothing) {
     total.other += tally.other;
 }
 
-INSTANTIATE_TEST_SUITE_P(Saving, FaultLoopTest,
-                         testing::ValuesIn(Scenarios().begin(), Scenarios().end()),
+INSTANTIATE_TEST_SUITE_P(Saving, FaultLoopTest, testing::ValuesIn(Scenarios()),
                          [](const auto& scenario) { return std::string(scenario.param.name); });
 
 void TakeOrders(int argumentCount, char** arguments) {

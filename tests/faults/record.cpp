@@ -23,6 +23,11 @@ bool IsUnfinished(const std::string& path) {
     return name.starts_with(".quillon-") && name.ends_with(".tmp");
 }
 
+fs::path PathOf(const std::string& folder, const std::string& name) {
+    if (!name.starts_with(otherMark)) return folder + '/' + name;
+    return OtherFolderOf(folder) + '/' + name.substr(otherMark.size());
+}
+
 std::string BytesOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -45,16 +50,32 @@ Files FilesIn(const std::string& folder) {
     return files;
 }
 
+Files TouchedFilesIn(const std::string& folder) {
+    Files files = FilesIn(folder);
+    for (auto& [name, bytes] : FilesIn(OtherFolderOf(folder))) {
+        files[std::string(otherMark) + name] = bytes;
+    }
+    return files;
+}
+
+std::string TouchedName(const std::string& folder, const std::string& path) {
+    const std::string other = OtherFolderOf(folder);
+    if (path == folder) return ".";
+    if (path.starts_with(other + '/'))
+        return std::string(otherMark) + path.substr(other.size() + 1);
+    return path.starts_with(folder + '/') ? path.substr(folder.size() + 1) : path;
+}
+
 void PutFiles(const std::string& folder, const Files& files) {
     fs::remove_all(RescueFolderOf(folder));
-    const Files present = FilesIn(folder);
+    const Files present = TouchedFilesIn(folder);
     for (const auto& [name, bytes] : present) {
-        if (files.count(name) == 0) fs::remove_all(folder + '/' + name);
+        if (files.count(name) == 0) fs::remove_all(PathOf(folder, name));
     }
     for (const auto& [name, bytes] : files) {
         const auto found = present.find(name);
         if (found != present.end() && found->second == bytes) continue;
-        const fs::path path = folder + '/' + name;
+        const fs::path path = PathOf(folder, name);
         fs::create_directories(path.parent_path());
         if (!name.ends_with('/')) std::ofstream(path, std::ios::binary) << bytes;
     }
@@ -63,7 +84,7 @@ void PutFiles(const std::string& folder, const Files& files) {
 Files ComparableFilesIn(const std::string& folder) {
     Files result;
     std::vector<std::string> copies;
-    for (const auto& [name, bytes] : FilesIn(folder)) {
+    for (const auto& [name, bytes] : TouchedFilesIn(folder)) {
         if (IsUnfinished(name) || name == undoFolder) continue;
         if (name.starts_with(undoFolder)) {
             copies.push_back(bytes);
@@ -118,15 +139,20 @@ void Record::Add(Kind kind, std::string_view name, std::string_view text) {
 }
 
 std::vector<Record::Entry> Record::Entries(Kind kind) const {
+    std::vector<Entry> entries = Entries();
+    std::erase_if(entries, [kind](const Entry& entry) { return entry.kind != kind; });
+    return entries;
+}
+
+std::vector<Record::Entry> Record::Entries() const {
     std::vector<Entry> entries;
     for (std::size_t at = 0; at < memory_->used;) {
         const char* const start = memory_->bytes + at;
         std::size_t sizes[2];
         std::memcpy(sizes, start + 1, sizeof(sizes));
         const char* const name = start + 1 + sizeof(sizes);
-        if (static_cast<Kind>(*start) == kind) {
-            entries.push_back({kind, {name, sizes[0]}, {name + sizes[0], sizes[1]}});
-        }
+        entries.push_back(
+            {static_cast<Kind>(*start), {name, sizes[0]}, {name + sizes[0], sizes[1]}});
         at += 1 + sizeof(sizes) + sizes[0] + sizes[1];
     }
     return entries;

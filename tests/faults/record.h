@@ -19,10 +19,18 @@ std::string RescueFolderOf(const std::string& folder);
 /// Another folder for a session to read from or write to.
 std::string OtherFolderOf(const std::string& folder);
 
-/// Makes the folder hold these files and folders and nothing else, and the rescue folder nothing.
+/// The files of both that folder and the other one, whose names begin with `otherMark`.
+inline constexpr std::string_view otherMark = "(other)/";
+Files TouchedFilesIn(const std::string& folder);
+
+/// The name of a file in the folder or the other one, from its path.
+std::string TouchedName(const std::string& folder, const std::string& path);
+
+/// Makes the folder and the other one hold these files and folders and nothing else, and the rescue
+/// folder nothing.
 void PutFiles(const std::string& folder, const Files& files);
 
-/// The files of the folder but for unfinished ones. Copies to go back to stand in the order of
+/// The files of both but for unfinished ones. Copies to go back to stand in the order of
 /// their contents, those among them that had to be put into the rescue folder.
 Files ComparableFilesIn(const std::string& folder);
 
@@ -37,6 +45,7 @@ class Record {
     enum class Kind : char {
         Call = 'c',     ///< A call to the system, with the file.
         Said = 's',     ///< A message or a line that the user sees, with the state of the files.
+        Step = 'u',     ///< Something that the user does, with the state of the files before it.
         Report = 'r',   ///< The report that ended the run.
         Content = 'f',  ///< What a file holds after something was renamed or removed.
         Names = 'n',    ///< All files at that moment, each name between line ends.
@@ -59,6 +68,9 @@ class Record {
     void Add(Kind kind, std::string_view name, std::string_view text = {});
 
     std::vector<Entry> Entries(Kind kind) const;
+
+    /// All of them in their order.
+    std::vector<Entry> Entries() const;
 
   private:
     struct Memory;

@@ -10,11 +10,13 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <utility>
 
 #include "entries/AppendShownLines.h"
 #include "platform/system/LocaleRegion.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Lists.h"
+#include "shell/Toolbar.h"
 #include "tests/faults/system_calls.h"
 
 namespace {
@@ -29,6 +31,8 @@ Control& Find(const QObject& parent, const char* name) {
 }
 
 }  // namespace
+
+Session* Session::hearing_ = nullptr;
 
 Session::Session(const QString& path, Record& record)
     : folder(path, {.now = [] { return Moment(std::chrono::local_days(day)); },
@@ -46,25 +50,37 @@ Session::Session(const QString& path, Record& record)
                 .openPage = [](const QString&) {},
                 .saveLines = [this](Form* form, Grid& grid) { SaveLines(program_, form, grid); },
                 .printLines = {}},
-      program_{.state = state, .folder = folder, .services = services_} {
+      program_{.state = state, .folder = folder, .services = services_},
+      status_(*this) {
     services_.fetchPage = [this](const QString& address, const FetchProgress&) {
         const QString problem = pages[address].empty() ? QStringLiteral("No page.") : QString();
         return FetchedPage{.bytes = pages[address], .problem = problem};
     };
+    services_.fetchURL = [this](const QString& address) { return pages[address]; };
     services_.chooseFolder = [this](QWidget*, const QString&) { return chosenPath; };
+    services_.chooseFile = [this](QWidget*, const QString&, const QString&) { return chosenPath; };
     services_.openFolder = [](const QString& other) { return std::make_shared<DiskFolder>(other); };
     services_.folderPath = path;
     services_.printers = &printers_;
     state.Crlf = "\r\n";
+    hearing_ = this;
+}
+
+Session::~Session() {
+    if (hearing_ == this) hearing_ = heardBefore_;
 }
 
 void Session::Start() {
     window_ = std::make_unique<Quillon>(program_);
+    window_->findChild<Toolbar*>()->installEventFilter(&status_);
     window_->Load();
     window_->show();
 }
 
+std::string Session::OtherFolder() const { return OtherFolderOf(path_); }
+
 void Session::Choose(const char* entry) {
+    Step();
     auto* action = &Find<QAction>(*window_, entry);
     bool done = false;
     QTimer::singleShot(0, action, [action, &done] {
@@ -101,13 +117,22 @@ void Session::InForm(const std::function<void()>& open, const char* form,
 }
 
 void Session::Press(QWidget& form, const char* button) {
-    const QPointer<QWidget> guard(&form);
     auto& pressed = Find<QAbstractButton>(form, button);
     if (!pressed.isEnabled()) record_.Add(Record::Kind::Problem, "a button is disabled", button);
-    QTest::mouseClick(&pressed, Qt::LeftButton);
-    if (!guard || !guard->isVisible()) return;
-    const auto* said = form.findChild<QLabel*>(QStringLiteral("Said"));
-    if (said != nullptr && !said->text().isEmpty()) Said(said->text());
+    Do(form, [&pressed] { QTest::mouseClick(&pressed, Qt::LeftButton); });
+}
+
+void Session::TakeBack(QWidget& form) {
+    QWidget* focus = form.focusWidget() == nullptr ? &form : form.focusWidget();
+    Do(form, [focus] { QTest::keyClick(focus, Qt::Key_Z, Qt::ControlModifier); });
+}
+
+void Session::Do(QWidget& form, const std::function<void()>& action) {
+    saidLine_ = form.findChild<QLabel*>(QStringLiteral("Said"));
+    heard_.clear();
+    Step();
+    action();
+    Hear();
 }
 
 void Session::Fill(QWidget& form, const char* box, const char* text) {
@@ -128,8 +153,29 @@ void Session::ChooseLine(QWidget& form, const char* list, int line) {
 }
 
 void Session::Said(const QString& text) {
+    record_.Add(Record::Kind::Said, text.toStdString(), Snapshot());
+}
+
+void Session::Step() { record_.Add(Record::Kind::Step, {}, Snapshot()); }
+
+// Files that nobody watches may be endless.
+std::string Session::Snapshot() const {
+    if (!system_calls::Armed()) return {};
     const system_calls::Pause pause;
-    record_.Add(Record::Kind::Said, text.toStdString(), StateOf(path_));
+    return StateOf(path_);
+}
+
+void Session::Hear() {
+    if (hearing_ == nullptr || !hearing_->saidLine_) return;
+    const QString text = hearing_->saidLine_->text();
+    if (text != std::exchange(hearing_->heard_, text) && !text.isEmpty()) hearing_->Said(text);
+}
+
+bool Session::Status::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Paint) return false;
+    const QString text = static_cast<QLabel*>(watched)->text();
+    if (text != std::exchange(shown_, text) && !text.isEmpty()) session_.Said(text);
+    return false;
 }
 
 Answer Session::Messages::Show(QWidget*, const Message& message) {

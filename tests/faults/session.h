@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QLabel>
+#include <QPointer>
 #include <QString>
 #include <functional>
 #include <map>
@@ -17,12 +19,15 @@
 
 class Grid;
 
-/// A run of the program on a real folder, driven as a user would: everything that it says is
-/// recorded together with the state of the files at that moment, every question is answered with
-/// Yes or OK.
+/// A run of the program on a real folder, driven as a user would: everything that it says, by
+/// message or in a form, is recorded at that moment, while calls to the system are counted together
+/// with the state of the files; every question is answered with Yes or OK.
 class Session {
   public:
     Session(const QString& path, Record& record);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     /// Loads and shows the main window.
     void Start();
@@ -38,8 +43,11 @@ class Session {
     void InForm(const std::function<void()>& open, const char* form,
                 const std::function<void(QDialog&)>& step);
 
-    /// Clicks a button of the form, and records what the form says about it.
+    /// Clicks a button of the form.
     void Press(QWidget& form, const char* button);
+
+    /// Presses Ctrl+Z in the form.
+    void TakeBack(QWidget& form);
 
     /// Types over what stands in a box.
     static void Fill(QWidget& form, const char* box, const char* text);
@@ -59,12 +67,33 @@ class Session {
     /// Where a folder or a file is to be chosen, this one is.
     QString chosenPath;
 
+    /// Where what is not the program's lies.
+    std::string OtherFolder() const;
+
     State state;
     DiskFolder folder;
 
+    /// Records what the form says in its line where that is new. Called at every call to the system
+    /// it tells what is said before something is done.
+    static void Hear();
+
     Quillon& Window() { return *window_; }
 
+    /// What every form is given.
+    Program& Given() { return program_; }
+
   private:
+    /// Records what a label shows that tells how far a command is.
+    class Status final : public QObject {
+      public:
+        explicit Status(Session& session) : session_(session) {}
+        bool eventFilter(QObject* watched, QEvent* event) override;
+
+      private:
+        Session& session_;
+        QString shown_;
+    };
+
     class Messages final : public MessageBoxes {
       public:
         explicit Messages(Session& session) : session_(session) {}
@@ -74,6 +103,13 @@ class Session {
         Session& session_;
     };
 
+    void Do(QWidget& form, const std::function<void()>& action);
+    void Step();
+    std::string Snapshot() const;
+
+    static Session* hearing_;
+
+    Session* heardBefore_ = hearing_;
     Record& record_;
     std::string path_;
     Random random_;
@@ -82,4 +118,7 @@ class Session {
     Services services_;
     Program program_;
     std::unique_ptr<Quillon> window_;
+    Status status_;
+    QPointer<QLabel> saidLine_;  // of the form in which the last thing was done
+    QString heard_;
 };

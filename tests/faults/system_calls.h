@@ -2,12 +2,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 /// Every call to the system that touches a watched folder, counted, and made to fail on demand.
 ///
 /// The program of the fault tests has its own versions of the C library's functions on files, which
 /// all libraries of the process use in place of the library's. They hand on to those, but for calls
-/// on what lies in the watched folder while they count.
+/// on what lies in a watched folder while they count.
 namespace system_calls {
 
 /// What happens at one of the calls, counted from 0.
@@ -28,11 +29,14 @@ struct Fault {
 /// With this exit code the process ends at a kill.
 inline constexpr int killed = 77;
 
-/// Starts to count calls on this folder and what is in it, and lets the fault happen. `trace`,
-/// where given, gets the name of each call with its file; `changed` runs behind each call that has
-/// renamed or removed something.
-void Arm(const std::string& folder, const Fault& fault,
-         void (*trace)(const char* call, const char* file), void (*changed)());
+/// Starts to count calls on these folders, two at most, and what is in them, and lets the fault
+/// happen. `trace`, where given, gets the name of each call with its path; `changed` runs behind
+/// each call that has renamed or removed something.
+void Arm(const std::vector<std::string>& folders, const Fault& fault,
+         void (*trace)(const char* call, const char* path), void (*changed)());
+
+/// Whether calls are counted now.
+bool Armed();
 
 /// While it lives, calls are neither counted nor made to fail.
 class Pause {
@@ -46,14 +50,11 @@ class Pause {
     bool armed_;
 };
 
-/// How many calls have been counted since `Arm`.
-long long Calls();
-
-/// Whether something was renamed whose bytes had not been flushed, or a folder is changed and has
-/// not been flushed yet: a power cut could lose it.
+/// Whether bytes were renamed or left without being flushed, or a folder is changed and has not
+/// been flushed yet: a power cut could lose it.
 bool LeavesUnflushed();
 
-/// Whether call number `call` of the last run was a read or a write, which can be done by half.
+/// Whether a call of that name is a read or a write, which can be done by half.
 enum class CallKind { Other, Read, Write };
 CallKind KindOf(const std::string& call);
 
