@@ -134,7 +134,7 @@ DiskFolder::DiskFolder(const QString& path, Surroundings surroundings)
     : path_(path), surroundings_(std::move(surroundings)) {
     const std::string root = BytesOnDisk(path);
     Try(FromQString(path), "opened", [&root] { NamesIn(root); });
-    for (const char* folder : {"", "Backup", "Backup/Undo"}) {
+    for (const char* folder : {"", "help", "Backup", "Backup/Undo"}) {
         Try(FromQString(path) + '/' + folder, "opened",
             [&] { ClearUnfinishedFiles(PathBelow(root, folder)); });
     }

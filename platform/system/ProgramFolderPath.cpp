@@ -2,7 +2,7 @@
 #include "platform/system/ProgramFolderPath.h"
 
 #include <QDir>
-#include <QFileInfo>
+#include <QFile>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -10,6 +10,7 @@
 #include "core/failure.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/TextConversion.h"
+#include "platform/system/file_io.h"
 
 namespace {
 
@@ -33,10 +34,17 @@ std::string Escaped(const std::string& bytes) {
     return text;
 }
 
+// A folder that cannot be looked for is not taken for one that is not there.
+bool IsFolder(const QString& path) try {
+    return EntryAt(QFile::encodeName(path).toStdString()) == Entry::Folder;
+} catch (const FileError& error) {
+    throw Failure(FromQString(path) + " could not be looked for: " + error.reason + ".");
+}
+
 // Copies what the user's folder lacks of a folder in the shared one; empty: of that one itself.
 void CopyWhatIsMissing(const QString& shared, const std::string& folder, DiskFolder& own) {
     const QString from = QDir(shared).filePath(QString::fromStdString(folder));
-    if (!QFileInfo(from).isDir()) return;
+    if (!IsFolder(from)) return;
     if (!folder.empty() && !own.FolderExists(folder)) own.MakeFolder(folder);
     const std::string within = folder.empty() ? folder : folder + '/';
     const DiskFolder supplied(from);
@@ -55,7 +63,7 @@ QString ProgramFolderPath(const QString& executableFolder, const QString& userDa
                       ", has a name that is not written in UTF-8. Give it another one.");
     }
     const QString shared = QDir::cleanPath(executableFolder + QStringLiteral("/../share/quillon"));
-    if (!QFileInfo(shared).isDir()) return executableFolder;
+    if (!IsFolder(shared)) return executableFolder;
     if (!QDir().mkpath(userDataFolder)) {
         throw Failure(FromQString(userDataFolder) +
                       " could not be made; it is to hold your files.");

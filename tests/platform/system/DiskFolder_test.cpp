@@ -470,10 +470,12 @@ TEST_F(OnDisk, ClearsWhateverBearsTheNameOfAnUnfinishedFile) {
     ASSERT_EQ(mkfifo((path_ / ".quillon-5.tmp").c_str(), 0600), 0);
     Put(path_ / "Backup" / ".quillon-6.tmp", "half");
     Put(path_ / "Backup" / "Undo" / ".quillon-7.tmp", "half");
+    fs::create_directory(path_ / "help");
+    Put(path_ / "help" / ".quillon-8.tmp", "half");
     Put(path_ / "a.txt", "x");
     const DiskFolder reopened(place_.path());
     EXPECT_EQ(Snapshot(), (Files{{"a.txt", "x"}}));
-    EXPECT_EQ(std::distance(fs::directory_iterator(path_), {}), 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(path_), {}), 3);
 }
 
 TEST_F(OnDisk, LeavesAFolderWithFilesThatBearsSuchAName) {
@@ -698,6 +700,15 @@ TEST_F(InstalledProgram, NamesTheFolderWhoseBytesAreNoText) {
     const std::string failure = FailureOf([&] { ProgramFolderPath({}, user_); });
     EXPECT_TRUE(failure.starts_with("The program's folder, /")) << failure;
     EXPECT_TRUE(failure.ends_with("has a name that is not written in UTF-8. Give it another one."));
+}
+
+TEST_F(InstalledProgram, IsNoneForOneUserBecauseItsFilesCannotBeLookedFor) {
+    fs::create_directories(path_ / "share");
+    fs::create_symlink("quillon", path_ / "share" / "quillon");
+    EXPECT_EQ(FailureOf([&] { ProgramFolderPath(executables_, user_); }),
+              (path_ / "share" / "quillon").string() +
+                  " could not be looked for: Too many levels of symbolic links.");
+    EXPECT_FALSE(fs::exists(user_.toStdString()));
 }
 
 TEST_F(InstalledProgram, FailsWhereTheUsersFolderCannotBeMade) {
