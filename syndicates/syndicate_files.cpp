@@ -47,6 +47,28 @@ void PutDetails(State& state, const SyndicateDetails& details) {
     for (const std::string& text : details.manager) state.Members(0, column++) = text;
 }
 
+namespace {
+
+// Settings that were read anew may name the file of another syndicate than the one in memory. A
+// file that cannot be looked at is left to the save, which says why.
+bool FileIsOfAnother(const State& state, const ProgramFolder& folder) {
+    try {
+        return HoldsAnother(folder, state.Settings(setting::SyndicateFile), state.MembersOnDisk);
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+void SaveOpenSyndicate(State& state, ProgramFolder& folder) {
+    if (!FileIsOfAnother(View(state), folder)) return SaveSyndicate(state, folder);
+    const std::string text = SyndicateText(state);
+    if (text != state.MembersOnDisk) {
+        KeepUnsaved(folder, View(state).Settings(setting::SyndicateFile), text);
+    }
+}
+
+}  // namespace
+
 void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails& trimmed) {
     const auto create = [&] {
         state.Members.Fill({});
@@ -56,7 +78,7 @@ void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails&
         state.Settings(setting::SyndicateFile) =
             CreateNumbered(folder, 0, name, state.MembersOnDisk);
     };
-    SaveAll({[&] { SaveSyndicate(state, folder); }, create});
+    SaveAll({[&] { SaveOpenSyndicate(state, folder); }, create});
 }
 
 std::vector<ListedSyndicate> ListSyndicates(const ProgramFolder& folder) {

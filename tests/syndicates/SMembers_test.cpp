@@ -250,6 +250,20 @@ TEST_F(EditingMembers, SavesAndStaysOpen) {
     ExpectNoChanges(closeButton);
 }
 
+TEST_F(EditingMembers, KeepsTheListElsewhereWhereTheSettingsNameNoSyndicateAnyMore) {
+    AddMembers({"Bob"});
+    Open();
+    test_.state.Settings(setting::SyndicateFile).clear();
+    const std::string before = test_.folder.Read("SMembers.000");
+    test_.messages.Expect(saved);
+    Run(saveButton);
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), before);
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_EQ(test_.folder.OldFiles().begin()->second, before);
+    EXPECT_EQ(Label("Said"),
+              QStringLiteral("No syndicate is open any more: all this is kept in Backup/Undo"));
+}
+
 TEST_F(EditingMembers, KeepsUnsavedChangesInMemoryWhenItCloses) {
     Open();
     Add("Bob");
