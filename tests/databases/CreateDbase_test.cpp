@@ -285,16 +285,21 @@ TEST_F(CreatingADatabase, TheButtonOfTheWebSiteShowsWhereItLeads) {
 }
 
 TEST_F(CreatingADatabase, ATemplateBeyondTheBarsEndsTheRun) {
-    test_.folder.Write("LotteryTemplates.txt", "One,6,49,0,0,\r\nHuge,6,90,0,0,\r\n");
+    test_.folder.Write("LotteryTemplates.txt",
+                       "One,6,49,0,0,\r\nHuge,6,90,0,0,\r\nBelow,5,50,1,-2,\r\n");
     Open();
     auto* templates = Find<ListBox>(*form_, templateList);
-    QTest::mouseClick(templates->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      templates->visualItemRect(templates->item(1)).center());
-    const auto failure = TakeFailure();
-    ASSERT_TRUE(failure);
-    EXPECT_EQ(*failure,
+    const auto failureOf = [&](int row) {
+        QTest::mouseClick(templates->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          templates->visualItemRect(templates->item(row)).center());
+        return TakeFailure().value_or("none");
+    };
+    EXPECT_EQ(failureOf(1),
               "LotteryTemplates.txt, line 2: expected a number from 10 to 60 in field 3, but "
               "\"90\" stands there.");
+    EXPECT_EQ(failureOf(2),
+              "LotteryTemplates.txt, line 3: expected a number from 2 to 60 in field 5, but "
+              "\"-2\" stands there.");
 }
 
 TEST_F(CreatingADatabase, BoxesDropEveryKeyButDigitsAndBackspace) {
@@ -316,9 +321,10 @@ TEST_F(CreatingADatabase, DealsAPastedDrawToTheBoxesOfTheLottery) {
 TEST_F(CreatingADatabase, SavesAStandardLotteryWithoutBonusAndCloses) {
     Open();
     Line(nameBox).setText(QStringLiteral(" My lotto "));
+    Line(addressBox).setText(QStringLiteral(" http:// "));
     EnterDraw({1, 2, 3, 4, 5, 49});
     Click(*form_, saveButton);
-    EXPECT_EQ(Created(), " My lotto \r\nhttp://\r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,49,,\r\n");
+    EXPECT_EQ(Created(), " My lotto \r\n http:// \r\n6,49,1,0,0\r\n01 Jun 05,1,2,3,4,5,49,,\r\n");
     EXPECT_FALSE(form_->isVisible());
     EXPECT_EQ(test_.messages.Shown(), 0);
 }

@@ -184,6 +184,7 @@ TEST_F(UpdatingADatabase, AfterASaveShowsTheDateAloneWithEmptyBoxesAndStaysOpen)
     Box(7).setText(QStringLiteral("7"));
     Save(OneToSix(), QDate(2005, 5, 26));
     EXPECT_EQ(Text(lastUpdate), QStringLiteral("26 May 05"));
+    EXPECT_EQ(Find<QDateEdit>(*form_, datePicker)->date(), QDate(2005, 5, 26));
     for (int index = 0; index <= 7; ++index) EXPECT_EQ(Box(index).text(), QString());
     EXPECT_EQ(Find<ListBox>(*form_, lotteryList)->Index(), 0);
     EXPECT_TRUE(form_->isVisible());

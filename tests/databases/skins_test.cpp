@@ -1,68 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the forms of the draw databases take from the settings: picture and colours.
-#include <QBuffer>
-#include <QLabel>
-
-#include "core/settings.h"
 #include "databases/CreateDbase.h"
 #include "databases/DbaseUpdate.h"
 #include "databases/DbaseUpdateUS.h"
 #include "databases/DbaseUpdateW.h"
 #include "databases/HistoryW.h"
-#include "tests/support/form_test.h"
-#include "tests/support/sample_lotteries.h"
+#include "tests/support/skin_of_database_form.h"
 
 namespace {
 
-using LabelsAndSlots = std::vector<std::pair<const char*, int>>;
-
-template <typename FormType>
-class SkinOf : public testing::Test {
-  protected:
-    SkinOf() {
-        AddUkLotto(test_.folder);
-        test_.folder.Write("LotteryTemplates.txt", "UK Lotto,6,49,0,0,\r\n");
-    }
-
-    void Open(const char* choice) {
-        test_.state.Settings(setting::SkinBits) = choice;
-        form_ = std::make_unique<FormType>(test_.program, nullptr);
-        form_->Load();
-    }
-
-    void ExpectItsPicture() {
-        QImage image(8, 8, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        image.save(&buffer, "PNG");
-        test_.folder.Write("SkinDatabases.jpg", bytes.toStdString());
-        Open("1");
-        EXPECT_EQ(form_->grab().toImage().pixelColor(1, 1), QColor(Qt::red));
-    }
-
-    void ExpectColours(const LabelsAndSlots& labels) {
-        for (int slot = setting::TitleColour; slot <= setting::StatusColour; ++slot) {
-            test_.state.Settings(slot) = "&H00000" + std::to_string(slot);
-        }
-        test_.state.Settings(setting::BackgroundColour) = "&HFFEEDD";
-        Open("2");
-        EXPECT_EQ(form_->palette().color(QPalette::Window), QColor(0xdd, 0xee, 0xff));
-        for (const auto& [name, slot] : labels) {
-            const auto* label = Find<QLabel>(*form_, name);
-            EXPECT_EQ(label->palette().color(QPalette::WindowText), QColor(slot, 0, 0)) << name;
-        }
-    }
-
-    TestProgram test_;
-    std::unique_ptr<FormType> form_;
-};
-
-using SkinOfCreateDbase = SkinOf<CreateDbase>;
-using SkinOfDbaseUpdate = SkinOf<DbaseUpdate>;
-using SkinOfDbaseUpdateUS = SkinOf<DbaseUpdateUS>;
-using SkinOfDbaseUpdateW = SkinOf<DbaseUpdateW>;
-using SkinOfHistoryW = SkinOf<HistoryW>;
+using SkinOfCreateDbase = SkinOfDatabaseForm<CreateDbase>;
+using SkinOfDbaseUpdate = SkinOfDatabaseForm<DbaseUpdate>;
+using SkinOfDbaseUpdateUS = SkinOfDatabaseForm<DbaseUpdateUS>;
+using SkinOfDbaseUpdateW = SkinOfDatabaseForm<DbaseUpdateW>;
+using SkinOfHistoryW = SkinOfDatabaseForm<HistoryW>;
 
 TEST_F(SkinOfCreateDbase, IsItsPictureAndTheColours) {
     ExpectItsPicture();

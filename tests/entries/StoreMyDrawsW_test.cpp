@@ -280,13 +280,16 @@ TEST_F(StoringEntries, BoxesDropEveryKeyButDigitsAndBackspace) {
 
 TEST_F(StoringEntries, AddWritesTheEntryMarksItAndEmptiesTheBoxes) {
     Open();
-    Type(*form_, nameBox, QStringLiteral("Ann"));
+    Type(*form_, nameBox, QStringLiteral(" Ann "));
+    auto* date = Find<QDateEdit>(*form_, "DTPicker1");
+    date->setDate(QDate(2005, 6, 4));
     Add({3, 17, 22, 34, 41, 48});
-    EXPECT_EQ(Row(1), "01 Jun 05,3,17,22,34,41,48,,,UK Lotto,Ann,dbase100.txt");
+    EXPECT_EQ(Row(1), "04 Jun 05,3,17,22,34,41,48,,,UK Lotto, Ann ,dbase100.txt");
+    EXPECT_EQ(date->date(), QDate(2005, 6, 4));
     EXPECT_EQ(Entries().CurrentRow(), 1);
     EXPECT_TRUE(Entries().selectionModel()->isRowSelected(0));
     for (int index = 1; index <= 8; ++index) EXPECT_EQ(Box(index).text(), QString());
-    EXPECT_EQ(Find<QLineEdit>(*form_, nameBox)->text(), QStringLiteral("Ann"));
+    EXPECT_EQ(Find<QLineEdit>(*form_, nameBox)->text(), QStringLiteral(" Ann "));
 }
 
 TEST_F(StoringEntries, EntriesOfDifferentLotteriesStandInOneGrid) {
