@@ -18,7 +18,7 @@
 
 namespace {
 
-constexpr int twips90 = 6;  // at 15 twips a pixel
+constexpr int twips90 = 6;  // at 15 twips a pixel; room for the frame
 
 }  // namespace
 
@@ -140,7 +140,7 @@ void Grid::SetColumnWidths(const std::vector<int>& widths) {
 
 void Grid::FitWidth() {
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    setFixedWidth(horizontalHeader()->length() + scrollBar + twips90 + 2 * frameWidth());
+    setFixedWidth(horizontalHeader()->length() + scrollBar + twips90);
 }
 
 void Grid::SetParkingRow(int row) { parkingRow_ = row; }

@@ -176,7 +176,7 @@ TEST_F(DrawsHistory, ItsColumnsHoldNineZerosAndTheDateFourteen) {
         columns += Draws().columnWidth(column);
     }
     const int scrollBar = Draws().style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    EXPECT_EQ(Draws().width(), columns + scrollBar + 6 + 2 * Draws().frameWidth());
+    EXPECT_EQ(Draws().width(), columns + scrollBar + 6);
 }
 
 TEST_F(DrawsHistory, ALongNameOfALotteryDoesNotPushTheListAway) {
