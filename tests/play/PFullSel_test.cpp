@@ -68,6 +68,13 @@ TEST_F(FullSelectionForm, AChangeOfTheBoxMakesANewSelectionAtOnce) {
     EXPECT_EQ(Text(unusedNote), allUsed);
 }
 
+TEST_F(FullSelectionForm, AChangeOfTheBoxByCodeMakesANewSelectionToo) {
+    Open();
+    Find<QCheckBox>(*form_, includeAllBox)->setChecked(false);
+    EXPECT_EQ(ShownLines(), 8);
+    EXPECT_EQ(Text(unusedNote), QStringLiteral("  1 numbers unused"));
+}
+
 TEST_F(FullSelectionForm, SevenLinesOf5From35InBothStatesOfTheBox) {
     AddFirstLottery("Thirty five", "5,35,0,0,0");
     Open();

@@ -307,6 +307,25 @@ TEST_F(InfoPanelsOfWindow, TomorrowAddsADayAtOnce) {
     EXPECT_NEAR(Value(1), Wave(12935, 33), 1e-9);
 }
 
+TEST_F(InfoPanelsOfWindow, TheDayIsAddedTooWhereTheDateLiesAfterToday) {
+    StartShown();
+    Find<DatePicker>(*window, birthDatePicker)->SetValue(DaysAfter(program.today, 5));
+    Click(*window, tomorrowOption);
+    EXPECT_NEAR(Value(1), Wave(-4, 33), 1e-9);
+}
+
+TEST_F(InfoPanelsOfWindow, EachDrawingKeepsTheBirthDateInTheSettings) {
+    StartShown();
+    auto* picker = Find<DatePicker>(*window, birthDatePicker);
+    picker->SetValue(std::chrono::year(1985) / 7 / 23);
+    EXPECT_EQ(Setting(setting::BirthDate), "01-Jan-1970");
+    Click(*window, tomorrowOption);
+    EXPECT_EQ(Setting(setting::BirthDate), "23-Jul-1985");
+    picker->SetValue(std::chrono::year(1990) / 2 / 3);
+    Click(*window, todayOption);
+    EXPECT_EQ(Setting(setting::BirthDate), "03-Feb-1990");
+}
+
 TEST_F(InfoPanelsOfWindow, OnTheDayOfBirthAllFourValuesAreZero) {
     StartShown();
     Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
@@ -408,6 +427,23 @@ TEST_F(InfoPanelsOfWindow, ASyndicateEnablesItsEntries) {
     for (const char* entry :
          {"SyndicateMembers", "SyndicatePayments", "SyndicatesNotes", "SyndicateManager"}) {
         EXPECT_TRUE(Entry(entry)->isEnabled()) << entry;
+    }
+}
+
+TEST_F(InfoPanelsOfWindow, ASyndicateWithoutNameOrManagerEnablesNothing) {
+    MakeDefaultSettings(program.state, program.folder);
+    program.state.Settings(setting::SyndicateFile) = "SMembers.000";
+    SaveSettings(program.state, program.folder);
+    for (const auto& [name, manager] :
+         {std::pair("Club", ""), std::pair("", "Ann"), std::pair("", "")}) {
+        program.folder.Write("SMembers.000", SyndicateFile(name, manager));
+        Start();
+        EXPECT_EQ(TextOf(syndicateName), QString::fromLatin1(name));
+        EXPECT_EQ(TextOf(managerName), QString::fromLatin1(manager));
+        for (const char* entry :
+             {"SyndicateMembers", "SyndicatePayments", "SyndicatesNotes", "SyndicateManager"}) {
+            EXPECT_FALSE(Entry(entry)->isEnabled()) << entry << " of " << name << manager;
+        }
     }
 }
 

@@ -249,6 +249,17 @@ TEST_F(QuillonForm, AnOptionIsSetAfterMessagesHaveRunAndBeforeTheFormIsShown) {
     EXPECT_EQ(TellingForm::steps, (std::vector<std::string>{"load", "messages", "option", "exec"}));
 }
 
+TEST_F(QuillonForm, MessagesRunFiveTimesBeforeAnOptionIsSet) {
+    Start();
+    int runs = 0;
+    QTimer everyRun;
+    QObject::connect(&everyRun, &QTimer::timeout, &everyRun, [&runs] { ++runs; });
+    everyRun.start(0);
+    window->Open(
+        {.menuEntry = "", .form = "TellingForm", .make = MakeTellingForm, .prepare = SelectOption});
+    EXPECT_EQ(runs, 5);
+}
+
 TEST_F(QuillonForm, TheFourMatchWheelsSetTheirOptionWithoutMessages) {
     const CatalogueEntry* entry = FindCatalogueEntry(QStringLiteral("PlayGuarantee4"));
     ASSERT_NE(entry, nullptr);

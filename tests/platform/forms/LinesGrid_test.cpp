@@ -58,6 +58,14 @@ TEST_F(TheGridOfLines, ShowsALineWithItsExtraBallInDarkRed) {
     EXPECT_EQ(grid.CellColour(1, 8).name(), QStringLiteral("#a00000"));
 }
 
+TEST_F(TheGridOfLines, ShowsTheExtraBallOfEveryLineInDarkRed) {
+    MakeLines(30, 14);
+    ShowLines(state, grid);
+    for (int row = 1; row <= 30; ++row) {
+        EXPECT_EQ(grid.CellColour(row, 8).name(), QStringLiteral("#a00000")) << row;
+    }
+}
+
 TEST_F(TheGridOfLines, ShowsAnEmptyCellForNoNumber) {
     MakeLines(1, 0);
     ShowLines(state, grid);
