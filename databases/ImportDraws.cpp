@@ -238,9 +238,10 @@ QString ImportDraws::FormatProblems() const {
 void ImportDraws::ShowHint(const QString& refusal) {
     hint_->setText(
         refusal.isEmpty()
-            ? tr("Choose a file, drop one here, or paste a table that you have copied.\n\nYou see "
-                 "every draw before anything is written. Your lotteries stay as they are until you "
-                 "press Import.") %
+            ? tr("Choose a file, drop one here, paste a table that you have copied, or type the "
+                 "web "
+                 "address of one.\n\nYou see every draw before anything is written. Your lotteries "
+                 "stay as they are until you press Import.") %
                   FormatProblems()
             : refusal);
     if (refusal.isEmpty()) return;

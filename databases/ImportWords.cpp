@@ -63,6 +63,11 @@ QString RemarksOf(const ImportSession& session) {
                        .arg(DrawsInWords(static_cast<std::size_t>(session.TooMany())),
                             Number(mostImportedDraws));
     }
+    if (session.Table().IsCut()) {
+        remarks += tr("Only the first %1 rows are read. Where newer draws stand behind them, save "
+                      "those as a file of their own.")
+                       .arg(Number(ImportTable::mostRows));
+    }
     return remarks.join(QLatin1Char('\n'));
 }
 

@@ -26,6 +26,26 @@ std::string Excerpt(const std::string& text) {
     return excerpt;
 }
 
+// What a text without draws is, where that tells what to do instead.
+std::string RefusalOf(std::string_view text) {
+    if (IsHtml(text)) {
+        return "This is a web page without any table of draws. Look for a results file to download "
+               "on it, or copy the table itself and import it from the clipboard.";
+    }
+    constexpr std::string_view blanks = " \t\r\n";
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    const bool xml = text.starts_with('<');
+    const std::size_t second = text.find_first_not_of(blanks, 1);
+    const bool json = (text.starts_with('{') || text.starts_with('[')) &&
+                      second != std::string_view::npos &&
+                      std::string_view("\"[{]}").find(text[second]) != std::string_view::npos;
+    if (!xml && !json) return {};
+    return std::string("This is ") + (xml ? "XML" : "JSON") +
+           ", which programs exchange and no draws are read from. Look for the same draws as CSV "
+           "or "
+           "as a table on a web page.";
+}
+
 ImportSeparator BestSeparator(std::string_view text, const DateRules& dates) {
     using enum ImportSeparator;
     constexpr auto all = std::to_array({HtmlCells, Tab, Semicolon, Bar, Comma, WideBlanks, Blanks});
@@ -64,16 +84,15 @@ ImportProposal ProposeImport(std::string_view text, const DateRules& dates,
                           {.topic = ImportTopic::Separator,
                            .guess = false,
                            .text = "Cells are separated by: " + SeparatorInWords(chosen) + "."});
+    if (!proposal.refusal.empty()) {
+        std::string refusal = RefusalOf(text);
+        if (!refusal.empty()) proposal.refusal = std::move(refusal);
+    }
     if (!IsHtml(text)) return proposal;
     // Tables for the layout of a page stand before that of the draws; its title knows better.
     if (proposal.mapping.product.empty()) {
         const std::string title = NameFromTitle(TitleOfHtml(text));
         if (!title.empty()) proposal.title = title;
-    }
-    if (!proposal.refusal.empty()) {
-        proposal.refusal =
-            "This is a web page without any table of draws. Look for a results file to download "
-            "on it, or copy the table itself and import it from the clipboard.";
     }
     return proposal;
 }

@@ -159,9 +159,10 @@ void ImportSession::ReadAgain() {
         eras_ = FindEras(all_.draws, mapping_.extraFromSameDrum);
     }
     if (all_.draws.empty() && unticked_.empty() && missing_.empty()) {
-        missing_ = proposal_.refusal.empty()
-                       ? "No row is a draw when it is read so; the page Left out says why."
-                       : proposal_.refusal;
+        missing_ = "No row is a draw when it is read so; the page Left out says why.";
+    }
+    if (!missing_.empty() && !proposal_.refusal.empty() && mapping_ == proposal_.mapping) {
+        missing_ = proposal_.refusal;
     }
     if (eras_.size() < 2 && eraChoice_ != EraChoice::All) eraChoice_ = EraChoice::All;
     TakeEras();

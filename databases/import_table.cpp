@@ -58,6 +58,7 @@ class ImportTable::Cutter {
 
     void Cut() {
         while (position_ < text_.size() && table_.rows_.size() < mostRows) CutRow();
+        table_.cut_ = text_.find_first_not_of(" \t\r\n", position_) != std::string::npos;
     }
 
   private:

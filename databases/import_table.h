@@ -47,6 +47,9 @@ class ImportTable {
     /// left out is shown.
     std::string RowText(std::size_t row) const;
 
+    /// Whether the text goes on behind the last row that it takes.
+    bool IsCut() const { return cut_; }
+
     /// The most cells of any row.
     std::size_t Columns() const { return columns_; }
 
@@ -66,6 +69,7 @@ class ImportTable {
     std::vector<Row> rows_;
     std::vector<Piece> cells_;
     std::size_t columns_ = 0;
+    bool cut_ = false;
 };
 
 /// Whether the text is a web page or a piece of one (the clipboard's HTML).

@@ -15,6 +15,17 @@ TEST_F(ImportDrawsForm, BeginsWithAWordOnWhatToDo) {
     EXPECT_FALSE(Find<QWidget>(*form_, "Again")->isVisible());
 }
 
+TEST_F(ImportDrawsForm, TellsThatAVeryLongTableIsNotReadToItsEnd) {
+    Open();
+    std::string text = ResultsCsv(PublishedDraws(60));
+    ChooseNew("village.csv", text);
+    EXPECT_FALSE(TextOf("Remarks").contains(QStringLiteral("are read")));
+    for (std::size_t row = 0; row < ImportTable::mostRows; ++row) text += "-\n";
+    ChooseNew("village.csv", text);
+    EXPECT_TRUE(TextOf("Remarks").contains(QStringLiteral("Only the first 200,000 rows are read.")))
+        << TextOf("Remarks").toStdString();
+}
+
 TEST_F(ImportDrawsForm, MakesALotteryOfAFileInTwoClicks) {
     Open();
     const auto draws = PublishedDraws(60);

@@ -300,6 +300,17 @@ TEST(ImportProposal, SaysWhyThereAreNoDraws) {
     EXPECT_NE(refusal("a,b,c\n1,2,3\n").find("No dates are to be seen"), std::string::npos);
     EXPECT_NE(refusal("<html><body><p>Hello</p></body></html>").find("web page without any table"),
               std::string::npos);
+    for (const char* text : {"{\"draws\": [{\"date\": \"2024-01-06\", \"balls\": [1, 2]}]}",
+                             "[ {\n\"a\": 1}]", "{}"}) {
+        EXPECT_TRUE(refusal(text).starts_with("This is JSON")) << text;
+    }
+    for (const char* text :
+         {" <?xml version=\"1.0\"?>\n<draws><draw/></draws>", "<draws></draws>"}) {
+        EXPECT_TRUE(refusal(text).starts_with("This is XML")) << text;
+    }
+    for (const char* text : {"[1] 2 3", "[", "{1}", "a < b"}) {
+        EXPECT_TRUE(refusal(text).starts_with("No dates")) << text;
+    }
     std::string threes;
     std::string twenty;
     for (const MadeDraw& draw : MakeDraws({.picks = 20, .highest = 80, .draws = 50}, 1)) {

@@ -80,6 +80,16 @@ TEST_F(Session, BytesThatAreNoSuchTextStayReadAsTheyWere) {
     EXPECT_EQ(session_.Refusal(), "");
 }
 
+TEST_F(Session, SaysWhatATextWithoutDrawsIsUntilTheUserTakesItInHand) {
+    Open("<html><body><p>No numbers today.</p></body></html>");
+    EXPECT_TRUE(session_.Missing().starts_with("This is a web page without any table of draws."));
+    session_.ChooseRole(0, ColumnRole::Dated);
+    EXPECT_EQ(session_.Missing(), "Choose the columns of at least four main numbers.");
+    Open("2024-01-06,1\n2024-01-13,2\n2024-01-20,1\n");
+    EXPECT_NE(session_.Missing().find("a lottery here has four to seven"), std::string::npos)
+        << session_.Missing();
+}
+
 TEST_F(Session, ADrawWhoseTickIsGoneIsStillOfferedAtItsDate) {
     const auto draws = PublishedDraws(10);
     Open(ResultsCsv(draws));

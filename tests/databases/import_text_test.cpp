@@ -142,6 +142,15 @@ TEST(ImportTable, FallsIntoRowsAndCells) {
     EXPECT_EQ(RowsOf("\n\n", Comma), std::vector<Cells>{});
 }
 
+TEST(ImportTable, SaysWhetherTheTextGoesOnBehindItsLastRow) {
+    std::string text;
+    for (std::size_t row = 0; row < ImportTable::mostRows; ++row) text += "1\n";
+    EXPECT_FALSE(ImportTable(text + " \n\n", ImportSeparator::Comma).IsCut());
+    const ImportTable cut(text + "2\n", ImportSeparator::Comma);
+    EXPECT_TRUE(cut.IsCut());
+    EXPECT_EQ(cut.Rows(), ImportTable::mostRows);
+}
+
 TEST(ImportTable, TakesQuotesOff) {
     using enum ImportSeparator;
     EXPECT_EQ(RowsOf("\"a,b\",c", Comma), (std::vector<Cells>{{"a,b", "c"}}));
