@@ -59,16 +59,18 @@ bool IsCounter(const BallColumn& column, const std::vector<SampleRow>& rows) {
     return *std::max_element(parts.begin(), parts.end()) * 10 >= column.filled * 9;
 }
 
+using ReadList = BallList (*)(std::string_view cell);
+
 // How many numbers most of the cells hold; 0 where they are no lists.
 std::size_t PlacesOf(const ImportTable& table, const std::vector<SampleRow>& rows,
-                     std::size_t column) {
+                     std::size_t column, ReadList read) {
     std::array<std::size_t, BallList::most + 1> counts{};
     std::size_t filled = 0;
     for (const SampleRow& row : rows) {
         const std::string_view cell = table.Cell(row.row, column);
         if (cell.empty()) continue;
         ++filled;
-        ++counts.at(ReadBallList(cell).count);
+        ++counts.at(read(cell).count);
     }
     const auto* const most = std::max_element(counts.begin() + 2, counts.end());
     std::size_t lists = 0;
@@ -83,14 +85,17 @@ std::size_t PlacesOf(const ImportTable& table, const std::vector<SampleRow>& row
 }
 
 void AddPlaces(const ImportTable& table, const std::vector<SampleRow>& rows, std::size_t column,
-               std::size_t places, std::vector<BallColumn>& columns) {
+               ReadList read, std::vector<BallColumn>& columns) {
+    const std::size_t places = PlacesOf(table, rows, column, read);
+    if (places < 2) return;
     const std::size_t first = columns.size();
     for (std::size_t place = 1; place <= places; ++place) {
         columns.push_back({.column = column, .part = static_cast<int>(place), .numbers = {}});
+        columns.back().glued = read == ReadGluedBalls;
         columns.back().numbers.reserve(rows.size());
     }
     for (const SampleRow& row : rows) {
-        const BallList list = ReadBallList(table.Cell(row.row, column));
+        const BallList list = read(table.Cell(row.row, column));
         for (std::size_t place = 0; place < places; ++place) {
             columns[first + place].numbers.push_back(place < list.count ? list.numbers.at(place)
                                                                         : std::int8_t{-1});
@@ -147,12 +152,10 @@ void BelieveWords(std::vector<BallColumn>& columns) {
     for (BallColumn& column : columns) column.told = column.behindWord && words <= 3;
 }
 
-}  // namespace
-
-std::vector<BallColumn> FindBallColumns(const ImportTable& table,
-                                        const std::vector<SampleRow>& rows,
-                                        const std::vector<std::size_t>& dateColumns,
-                                        const std::vector<ColumnHeading>& headings) {
+std::vector<BallColumn> BallColumnsBy(ReadList read, const ImportTable& table,
+                                      const std::vector<SampleRow>& rows,
+                                      const std::vector<std::size_t>& dateColumns,
+                                      const std::vector<ColumnHeading>& headings) {
     std::vector<BallColumn> found;
     const std::size_t last = std::min(table.Columns(), mostColumns);
     for (std::size_t column = 0; column < last; ++column) {
@@ -168,12 +171,25 @@ std::vector<BallColumn> FindBallColumns(const ImportTable& table,
             single.behindWord = column > 0 && HoldsWordForExtra(table, rows, column - 1);
             found.push_back(std::move(single));
         } else if (single.filled == 0) {
-            const std::size_t places = PlacesOf(table, rows, column);
-            if (places >= 2) AddPlaces(table, rows, column, places, found);
+            AddPlaces(table, rows, column, read, found);
         }
     }
     BelieveWords(found);
     return found;
+}
+
+}  // namespace
+
+std::vector<BallColumn> FindBallColumns(const ImportTable& table,
+                                        const std::vector<SampleRow>& rows,
+                                        const std::vector<std::size_t>& dateColumns,
+                                        const std::vector<ColumnHeading>& headings) {
+    constexpr std::size_t fewest = 4;
+    std::vector<BallColumn> found = BallColumnsBy(ReadBallList, table, rows, dateColumns, headings);
+    if (found.size() >= fewest) return found;
+    std::vector<BallColumn> glued =
+        BallColumnsBy(ReadGluedBalls, table, rows, dateColumns, headings);
+    return glued.size() >= fewest ? glued : found;
 }
 
 bool CouldBeDrawn(const BallColumn& column) {

@@ -16,6 +16,7 @@ struct BallColumn {
     std::vector<std::int8_t> numbers;  ///< Below 0 where the row has none.
     bool behindWord = false;  ///< The column in front holds a word for an extra ball, or "+".
     bool told = false;        ///< That word tells that this is an extra ball.
+    bool glued = false;       ///< Of a cell with nothing between its numbers.
     std::size_t filled = 0;
     int lowest = 99;
     int highest = 0;
@@ -32,7 +33,8 @@ struct SampleRow {
 };
 
 /// The columns that hold numbers of balls, or several numbers each, and are no counter, no constant
-/// and no part of the date.
+/// and no part of the date. Where these are too few for a draw, digits glued together are taken for
+/// several numbers too.
 std::vector<BallColumn> FindBallColumns(const ImportTable& table,
                                         const std::vector<SampleRow>& rows,
                                         const std::vector<std::size_t>& dateColumns,

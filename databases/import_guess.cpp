@@ -134,20 +134,22 @@ class Understanding {
         ImportMapping& mapping = proposal_.mapping;
         mapping.picks = static_cast<int>(choice_.mains.size());
         bool list = false;
+        bool glued = false;
         for (const std::size_t main : choice_.mains) {
             const BallColumn& column = balls_[main];
             list = column.part > 0;
+            glued = column.glued;
             mapping.columns.at(column.column) = list ? ColumnRole::Numbers : ColumnRole::Number;
         }
         std::string how = choice_.byHeadings ? "by their heading" : "by their numbers";
-        if (list) how += ", in one column";
+        if (list) how += glued ? ", two digits each in one column" : ", in one column";
         std::string text = PlainDigits(mapping.picks) + " main numbers, told " + how + ".";
         if (choice_.countIsGuess && !choice_.extras.empty()) {
             text += " That the next one is a bonus ball is a guess.";
         } else if (choice_.countIsGuess) {
             text += " That none of them is a bonus ball is a guess.";
         }
-        Note(ImportTopic::Numbers, choice_.countIsGuess, text);
+        Note(ImportTopic::Numbers, glued || choice_.countIsGuess, text);
     }
 
     void ExtraRoles() {

@@ -43,6 +43,18 @@ int BallNumber(std::string_view cell) {
     return MeansNothing(cell) ? emptyCell : noNumber;
 }
 
+BallList ReadGluedBalls(std::string_view cell) {
+    const bool digits = std::all_of(cell.begin(), cell.end(), IsDigitByte);
+    if (!digits || cell.size() % 2 != 0 || cell.size() < 8 || cell.size() > 16) return {};
+    BallList list;
+    for (; !cell.empty(); cell.remove_prefix(2)) {
+        const int number = PlainNumber(cell.substr(0, 2));
+        if (number == 0) return {};
+        list.numbers.at(list.count++) = static_cast<std::int8_t>(number);
+    }
+    return list;
+}
+
 BallList ReadBallList(std::string_view cell) {
     constexpr std::string_view between = " -,;/+|.:&()[]{}_*#\t'\"\xBA\xAA";
     constexpr std::size_t longestWord = 14;

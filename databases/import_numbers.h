@@ -29,3 +29,7 @@ struct BallList {
 /// signs and short words between numbers from 0 to 99. Without any number, with longer ones or too
 /// many the list is empty.
 BallList ReadBallList(std::string_view cell);
+
+/// Reads "091934444551": nothing but digits, two for each of four to eight numbers from 1 to 99;
+/// else the list is empty.
+BallList ReadGluedBalls(std::string_view cell);

@@ -100,7 +100,8 @@ std::optional<Reason> RowReader::ReadNumbers(std::size_t row, ImportedDraw& draw
 // Numbers beyond the main ones are extra balls.
 std::optional<Reason> RowReader::ReadList(std::string_view cell, std::size_t& count,
                                           ImportedDraw& draw) const {
-    const BallList list = ReadBallList(cell);
+    BallList list = ReadBallList(cell);
+    if (list.count == 0) list = ReadGluedBalls(cell);
     const auto most = static_cast<std::size_t>(std::clamp(mapping_.picks, 1, 7));
     int surplus = 0;
     for (std::size_t i = 0; i < list.count; ++i) {

@@ -179,6 +179,21 @@ TEST(ImportNumbers, AreReadFromOneField) {
     }
 }
 
+TEST(ImportNumbers, AreReadFromDigitsGluedTogether) {
+    const auto glued = [](std::string_view cell) {
+        const BallList list = ReadGluedBalls(cell);
+        return std::vector<int>(list.numbers.begin(),
+                                list.numbers.begin() + static_cast<std::ptrdiff_t>(list.count));
+    };
+    EXPECT_EQ(glued("0919344451"), (std::vector<int>{9, 19, 34, 44, 51}));
+    EXPECT_EQ(glued("01020304"), (std::vector<int>{1, 2, 3, 4}));
+    EXPECT_EQ(glued("0102030405060708").size(), 8U);
+    for (const char* cell : {"", "010203", "010203040", "010203040506070809", "0102030400",
+                             "01 02 03 04", "0102030x"}) {
+        EXPECT_EQ(glued(cell), std::vector<int>{}) << cell;
+    }
+}
+
 TEST(ImportHeadings, SayWhatColumnsAre) {
     const auto kind = [](std::string_view text) { return ReadHeading(text).kind; };
     using enum HeadingKind;

@@ -129,6 +129,55 @@ TEST(ImportGuess, GamesAreToldByTheirHeadingThoughTheirDatesDiffer) {
     ExpectDraws(table, draws);
 }
 
+std::string Glued(const std::vector<int>& numbers) {
+    std::string text;
+    for (const int number : numbers) text += TwoDigits(number);
+    return text;
+}
+
+TEST(ImportGuess, NumbersGluedTogetherHaveTwoDigitsEach) {
+    for (int picks = 4; picks <= 7; ++picks) {
+        for (const bool ascending : {true, false}) {
+            // The seventh of numbers in the order of the draw is taken for a bonus ball anyway.
+            if (picks == 7 && !ascending) continue;
+            const Draws draws =
+                MakeDraws({.picks = picks, .highest = 49, .ascending = ascending}, 16);
+            std::string table;
+            for (const MadeDraw& draw : draws) {
+                table += IsoDate(draw.date) + "," + Glued(draw.numbers) + "\n";
+            }
+            ExpectDraws(table, draws);
+            const ImportProposal proposal = ImportByProposal(table).proposal;
+            const auto note = std::find_if(
+                proposal.notes.begin(), proposal.notes.end(),
+                [](const ImportNote& each) { return each.topic == ImportTopic::Numbers; });
+            EXPECT_TRUE(note->guess) << "so that the form asks the user to look";
+        }
+    }
+}
+
+TEST(ImportGuess, ABallMayStandBesideNumbersGluedTogether) {
+    const Draws draws = MakeDraws({.picks = 5, .highest = 50, .highestExtra = 12, .extras = 1}, 17);
+    std::string table = "Draw;Date;Numbers;Star\n";
+    int number = 900;
+    for (const MadeDraw& draw : draws) {
+        table += std::to_string(number--) + ";" + DateBy("D.M.Y", draw.date) + ";" +
+                 Glued(draw.numbers) + ";" + std::to_string(draw.extras[0]) + "\n";
+    }
+    ExpectDraws(table, draws);
+}
+
+TEST(ImportGuess, LongNumbersOfOtherThingsAreNoDraws) {
+    Chance chance(18);
+    std::string table = "Date,Ticket\n";
+    for (const MadeDraw& draw : MakeDraws({.draws = 100}, 18)) {
+        table += IsoDate(draw.date) + ",";
+        for (int i = 0; i < 10; ++i) table += static_cast<char>('0' + chance.Below(10));
+        table += "\n";
+    }
+    EXPECT_NE(ImportByProposal(table).proposal.refusal, "");
+}
+
 TEST(ImportGuess, OfTwoDatesTheOneOfTheDrawIsTaken) {
     const Draws draws = MakeDraws({.picks = 6, .highest = 49, .draws = 40}, 13);
     std::string table = "Claim deadline,Draw date,N1,N2,N3,N4,N5,N6\n";
