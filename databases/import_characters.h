@@ -6,9 +6,9 @@
 #include <string_view>
 
 /// Appends the character in Windows-1252, plain where that reads better: any blank as " ", any dash
-/// as "-", digits and signs of full width as ASCII, letters without accents that Windows-1252
-/// lacks, the signs of Japanese dates as "/". Marks without width append nothing, what is left is
-/// "?".
+/// as "-", digits and signs of full width as ASCII, letters that Windows-1252 lacks without their
+/// accents, Cyrillic and Greek ones in Latin letters, the signs of Japanese dates as "/". Marks
+/// without width append nothing, what is left is "?".
 void AppendPlain(std::string& text, char32_t character);
 
 /// Whether the byte is a letter of Windows-1252.

@@ -8,45 +8,11 @@
 
 #include "core/text.h"
 #include "databases/import_characters.h"
+#include "databases/import_date_words.h"
 
 namespace {
 
 using Form = WrittenDate::Form;
-
-// Twelve a language, January first, without accents.
-constexpr std::string_view monthNames =
-    "january february march april may june july august september october november december "
-    "januar februar marz april mai juni juli august september oktober november dezember "
-    "janvier fevrier mars avril mai juin juillet aout septembre octobre novembre decembre "
-    "enero febrero marzo abril mayo junio julio agosto septiembre octubre noviembre diciembre "
-    "gennaio febbraio marzo aprile maggio giugno luglio agosto settembre ottobre novembre dicembre "
-    "janeiro fevereiro marco abril maio junho julho agosto setembro outubro novembro dezembro "
-    "januari februari maart april mei juni juli augustus september oktober november december "
-    "januari februari mars april maj juni juli augusti september oktober november december "
-    "stycznia lutego marca kwietnia maja czerwca lipca sierpnia wrzesnia pazdziernika listopada "
-    "grudnia ledna unora brezna dubna kvetna cervna cervence srpna zari rijna listopadu prosince "
-    "januar februar marcius aprilis majus junius julius augusztus szeptember oktober november "
-    "december ocak subat mart nisan mayis haziran temmuz agustos eylul ekim kasim aralik "
-    "janner feber mrt april maj juni juli aug setiembre okt nov desember";
-
-// Seven a language, Sunday first. Those of two letters stand for themselves alone.
-constexpr std::string_view weekdayNames =
-    "sunday monday tuesday wednesday thursday friday saturday "
-    "sonntag montag dienstag mittwoch donnerstag freitag samstag "
-    "so mo di mi do fr sa "
-    "dimanche lundi mardi mercredi jeudi vendredi samedi "
-    "domingo lunes martes miercoles jueves viernes sabado "
-    "domenica lunedi martedi mercoledi giovedi venerdi sabato "
-    "domingo segunda terca quarta quinta sexta sabado "
-    "zondag maandag dinsdag woensdag donderdag vrijdag zaterdag "
-    "sondag mandag tirsdag onsdag torsdag fredag lordag "
-    "sunday monday tisdag onsdag thurs friday sonnabend "
-    "su mo tu we th fr sa "
-    "zo ma di wo do vr za "
-    "di lu ma me je ve sa "
-    "do lu ma mi ju vi sa";
-
-constexpr std::string_view fillers = " de del of the le den der am on d t z st nd rd th er ";
 
 template <typename Action>
 void ForEachName(std::string_view names, Action action) {
@@ -112,10 +78,10 @@ struct DateReader::Pieces {
 
 DateReader::DateReader(const DateRules& rules)
     : lastYear_(static_cast<int>(rules.today.year()) + 20) {
-    ForEachName(monthNames, [this](std::string_view name, int index) {
+    ForEachName(import_words::monthNames, [this](std::string_view name, int index) {
         names_.push_back({std::string(name), {.month = index % 12 + 1, .weekday = 0}});
     });
-    ForEachName(weekdayNames, [this](std::string_view name, int index) {
+    ForEachName(import_words::weekdayNames, [this](std::string_view name, int index) {
         names_.push_back({std::string(name), {.month = 0, .weekday = index % 7 + 1}});
     });
     for (std::size_t month = 0; month < 12; ++month) {
@@ -167,7 +133,8 @@ int DateReader::Weekday(std::string_view text) const {
 }
 
 bool DateReader::TakeWord(Pieces& pieces, std::string_view word) const {
-    if (fillers.find(" " + LowerCase(word) + " ") != std::string_view::npos) return true;
+    if (import_words::fillers.find(" " + LowerCase(word) + " ") != std::string_view::npos)
+        return true;
     const Word meaning = Meaning(word);
     if (meaning.month == 0 && meaning.weekday == 0) return false;
     // "mar. 12 mars 2024": of two words that may be a month the first is the day of the week.

@@ -19,8 +19,7 @@ inline constexpr std::size_t largestImport = 16 * 1024 * 1024;
 
 /// What a source holds: its text, or a word on what to do instead.
 struct ImportText {
-    std::string text;  ///< Windows-1252, "?" for what that does not have; digits of full width, odd
-                       ///< blanks, dashes and the signs of Japanese dates are made plain.
+    std::string text;  ///< Windows-1252, made plain as `AppendPlain` does.
     ImportEncoding encoding = ImportEncoding::Utf8;
     std::string refusal;  ///< What the source is and what to do instead; empty where `text` is.
 };

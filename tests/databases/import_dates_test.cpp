@@ -84,6 +84,32 @@ TEST(ImportDates, KnowTheRegionsMonths) {
     EXPECT_EQ(IsoDate(*reader.DateOf(*written, Order::DayMonthYear)), "2024-01-05");
 }
 
+TEST(ImportDates, AreReadInTheLanguagesOfManyOperators) {
+    constexpr auto octobers = std::to_array<const char*>(
+        {"14 октября 2024 г.", "14 окт. 2024", "Пн, 14 октября 2024",
+         "понедельник, 14 ОКТЯБРЯ 2024", "14. lokakuuta 2024", "ma 14. lokakuuta 2024",
+         "maanantai 14 loka 2024", "Δευτέρα 14 Οκτωβρίου 2024"});
+    for (const char* text : octobers)
+        EXPECT_EQ(Read(DecodeImport(text).text), "2024-10-14") << text;
+    constexpr std::string_view russian[] = {"января",   "февраля", "марта",  "апреля",
+                                            "мая",      "июня",    "июля",   "августа",
+                                            "сентября", "октября", "ноября", "декабря"};
+    constexpr std::string_view finnish[] = {"tammi", "helmi", "maalis", "huhti", "touko",  "kesä",
+                                            "heinä", "elo",   "syys",   "loka",  "marras", "joulu"};
+    constexpr std::string_view greek[] = {"Ιανουαρίου",  "Φεβρουαρίου", "Μαρτίου",   "Απριλίου",
+                                          "Μαΐου",       "Ιουνίου",     "Ιουλίου",   "Αυγούστου",
+                                          "Σεπτεμβρίου", "Οκτωβρίου",   "Νοεμβρίου", "Δεκεμβρίου"};
+    for (std::size_t month = 0; month < 12; ++month) {
+        const std::string expected = "2024-" + TwoDigits(static_cast<int>(month) + 1) + "-05";
+        for (const std::string& name :
+             {std::string(russian[month]), std::string(finnish[month]) + "kuuta",
+              std::string(finnish[month]) + "kuu", std::string(greek[month])}) {
+            EXPECT_EQ(Read(DecodeImport("5 " + name + " 2024").text), expected) << name;
+        }
+    }
+    EXPECT_EQ(Read("14 mar 2024"), "2024-03-14") << "though a month in Finnish begins so too";
+}
+
 TEST(ImportDates, TellTheDayOfTheWeek) {
     const DateReader reader(ImportRulesOfDates());
     EXPECT_EQ(reader.Weekday("Wed"), 4);

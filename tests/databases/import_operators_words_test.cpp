@@ -190,7 +190,7 @@ TEST(ImportOperatorsWords, MonthsThatCannotBeReadAreRefusedAndNotMadeOfBalls) {
     const Draws draws =
         MakeDraws({.picks = 6, .highest = 45, .weekdays = {1, 2, 3, 4, 5, 6, 7}, .draws = 300}, 66);
     const Imported imported = ImportByProposal(FileOf(draws, "", [](const MadeDraw& draw) {
-        return DateBy("d октября Y\t", draw.date) + Joined(draw.numbers, " ");
+        return DateBy("d ตุลาคม Y\t", draw.date) + Joined(draw.numbers, " ");
     }));
     EXPECT_NE(imported.proposal.refusal.find("No dates"), std::string::npos)
         << NotesOf(imported.proposal);

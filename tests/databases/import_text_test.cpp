@@ -81,6 +81,13 @@ TEST(ImportText, HasPlainSignsForThoseOfTheWorld) {
     EXPECT_EQ(Decoded("日付 1"), " ? 1");
 }
 
+TEST(ImportText, HasLatinLettersForCyrillicAndGreekOnes) {
+    EXPECT_EQ(Decoded("Тираж 7, Щёлк, объём"), "Tirazh 7, Shchyolk, obyom");
+    EXPECT_EQ(Decoded("АЯ ая Її"), "AYa aya Yiyi");
+    EXPECT_EQ(Decoded("Κλήρωση 7, Ψωμί ς"), "Klirosi 7, Psomi s");
+    EXPECT_EQ(Decoded("ΑΩ αω ϋ"), "AO ao y");
+}
+
 TEST(ImportText, IsRefusedWithAWordOnWhatToDo) {
     EXPECT_EQ(Refusal(""), "There is nothing in it.");
     EXPECT_EQ(Refusal(" \r\n\t"), "There is nothing in it.");
