@@ -12,6 +12,7 @@
 #include "databases/ImportReadingPage.h"
 #include "databases/ImportSources.h"
 #include "databases/ImportTarget.h"
+#include "platform/forms/DroppedFile.h"
 #include "platform/forms/FormLayout.h"
 #include "platform/widgets/Commands.h"
 #include "platform/widgets/IconButton.h"
@@ -26,7 +27,7 @@ ImportDraws::ImportDraws(Program& program, QWidget* parent)
                  tr("Results in any table become a lottery, or its newest draws: a file as the "
                     "operator offers it, a table on a web page, or a web address."));
     LayOutForm(this, title, explanation, MakeBodyLayout(), MakeActions());
-    setAcceptDrops(true);
+    TakeDroppedFiles(*this);
     ConnectSources();
     ConnectPages();
     SetOpeningSize({960, 680});

@@ -51,7 +51,7 @@ Quillon::Quillon(Program& program, QWidget* parent)
     KeepTextBoxesToOneLine(*this);
     resize(QSize(1000, 660).boundedTo(RoomOnScreen(*this)));
     RememberSize(*this, program.services.windows);
-    setAcceptDrops(true);
+    TakeDroppedFiles(*this);
     AnswerMenu();
     AnswerForms();
     AnswerArea();

@@ -173,6 +173,14 @@ TEST_F(ImportDrawsForm, SaysWhatToDoWhereNothingWasCopied) {
     EXPECT_TRUE(TextOf("Hint").startsWith(QStringLiteral("There is no text to paste.")));
 }
 
+TEST_F(ImportDrawsForm, AFileDroppedOnTheBoxOfTheAddressIsNoAddress) {
+    Open();
+    auto* address = Find<QLineEdit>(*form_, "Address");
+    Drop(*address, {QUrl::fromLocalFile(UserFile("village.csv", ResultsCsv(PublishedDraws(30))))});
+    EXPECT_EQ(address->text(), QString());
+    EXPECT_EQ(ImportButton().text(), QStringLiteral("Import 30 draws"));
+}
+
 TEST_F(ImportDrawsForm, TakesAFileThatIsDroppedOnIt) {
     Open();
     Drop(*form_, {QUrl::fromLocalFile(UserFile("village.csv", ResultsCsv(PublishedDraws(30))))});

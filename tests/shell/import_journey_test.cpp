@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -55,6 +56,23 @@ TEST_F(ImportJourney, AFileDroppedBecomesALotteryToPlayInTwoClicks) {
                  EXPECT_EQ(program.state.MaxNum, 49);
                  EXPECT_FALSE(Find<Grid>(form, linesGrid)->Cell(1, 1).isEmpty());
              });
+}
+
+TEST_F(ImportJourney, AFileDroppedOnTheNotePadIsNoNote) {
+    Start();
+    Choose("FileNotes");
+    auto* pad = Find<QPlainTextEdit>(*window, notePad);
+    ASSERT_TRUE(pad->viewport()->acceptDrops());
+    for (QWidget* box : {pad->viewport(), Find<QWidget>(*window, newItemBox)}) {
+        QString opened;
+        InDialog([&] { Drop(*box, {QUrl::fromLocalFile(ResultsFile())}); },
+                 [&](QDialog& form) {
+                     opened = Find<QPushButton>(form, "Import")->text();
+                     Click(form, "Close");
+                 });
+        EXPECT_EQ(opened, QStringLiteral("Import 60 draws"));
+    }
+    EXPECT_EQ(pad->toPlainText(), QString());
 }
 
 TEST_F(ImportJourney, TheMenuOpensTheFormWithoutASource) {

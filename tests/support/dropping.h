@@ -7,14 +7,21 @@
 #include <QMimeData>
 #include <QUrl>
 
-/// Drags the files onto the window and drops them, where it takes them.
-inline void Drop(QWidget& window, const QList<QUrl>& files) {
+/// Drags the files onto the control and drops them where they are taken: there, or on what it lies
+/// in.
+inline void Drop(QWidget& target, const QList<QUrl>& files) {
     QMimeData dragged;
     dragged.setUrls(files);
-    QDragEnterEvent enter({100, 100}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    QApplication::sendEvent(&window, &enter);
-    if (!enter.isAccepted()) return;
-    QDropEvent drop(QPointF(100, 100), Qt::CopyAction, &dragged, Qt::LeftButton, {});
-    QApplication::sendEvent(&window, &drop);
-    QApplication::processEvents();
+    for (QWidget* widget = &target; widget != nullptr; widget = widget->parentWidget()) {
+        QDragEnterEvent enter({10, 10}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+        enter.ignore();
+        if (widget->acceptDrops()) QApplication::sendEvent(widget, &enter);
+        if (enter.isAccepted()) {
+            QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QApplication::sendEvent(widget, &drop);
+            QApplication::processEvents();
+            return;
+        }
+        if (widget->isWindow()) return;
+    }
 }
