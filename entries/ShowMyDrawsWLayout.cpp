@@ -184,8 +184,9 @@ std::vector<QWidget*> ShowMyDrawsW::MakeSortRow() {
 QLayout* ShowMyDrawsW::MakeCheck() {
     auto* check = new QVBoxLayout;
     check->setSpacing(8);
-    check->addWidget(MakeCommand(QStringLiteral("Command2"), tr("Check"),
-                                 tr(" See if you have won! "), &ShowMyDrawsW::Check),
+    check->addWidget(WithKeysOf(Command::Generate,
+                                MakeCommand(QStringLiteral("Command2"), tr("Check"),
+                                            tr(" See if you have won! "), &ShowMyDrawsW::Check)),
                      0, Qt::AlignLeft);
     QLabel* explanation =
         MakeBody(QStringLiteral("Label9"),

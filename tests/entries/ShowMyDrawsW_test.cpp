@@ -661,6 +661,12 @@ TEST_F(ShowingEntries, TheCheckPaintsWhatMatches) {
     EXPECT_EQ(Entries().CellColour(3, 8), QColor(160, 0, 0));
 }
 
+TEST_F(ShowingEntries, TheKeysThatGenerateElsewhereCheckHere) {
+    Open();
+    QTest::keyClick(&Item(), Qt::Key_F5);
+    EXPECT_EQ(Entries().CellBackground(1, 1), yellow);
+}
+
 TEST_F(ShowingEntries, MatchesAreToldWithoutColoursToo) {
     Open();
     Run(checkButton);
