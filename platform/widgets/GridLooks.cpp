@@ -3,6 +3,7 @@
 
 #include <QPainter>
 
+#include "platform/widgets/Contrast.h"
 #include "platform/widgets/Grid.h"
 #include "platform/widgets/Readable.h"
 #include "platform/widgets/WindowShade.h"
@@ -11,6 +12,7 @@ namespace {
 
 constexpr int frameWidth = 2;
 constexpr int markedShade = 112;
+constexpr double readableContrast = 4.5;
 
 bool IsLight(const QColor& colour) { return qGray(colour.rgb()) >= 128; }
 
@@ -80,7 +82,9 @@ void GridDelegate::ColourText(QStyleOptionViewItem& option, const QModelIndex& i
     }
     if (!colour.isValid()) return;
     option.palette.setColor(QPalette::Text, colour);
-    option.palette.setColor(QPalette::HighlightedText, colour);
+    option.palette.setColor(
+        QPalette::HighlightedText,
+        StandingOut(colour, option.palette.color(QPalette::Highlight), readableContrast));
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -8,8 +8,8 @@
 #include <QHeaderView>
 #include <QSignalSpy>
 #include <QStyle>
-#include <cmath>
 
+#include "platform/widgets/Contrast.h"
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
 
@@ -135,19 +135,6 @@ TEST_F(AGrid, FollowsTheWidthsToldByColumnAndHidesColumnsOfNone) {
     EXPECT_EQ(grid.width(), 120 + scrollBar + 6);
 }
 
-/// How much lighter one colour is than another, from 1 to 21; text is read well from 4.5 on.
-double Contrast(const QColor& first, const QColor& second) {
-    const auto luminance = [](const QColor& colour) {
-        const auto part = [](double value) {
-            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) +
-               0.0722 * part(colour.blueF());
-    };
-    const auto [low, high] = std::minmax({luminance(first), luminance(second)});
-    return (high + 0.05) / (low + 0.05);
-}
-
 struct AGridInAWindow : testing::Test {
     void Show(const QColor& background) {
         window.setPalette(QPalette(background));
@@ -205,6 +192,18 @@ TEST_F(AGridInAWindow, PaintsDarkCounterpartsOfColoursThatStayInTheModel) {
     const QColor ink = Ink(1, 2);
     EXPECT_GT(ink.red(), ink.blue() + 40);
     EXPECT_GE(Contrast(ink, Pixel(1, 2, {3, 3})), 4.5);
+}
+
+TEST_F(AGridInAWindow, PaintsColoursOfTheChosenRowToBeReadInEveryWindow) {
+    grid.SetCell(1, 2, QStringLiteral("WWW"));
+    grid.SetCellColour(1, 2, QColor(0xa0, 0, 0));
+    grid.selectRow(0);
+    for (const QColor& around : {QColor(0x20, 0x20, 0x20), QColor(0xf0, 0xf0, 0xf0)}) {
+        Show(around);
+        const QColor ink = Ink(1, 2);
+        EXPECT_GT(ink.red(), ink.blue());
+        EXPECT_GE(Contrast(ink, Pixel(1, 2, {3, 3})), 4.5) << ink.name().toStdString();
+    }
 }
 
 TEST_F(AGridInAWindow, PaintsDarkTextOnTheColoursOfMatches) {
