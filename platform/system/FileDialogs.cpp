@@ -31,6 +31,12 @@ QString DisksFolder() {
     return QDir::homePath();
 }
 
+/// A folder that the desktop keeps for the user, or their own where it has none.
+QString UsersFolder(QStandardPaths::StandardLocation location) {
+    const QString folder = QStandardPaths::writableLocation(location);
+    return QFileInfo(folder).isDir() ? folder : QDir::homePath();
+}
+
 QString ChosenIn(QFileDialog& dialog) {
     if (dialog.exec() != QDialog::Accepted) return {};
     return dialog.selectedFiles().value(0);
@@ -39,8 +45,7 @@ QString ChosenIn(QFileDialog& dialog) {
 }  // namespace
 
 QString AskForPdfFile(QWidget* parent, const QString& proposed) {
-    QFileDialog dialog(parent, Said("Save as PDF"),
-                       QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+    QFileDialog dialog(parent, Said("Save as PDF"), UsersFolder(QStandardPaths::DocumentsLocation),
                        Said("PDF documents (*.pdf)"));
     dialog.setObjectName(QStringLiteral("SavePdfDialog"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -58,8 +63,7 @@ QString ChooseFolder(QWidget* parent, const QString& title) {
 }
 
 QString ChooseFile(QWidget* parent, const QString& title, const QString& filter) {
-    QFileDialog dialog(parent, title,
-                       QStandardPaths::writableLocation(QStandardPaths::DownloadLocation), filter);
+    QFileDialog dialog(parent, title, UsersFolder(QStandardPaths::DownloadLocation), filter);
     dialog.setObjectName(QStringLiteral("ChooseFileDialog"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return ChosenIn(dialog);

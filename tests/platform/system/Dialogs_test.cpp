@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 #include "platform/system/ColourDialog.h"
@@ -80,6 +81,19 @@ TEST(TheFileDialog, GivesAFileThatThereIs) {
                  dialog.accept();
              });
     EXPECT_EQ(chosen, path);
+}
+
+TEST(TheFileDialog, BeginsAtHomeWhereThereAreNoDownloads) {
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("HOME");
+    qputenv("HOME", QFile::encodeName(home.path()));
+    InDialog([&] { ChooseFile(nullptr, QString(), QString()); },
+             [&](QDialog& dialog) {
+                 EXPECT_EQ(dynamic_cast<QFileDialog&>(dialog).directory().path(), home.path());
+                 EXPECT_EQ(Find<QLineEdit>(dialog, "fileNameEdit")->text(), QString());
+                 dialog.reject();
+             });
+    qputenv("HOME", before);
 }
 
 TEST(TheFileDialog, GivesNothingWhereItIsCancelled) {
