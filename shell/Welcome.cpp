@@ -32,8 +32,10 @@ Welcome::Welcome(QWidget* parent) : QWidget(parent) {
     layout->setContentsMargins(28, 18, 28, 18);
     layout->setSpacing(2);
     layout->addWidget(MakeTitle(QStringLiteral("WelcomeTitle"), tr("Good luck!"), this));
-    layout->addWidget(MakeLabel(QStringLiteral("WelcomeLine"),
-                                tr("Every method of play is in the menu above. To begin:"), this));
+    layout->addWidget(MakeLabel(
+        QStringLiteral("WelcomeLine"),
+        tr("Every method of play is in the menu above, and F1 helps in every window. To begin:"),
+        this));
     layout->addSpacing(8);
     setUp_ =
         AddStep("DatabasesCreate", "toolbar02", tr("Set up your lottery"),
