@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/system/ProgramFolderPath.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <filesystem>
@@ -9,6 +10,7 @@
 
 #include "core/failure.h"
 #include "platform/system/DiskFolder.h"
+#include "platform/system/HelpPages.h"
 #include "platform/system/TextConversion.h"
 #include "platform/system/file_io.h"
 
@@ -71,5 +73,6 @@ QString ProgramFolderPath(const QString& executableFolder, const QString& userDa
     DiskFolder own(userDataFolder);
     CopyWhatIsMissing(shared, {}, own);
     CopyWhatIsMissing(shared, "help", own);
+    RenewHelpPages(shared, userDataFolder, QCoreApplication::applicationVersion());
     return userDataFolder;
 }

@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 #include <csignal>
 #include <filesystem>
@@ -694,6 +695,57 @@ TEST_F(InstalledProgram, FillsTheFolderOfTheHelpPages) {
     ProgramFolderPath(executables_, user_);
     EXPECT_EQ(BytesOf(own / "help" / "help.css"), "body {}");
     EXPECT_EQ(BytesOf(own / "help" / "Quillon.png"), "mine");
+}
+
+TEST_F(InstalledProgram, RenewsHelpPagesThatNobodyHasChanged) {
+    Install();
+    const fs::path shared = path_ / "share" / "quillon";
+    const fs::path own = user_.toStdString();
+    const auto start = [this](const char* version) {
+        QCoreApplication::setApplicationVersion(QString::fromLatin1(version));
+        ProgramFolderPath(executables_, user_);
+        QCoreApplication::setApplicationVersion({});
+    };
+    fs::create_directories(shared / "help");
+    for (const char* page : {"help.html", "helpplay.html", "help/help.css", "help/About.png"}) {
+        Put(shared / page, "of the first version");
+    }
+    start("1");
+    Put(own / "helpplay.html", "with a remark of mine");
+    Put(own / "help" / "About.png", "a picture of mine");
+    for (const char* page : {"help.html", "helpplay.html", "help/help.css", "help/About.png"}) {
+        Put(shared / page, "of the second version");
+    }
+    Put(shared / "dbase1.txt", "Demo of the second version\r\n");
+    start("1");
+    EXPECT_EQ(BytesOf(own / "help.html"), "of the first version") << "it is the same program";
+    for (const char* version : {"2", "3"}) {
+        start(version);
+        EXPECT_EQ(BytesOf(own / "help.html"), "of the second version");
+        EXPECT_EQ(BytesOf(own / "help" / "help.css"), "of the second version");
+        EXPECT_EQ(BytesOf(own / "helpplay.html"), "with a remark of mine");
+        EXPECT_EQ(BytesOf(own / "help" / "About.png"), "a picture of mine");
+        EXPECT_EQ(BytesOf(own / "dbase1.txt"), "Demo\r\n") << "that is no help page";
+    }
+}
+
+TEST_F(InstalledProgram, LeavesHelpPagesOfWhichNothingIsRemembered) {
+    Install();
+    const fs::path own = user_.toStdString();
+    fs::create_directories(path_ / "share" / "quillon" / "help");
+    fs::create_directories(own / "help");
+    Put(path_ / "share" / "quillon" / "help.html", "of the program");
+    Put(own / "help.html", "of who knows whom");
+    ProgramFolderPath(executables_, user_);
+    EXPECT_EQ(BytesOf(own / "help.html"), "of who knows whom");
+}
+
+TEST_F(InstalledProgram, StartsWhereAHelpPageCannotBeRenewed) {
+    Install();
+    const fs::path own = user_.toStdString();
+    fs::create_directories(path_ / "share" / "quillon" / "help");
+    fs::create_directories(own / "help" / "supplied");
+    EXPECT_EQ(ProgramFolderPath(executables_, user_), user_);
 }
 
 TEST_F(InstalledProgram, NamesTheFolderWhoseBytesAreNoText) {
