@@ -18,12 +18,16 @@ static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
 Application::Application(int& argumentCount, char** arguments)
     : QApplication(argumentCount, arguments) {
     RegisterIcons();
-    setApplicationName(QStringLiteral("quillon"));
-    setApplicationVersion(ToQString(ProgramVersion()));
+    TellNames();
     setDesktopFileName(QStringLiteral("quillon"));
     setStyle(new OutlinedStyle);
     QIcon::setFallbackThemeName(QStringLiteral("breeze"));
     setWindowIcon(QIcon(QStringLiteral(":/icons/icons/quillon.svg")));
+}
+
+void Application::TellNames() {
+    setApplicationName(QStringLiteral("quillon"));
+    setApplicationVersion(ToQString(ProgramVersion()));
 }
 
 QString Application::ReportOf(const std::exception& error) const {

@@ -14,6 +14,9 @@ class Application final : public QApplication {
   public:
     Application(int& argumentCount, char** arguments);
 
+    /// Gives the process the program's name and version.
+    static void TellNames();
+
     bool notify(QObject* receiver, QEvent* event) override;
 
     /// Runs the program under the same guard, for what fails before the event loop.

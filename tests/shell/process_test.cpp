@@ -13,6 +13,7 @@
 #include "core/settings.h"
 #include "platform/system/DiskFolder.h"
 #include "platform/system/OneRun.h"
+#include "shell/program_version.h"
 #include "tests/support/form_test.h"
 
 namespace {
@@ -267,6 +268,25 @@ TEST_F(Process, AConfigurationOfQtInItsFolderLeadsTheProgramNowhere) {
     EXPECT_TRUE(QFile::exists(folderPath + QStringLiteral("/quillon.ini")));
     process.kill();
     process.waitForFinished();
+}
+
+// A terminal may have none, and who asks for the version may be a script.
+TEST_F(Process, TellsItsVersionWithoutADisplay) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        environment.remove(QString::fromLatin1(display));
+    }
+    for (const auto& [option, words] :
+         {std::pair("--version", "quillon " + ProgramVersion() + "\n"),
+          std::pair("-h", std::string("Usage: "))}) {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(QUILLON_EXECUTABLE), {QString::fromLatin1(option)});
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), 0);
+        EXPECT_TRUE(process.readAllStandardOutput().toStdString().starts_with(words)) << option;
+    }
 }
 
 }  // namespace
