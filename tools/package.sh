@@ -28,5 +28,8 @@ cmake -D OUT="$out/release-notes.md" -P packaging/release_notes.cmake ||
     Fail "the release notes could not be taken from CHANGELOG.md"
 
 package=$(echo "$out"/*.deb)
+tests/packaging/contents.sh "$package" || Fail "the Debian package has not the files that it should have"
+tests/packaging/contents.sh "$(echo "$out"/*.tar.gz)" ||
+    Fail "the portable archive has not the files that it should have"
 lintian --fail-on error,warning "$package" || Fail "lintian has found something in $package"
 ls -lh "$out"
