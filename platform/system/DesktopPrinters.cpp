@@ -2,9 +2,11 @@
 #include "platform/system/DesktopPrinters.h"
 
 #include <QCoreApplication>
-#include <QSettings>
+#include <QStandardPaths>
 #include <QUrl>
+#include <memory>
 
+#include "platform/system/OwnSettings.h"
 #include "platform/system/SystemPrinter.h"
 
 namespace {
@@ -13,24 +15,33 @@ namespace {
 class PrinterSettings {
   public:
     explicit PrinterSettings(const QString& printer)
-        : settings_(QStringLiteral("quillon"), QStringLiteral("printers")) {
-        settings_.beginGroup(QString::fromLatin1(QUrl::toPercentEncoding(printer)));
+        : settings_(OpenOwnSettings(
+              QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) %
+                  QStringLiteral("/quillon/printers.conf"),
+              QSettings::NativeFormat)) {
+        if (settings_) {
+            settings_->beginGroup(QString::fromLatin1(QUrl::toPercentEncoding(printer)));
+        }
     }
 
     double Read(const char* name, double usual) const {
         bool number = false;
-        const double value = settings_.value(QString::fromLatin1(name), usual).toDouble(&number);
+        if (!settings_) return usual;
+        const double value = settings_->value(QString::fromLatin1(name), usual).toDouble(&number);
         return number ? value : usual;
     }
 
     void Write(const char* name, double value) {
-        settings_.setValue(QString::fromLatin1(name), QString::number(value, 'g', 15));
+        if (!settings_) return;
+        settings_->setValue(QString::fromLatin1(name), QString::number(value, 'g', 15));
     }
 
-    void Clear() { settings_.remove(QString()); }
+    void Clear() {
+        if (settings_) settings_->remove(QString());
+    }
 
   private:
-    QSettings settings_;
+    std::unique_ptr<QSettings> settings_;
 };
 
 constexpr const char* moveAcross = "MoveAcross";

@@ -6,9 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QStandardPaths>
 #include <map>
+
+#include "platform/system/OwnSettings.h"
 
 namespace {
 
@@ -54,23 +55,25 @@ QStringList RescuedFiles(const std::vector<QString>& places) {
 }
 
 void NoteOrigin(const QString& file, const QString& folder, const QString& record) {
-    QSettings settings(record, QSettings::IniFormat);
-    std::map<QString, QString> origins = OriginsIn(settings);
+    const auto settings = OpenOwnSettings(record);
+    if (!settings) return;
+    std::map<QString, QString> origins = OriginsIn(*settings);
     origins[file] = folder;
-    settings.beginWriteArray(originsKey);
+    settings->beginWriteArray(originsKey);
     int index = 0;
     for (const auto& [rescued, from] : origins) {
         if (!QFile::exists(rescued)) continue;
-        settings.setArrayIndex(index++);
-        settings.setValue(fileKey, rescued);
-        settings.setValue(folderKey, from);
+        settings->setArrayIndex(index++);
+        settings->setValue(fileKey, rescued);
+        settings->setValue(folderKey, from);
     }
-    settings.endArray();
+    settings->endArray();
 }
 
 QStringList FromFolder(const QStringList& files, const QString& folder, const QString& record) {
-    QSettings settings(record, QSettings::IniFormat);
-    const std::map<QString, QString> origins = OriginsIn(settings);
+    const auto settings = OpenOwnSettings(record);
+    if (!settings) return files;
+    const std::map<QString, QString> origins = OriginsIn(*settings);
     const QString own = QFileInfo(folder).canonicalFilePath();
     QStringList result;
     for (const QString& file : files) {
@@ -84,14 +87,15 @@ QStringList FromFolder(const QStringList& files, const QString& folder, const QS
 
 QStringList FirstTold(const QStringList& files, const QString& record) {
     const QString key = QStringLiteral("told");
-    QSettings settings(record, QSettings::IniFormat);
-    QStringList told = settings.value(key).toStringList();
+    const auto settings = OpenOwnSettings(record);
+    if (!settings) return files;
+    QStringList told = settings->value(key).toStringList();
     QStringList untold;
     for (const QString& file : files) {
         if (!told.contains(file)) untold += file;
     }
     if (untold.isEmpty()) return untold;
     told.removeIf([](const QString& file) { return !QFile::exists(file); });
-    settings.setValue(key, told + untold);
+    settings->setValue(key, told + untold);
     return untold;
 }

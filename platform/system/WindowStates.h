@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QSettings>
 #include <QSize>
+#include <QString>
+#include <memory>
 #include <optional>
+
+class QSettings;
 
 /// How large a window was left by its user.
 struct WindowState {
@@ -17,7 +20,10 @@ struct WindowState {
 /// goes unnoticed, as a window then opens in its usual size.
 class WindowStates {
   public:
-    explicit WindowStates(const QString& path) : file_(path, QSettings::IniFormat) {}
+    explicit WindowStates(const QString& path);
+    ~WindowStates();
+    WindowStates(const WindowStates&) = delete;
+    WindowStates& operator=(const WindowStates&) = delete;
 
     std::optional<WindowState> Of(const QString& window) const;
 
@@ -25,5 +31,5 @@ class WindowStates {
     void Keep(const QString& window, const WindowState& state);
 
   private:
-    QSettings file_;
+    std::unique_ptr<QSettings> file_;
 };

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every file that the program reads, damaged in every way, on a real folder and through the forms
 // that read it. The program goes on as it is told to, or ends with the report that names the file
-// and the line; no signal, no hang, no more than 200 MB, and no file is changed. Without orders a
-// sample is tried; `--all` tries everything.
-#include <fcntl.h>
+// and the line; no signal, no hang, no more than 200 MB or ten seconds of a processor, and no file
+// is changed. Without orders a sample is tried; `--all` tries everything, `--only TEXT` the damages
+// whose names hold the text.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,12 +12,16 @@
 #include <QTemporaryDir>
 #include <array>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 
+#include "platform/forms/WindowSize.h"
+#include "platform/system/DesktopPrinters.h"
+#include "platform/system/RescuedFiles.h"
+#include "platform/system/WindowStates.h"
 #include "platform/widgets/Lists.h"
 #include "shell/Application.h"
 #include "test_folders.h"
+#include "tests/faults/damages.h"
 #include "tests/faults/forked_run.h"
 #include "tests/faults/used_folder.h"
 
@@ -26,17 +30,19 @@ namespace fs = std::filesystem;
 namespace {
 
 bool everything = false;
+std::string only;  // what the names of the damages hold that are to be tried
 long long tried = 0;
 
 #ifdef QUILLON_SANITIZE
 constexpr std::size_t sampleStep = 6;
-constexpr bool measuresMemory = false;  // a sanitizer takes many times more
+constexpr bool measures = false;  // a sanitizer takes many times more
 #else
 constexpr std::size_t sampleStep = 2;
-constexpr bool measuresMemory = true;
+constexpr bool measures = true;
 #endif
 
 constexpr long mostMemory = 200L * 1024;  // KiB
+constexpr double mostSeconds = 10;        // of a processor, so a busy computer makes no difference
 
 /// A file and the places where the program reads it.
 struct Reader {
@@ -88,6 +94,33 @@ void ReadWheel(Session& session) { Open(session, "PlayWheel49", "Wheel49"); }
 
 void ReadInfo(Session& session) { Open(session, "HelpLotteryInfo", "LotteryInfo"); }
 
+void ReadFormats(Session& session) { Open(session, "DatabaseImport", "ImportDraws"); }
+
+// The files of the user's own configuration lie in the program's folder here.
+QString Own(Session& session, const char* name) {
+    return session.folder.Path() % QLatin1Char('/') % QLatin1String(name);
+}
+
+void ReadWindowSizes(Session& session) {
+    WindowStates states(Own(session, "windows.ini"));
+    QWidget window;
+    window.setObjectName(QStringLiteral("HistoryW"));
+    RememberSize(window, &states);
+    window.show();
+}
+
+void ReadCorrections(Session& session) {
+    QStandardPaths::setTestModeEnabled(false);
+    qputenv("XDG_CONFIG_HOME", session.folder.Path().toUtf8());
+    DesktopPrinters().CorrectionOf(QStringLiteral("Office"));
+}
+
+void ReadRescued(Session& session) {
+    const QString record = Own(session, "rescued.ini");
+    const QString file = Own(session, "Notes.txt");
+    if (FromFolder({file}, session.folder.Path(), record).isEmpty()) FirstTold({}, record);
+}
+
 // To try a file that the program reads, add its line here.
 constexpr auto readers = std::to_array<Reader>({
     {"Settings", "quillon.ini", Start, true},
@@ -102,78 +135,11 @@ constexpr auto readers = std::to_array<Reader>({
     {"SlipTemplate", "PTemplate.000", ReadSlips},
     {"Wheel", "wheel49.dat", ReadWheel},
     {"LotteryInfo", "Lottery Info.txt", ReadInfo},
+    {"ImportFormats", "ImportFormats.txt", ReadFormats},
+    {"WindowSizes", "windows.ini", ReadWindowSizes},
+    {"PrinterCorrections", "quillon/printers.conf", ReadCorrections},
+    {"RescuedFiles", "rescued.ini", ReadRescued},
 });
-
-std::string BytesOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-void Put(const fs::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-/// One way to damage a file.
-struct Damage {
-    std::string name;
-    std::function<void(const fs::path& file)> make;
-};
-
-Damage Holding(const std::string& name, const std::string& bytes) {
-    return {name, [bytes](const fs::path& file) { Put(file, bytes); }};
-}
-
-std::string Garbage(std::size_t size) {
-    std::string bytes(size, '\0');
-    std::uint32_t state = 20050601;
-    for (char& byte : bytes) {
-        state = state * 1664525U + 1013904223U;
-        byte = static_cast<char>(state >> 24U);
-    }
-    return bytes;
-}
-
-std::string Repeated(const std::string& piece, std::size_t size) {
-    std::string bytes;
-    while (bytes.size() < size) bytes += piece;
-    return bytes;
-}
-
-// Not a file, or one that is no text.
-std::vector<Damage> Replacements() {
-    return {
-        Holding("empty", ""),
-        Holding("garbage", Garbage(4096)),
-        Holding("one long line", std::string(100'000, 'x')),
-        Holding("commas", std::string(20'000, ',')),
-        Holding("line ends", std::string(5'000, '\n')),
-        Holding("huge numbers", Repeated("99999999999999999999,", 5'000)),
-        Holding("numbers beyond every table", Repeated("32767,", 5'000)),
-        {"folder", [](const fs::path& file) { fs::create_directory(file); }},
-        {"endless device", [](const fs::path& file) { fs::create_symlink("/dev/zero", file); }},
-        {"link to itself", [](const fs::path& file) { fs::create_symlink(file, file); }},
-        {"pipe", [](const fs::path& file) { ::mkfifo(file.c_str(), 0600); }},
-        {"200 MB",
-         [](const fs::path& file) {
-             Put(file, "");
-             fs::resize_file(file, std::uintmax_t{200} * 1024 * 1024);
-         }},
-    };
-}
-
-// So many bytes of the file, as many of all sizes as are to be tried.
-std::vector<Damage> Truncations(const std::string& bytes) {
-    const std::size_t most = everything ? 250 : 8;
-    const std::size_t step = bytes.size() / most + 1;
-    std::vector<Damage> damages;
-    for (std::size_t size = bytes.size(); size-- > 0;) {
-        const bool nearEnd = everything && bytes.size() - size <= 40;
-        if (size % step != 0 && !nearEnd) continue;
-        damages.push_back(
-            Holding("the first " + std::to_string(size) + " bytes", bytes.substr(0, size)));
-    }
-    return damages;
-}
 
 // A folder as it stands, without reading what lies in it: some of it is endless.
 std::string Fingerprint(const fs::path& folder) {
@@ -208,6 +174,19 @@ class BadInput : public testing::TestWithParam<Reader> {
             fs::copy_file(fs::path(SUPPLIED_DATA) / file, path_ / file);
             fs::permissions(path_ / file, fs::perms::owner_all);
         }
+        PutOwnFiles();
+    }
+
+    void PutOwnFiles() {
+        Put(path_ / "ImportFormats.txt",
+            "# mine\r\n[https://one.example/lotto.csv]\r\nlottery = dbase100.txt\r\n"
+            "headings = Date | Ball 1 | Ball 2\r\ncolumns = date, number, number\r\n");
+        Put(path_ / "windows.ini", "[HistoryW]\nmaximized=false\nsize=@Size(700 500)\n");
+        Put(path_ / "rescued.ini",
+            "[General]\ntold=/home/ann/a.txt, /home/ann/b.txt\n[origins]\n"
+            "1\\file=/home/ann/a.txt\n1\\folder=/home/ann\nsize=1\n");
+        fs::create_directory(path_ / "quillon");
+        Put(path_ / "quillon" / "printers.conf", "[Office]\nMoveAcross=1.5\nScaleDown=99\n");
     }
 
     // On a disk: a file of 200 MB without contents takes no room there.
@@ -229,8 +208,10 @@ class BadInput : public testing::TestWithParam<Reader> {
         if (run.end == RunEnd::Died) return "it died";
         if (Fingerprint(path_) != print) return "it changed a file";
         const long taken = run.peakMemory - before;
-        if (measuresMemory && taken > mostMemory)
+        if (measures && taken > mostMemory)
             return "it took " + std::to_string(taken / 1024) + " MB";
+        if (measures && run.seconds > mostSeconds)
+            return "it took " + std::to_string(run.seconds) + " seconds";
         if (run.end != RunEnd::Reported) return {};
         const auto reports = record_.Entries(Record::Kind::Report);
         if (reports.empty()) return "it ended without a report";
@@ -246,6 +227,10 @@ class BadInput : public testing::TestWithParam<Reader> {
         EXPECT_EQ(Run(), "") << GetParam().file << ": " << damage.name;
         fs::remove_all(file);
         fs::rename(sound, file);
+    }
+
+    void TryIfAsked(const Damage& damage) {
+        if (damage.name.find(only) != std::string::npos) Try(damage);
     }
 
     Record record_;
@@ -265,14 +250,20 @@ TEST_P(BadInput, IsReportedOrTakenAsItIs) {
     // Without settings the program makes new ones.
     if (GetParam().file != std::string("quillon.ini"))
         damages.push_back({"missing", [](const fs::path&) {}});
-    for (Damage& damage : Truncations(BytesOf(path_ / GetParam().file)))
-        damages.push_back(std::move(damage));
-    // The sample begins at another damage with each file.
+    const std::string bytes = BytesOf(path_ / GetParam().file);
+    for (Damage& damage : Truncations(bytes, everything)) damages.push_back(std::move(damage));
+    // The sample begins at another damage with each file. Of the large lines it has one.
     static std::size_t reader = 0;
+    ++reader;
+    const std::vector<Damage> large = LargeLines(bytes);
     const std::size_t step = everything ? 1 : sampleStep;
-    for (std::size_t i = ++reader % step; i < damages.size(); i += step) Try(damages[i]);
+    for (std::size_t i = reader % step; i < damages.size(); i += step) TryIfAsked(damages[i]);
+    for (std::size_t i = 0; i < large.size(); ++i) {
+        if (everything || i == reader % 4) TryIfAsked(large[i]);
+    }
     if (everything) {
-        std::cout << GetParam().file << ": " << damages.size() << " damages" << std::endl;
+        std::cout << GetParam().file << ": " << damages.size() + large.size() << " damages"
+                  << std::endl;
     }
 }
 
@@ -287,7 +278,11 @@ extern "C" int __lsan_is_turned_off() { return 1; }
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
-    for (int i = 1; i < argumentCount; ++i) everything |= std::string(arguments[i]) == "--all";
+    for (int i = 1; i < argumentCount; ++i) {
+        const std::string order = arguments[i];
+        everything |= order == "--all";
+        if (order == "--only" && i + 1 < argumentCount) only = arguments[++i];
+    }
     Application application(argumentCount, arguments);
     QStandardPaths::setTestModeEnabled(true);
     const int result = RUN_ALL_TESTS();

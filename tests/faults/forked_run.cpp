@@ -45,6 +45,10 @@ void AnswerReport(Record& record) {
     ::_exit(EXIT_SUCCESS);
 }
 
+double Seconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) / 1e6;
+}
+
 RunEnd EndOf(int status) {
     if (WIFSIGNALED(status)) return WTERMSIG(status) == SIGALRM ? RunEnd::Hung : RunEnd::Died;
     switch (WEXITSTATUS(status)) {
@@ -69,7 +73,9 @@ ForkedRun RunForked(Record& record, const std::function<void()>& run) {
     rusage usage{};
     while (::wait4(child, &status, 0, &usage) == -1 && errno == EINTR) {
     }
-    return {.end = EndOf(status), .peakMemory = usage.ru_maxrss};
+    return {.end = EndOf(status),
+            .peakMemory = usage.ru_maxrss,
+            .seconds = Seconds(usage.ru_utime) + Seconds(usage.ru_stime)};
 }
 
 long MemoryNow() {

@@ -17,6 +17,7 @@ enum class RunEnd {
 struct ForkedRun {
     RunEnd end = RunEnd::Died;
     long peakMemory = 0;  ///< What it took at most, in KiB, what it had at the fork included.
+    double seconds = 0;   ///< What it took of a processor, however busy the computer is.
 };
 
 /// Runs `run` in a child of this process, under the guard of the real application. The report of a
