@@ -49,22 +49,22 @@ void PutDetails(State& state, const SyndicateDetails& details) {
 
 namespace {
 
-// Settings that were read anew may name the file of another syndicate than the one in memory. A
-// file that cannot be looked at is left to the save, which says why.
-bool FileIsOfAnother(const State& state, const ProgramFolder& folder) {
+// Settings that were read anew may name the file of another syndicate than the one in memory, or
+// none. A file that cannot be looked at is left to the save, which says why.
+bool HasNoFile(const State& state, const ProgramFolder& folder) {
+    const std::string& file = state.Settings(setting::SyndicateFile);
+    if (file.empty()) return !state.MembersOnDisk.empty();
     try {
-        return HoldsAnother(folder, state.Settings(setting::SyndicateFile), state.MembersOnDisk);
+        return HoldsAnother(folder, file, state.MembersOnDisk);
     } catch (const Failure&) {
         return false;
     }
 }
 
 void SaveOpenSyndicate(State& state, ProgramFolder& folder) {
-    if (!FileIsOfAnother(View(state), folder)) return SaveSyndicate(state, folder);
+    if (!HasNoFile(View(state), folder)) return SaveSyndicate(state, folder);
     const std::string text = SyndicateText(state);
-    if (text != state.MembersOnDisk) {
-        KeepUnsaved(folder, View(state).Settings(setting::SyndicateFile), text);
-    }
+    if (text != state.MembersOnDisk) KeepUnsaved(folder, "SMembers", text);
 }
 
 }  // namespace
