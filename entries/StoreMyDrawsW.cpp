@@ -79,7 +79,8 @@ void StoreMyDrawsW::Add() {
     grid_->ScrollToRow(row);
     WriteEntry(row);
     GoToRow(row);
-    for (NumberBox* box : boxes_) box->clear();
+    // A box that was emptied by `clear` would take Ctrl+Z for its own.
+    for (NumberBox* box : boxes_) box->setText({});
     Box(1)->setFocus();
 }
 

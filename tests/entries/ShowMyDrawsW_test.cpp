@@ -1147,6 +1147,16 @@ TEST_F(ShowingEntries, NeedNoCopyWhereTheyAreOnlySorted) {
     EXPECT_TRUE(test_.folder.OldFiles().empty());
 }
 
+TEST_F(ShowingEntries, CountAsChangedByADateCommandThatFoundNoDate) {
+    Open();
+    ClickCell(4, 1);
+    Run(dateThisRow);
+    test_.messages.Expect(closing, Answer::No);
+    Run(closeButton);
+    EXPECT_TRUE(form_->isVisible());
+    EXPECT_EQ(Row(4), ",,,,,,,,,,,");
+}
+
 TEST_F(ShowingEntries, ThatWereChangedOutsideAreReadAnewAndWhatWasTypedIsKept) {
     Open();
     Enter(1, 1, "33");

@@ -556,6 +556,17 @@ TEST_F(StoringEntries, AFullGridRunsIntoTheParkingRowAndThenEndsTheRun) {
     EXPECT_TRUE(TakeFailure());
 }
 
+TEST_F(StoringEntries, CtrlZTakesBackAnEntryThatWasTyped) {
+    Open();
+    QApplication::processEvents();  // The window becomes the active one.
+    for (int index = 1; index <= 6; ++index) QTest::keyClicks(&Box(index), QString::number(index));
+    QTest::keyClick(&Box(6), Qt::Key_Return);
+    EXPECT_EQ(Entries().Cell(1, 6), QStringLiteral("6"));
+    QTest::keyClick(&Box(1), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Entries().Cell(1, 6), QString());
+    EXPECT_EQ(Box(1).text(), QString());
+}
+
 TEST_F(StoringEntries, CtrlZTakesBackTheEntryInTheParkingRow) {
     Open();
     QApplication::processEvents();  // The window becomes the active one.
