@@ -277,6 +277,12 @@ TEST_F(PreferencesForm, ColoursOnlyItsLinksTwoTextsAndBackground) {
         EXPECT_EQ(label->palette().color(QPalette::WindowText), wanted) << name;
     }
     EXPECT_EQ(form_->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
+    // What is picked now colours its own field only.
+    Pick("Label6", QColor(Qt::red));
+    Pick("Label8", QColor(Qt::blue));
+    EXPECT_EQ(Find<QLabel>(*form_, "Label13")->palette().color(QPalette::WindowText),
+              QColor(0x22, 0x22, 0x22));
+    EXPECT_EQ(form_->palette().color(QPalette::Window), QColor(0xC0, 0xFF, 0xC0));
 }
 
 TEST_F(PreferencesForm, StoresAPickedColourAtOnceAndShowsItInItsOwnField) {
