@@ -10,6 +10,7 @@
 #include "core/settings.h"
 #include "platform/widgets/Chart.h"
 #include "platform/widgets/DatePicker.h"
+#include "platform/widgets/OptionGroup.h"
 #include "platform/widgets/Widgets.h"
 
 namespace {
@@ -24,7 +25,8 @@ BiochartPanel::BiochartPanel(Program& program, QWidget* parent)
       program_(program),
       birthDate_(
           Named(new DatePicker(QStringLiteral("ddd d MMM yyyy"), program.services.today(), this),
-                QStringLiteral("DTPicker1"))) {
+                QStringLiteral("DTPicker1"))),
+      days_(new OptionGroup(this)) {
     birthDate_->setAccessibleName(tr("Birth date"));
     Build();
     LabelChart();
@@ -36,15 +38,13 @@ void BiochartPanel::Build() {
     auto* update = MakeButton(Member(QStringLiteral("Command1"), 8), tr("Update"), this);
     more_ = MakeButton(Member(QStringLiteral("Command1"), 17), tr("More"), this);
     more_->setEnabled(false);
-    auto* today = Named(new QRadioButton(tr("Today"), this), Member(QStringLiteral("Option1"), 0));
-    today->setChecked(true);
-    tomorrow_ = Named(new QRadioButton(tr("Tomorrow"), this), Member(QStringLiteral("Option1"), 1));
+    QRadioButton* today = days_->Add(Member(QStringLiteral("Option1"), 0), tr("Today"));
+    QRadioButton* tomorrow = days_->Add(Member(QStringLiteral("Option1"), 1), tr("Tomorrow"));
+    for (QRadioButton* option : {today, tomorrow}) option->setParent(this);
     chart_ = Named(new Chart(1, seriesCount, this), QStringLiteral("MSChart1"));
     connect(update, &QPushButton::clicked, this, &BiochartPanel::DoBiorhythm);
     connect(more_, &QPushButton::clicked, this, &BiochartPanel::moreWanted);
-    for (QRadioButton* option : {today, tomorrow_}) {
-        connect(option, &QRadioButton::clicked, this, &BiochartPanel::DoBiorhythm);
-    }
+    connect(days_, &OptionGroup::clicked, this, &BiochartPanel::DoBiorhythm);
 
     QGridLayout* sheet = Sheet();
     sheet->addWidget(title, 0, 0);
@@ -52,7 +52,7 @@ void BiochartPanel::Build() {
     sheet->addWidget(update, 1, 1);
     sheet->addWidget(more_, 1, 2);
     sheet->addWidget(today, 2, 1);
-    sheet->addWidget(tomorrow_, 2, 2);
+    sheet->addWidget(tomorrow, 2, 2);
     sheet->addWidget(chart_, 3, 0, 1, 3);
     sheet->setColumnStretch(1, 1);
     sheet->setColumnStretch(2, 1);
@@ -77,8 +77,7 @@ void BiochartPanel::ShowBirthDate() {
 
 void BiochartPanel::DoBiorhythm() {
     const Date birthDate = birthDate_->Value();
-    int days = DaysBetween(birthDate, program_.services.today());
-    if (tomorrow_->isChecked()) ++days;
+    const int days = DaysBetween(birthDate, program_.services.today()) + days_->Index();
     const biorhythms::Values values = biorhythms::Biochart(days);
     for (int column = 1; column <= seriesCount; ++column) {
         chart_->SetValue(1, column, values.at(static_cast<std::size_t>(column - 1)));

@@ -6,8 +6,8 @@
 
 class Chart;
 class DatePicker;
+class OptionGroup;
 class QPushButton;
-class QRadioButton;
 
 /// The biochart: birth date, today or tomorrow, and four bars.
 class BiochartPanel final : public Panel {
@@ -33,7 +33,7 @@ class BiochartPanel final : public Panel {
 
     Program& program_;
     DatePicker* birthDate_;
+    OptionGroup* days_;  // today, tomorrow
     QPushButton* more_ = nullptr;
-    QRadioButton* tomorrow_ = nullptr;
     Chart* chart_ = nullptr;
 };

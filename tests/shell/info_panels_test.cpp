@@ -326,6 +326,15 @@ TEST_F(InfoPanelsOfWindow, EachDrawingKeepsTheBirthDateInTheSettings) {
     EXPECT_EQ(Setting(setting::BirthDate), "03-Feb-1990");
 }
 
+TEST_F(InfoPanelsOfWindow, ADayThatIsSetByCodeIsDrawnTooAndAClickOnTheSameDayDrawsAgain) {
+    StartShown();
+    Find<QRadioButton>(*window, tomorrowOption)->setChecked(true);
+    EXPECT_NEAR(Value(1), Wave(12936, 33), 1e-9);
+    Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
+    Click(*window, tomorrowOption);
+    EXPECT_NEAR(Value(1), Wave(1, 33), 1e-9);
+}
+
 TEST_F(InfoPanelsOfWindow, OnTheDayOfBirthAllFourValuesAreZero) {
     StartShown();
     Find<DatePicker>(*window, birthDatePicker)->SetValue(program.today);
