@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "core/failure.h"
 #include "core/saved_entries.h"
 #include "platform/forms/ScrollingBody.h"
 #include "platform/forms/Skin.h"
@@ -55,8 +56,12 @@ void MainArea::TakePicture() {
 void MainArea::RenewWelcome() {
     if (welcome_ == nullptr || welcome_->isHidden()) return;
     const Services& services = program_.services;
-    welcome_->Suit(LookAtLotteries(program_.folder, services.region, services.today()),
-                   program_.folder.Exists(savedEntriesFile));
+    try {
+        welcome_->Suit(LookAtLotteries(program_.folder, services.region, services.today()),
+                       program_.folder.Exists(savedEntriesFile));
+    } catch (const Failure&) {
+        // It offers what it offered before: no file ends the run for the sake of the welcome.
+    }
 }
 
 void MainArea::CompletePainting() {

@@ -7,6 +7,7 @@
 #include <QDragEnterEvent>
 
 #include "core/draw_database.h"
+#include "core/failure.h"
 #include "core/old_files.h"
 #include "core/saved_entries.h"
 #include "core/saving.h"
@@ -62,7 +63,7 @@ void Quillon::AnswerMenu() {
                   [this] { FloppyCopy(program_, *this, area_->Pictures()).CopyToFloppy(); });
     menu_->Answer(QStringLiteral("FileCopyFromA"), [this] {
         FloppyCopy(program_, *this, area_->Pictures()).CopyFromFloppy();
-        ListDatabases();
+        RenewDatabases();
         area_->RenewWelcome();
     });
     menu_->Answer(QStringLiteral("FileNotes"), [this] { ShowPanels(); });
@@ -130,6 +131,14 @@ void Quillon::ListDatabases() {
     area_->Panels().ShowDatabases(names);
 }
 
+void Quillon::RenewDatabases() {
+    try {
+        ListDatabases();
+    } catch (const Failure&) {
+        // The panel shows those of before.
+    }
+}
+
 void Quillon::UpdateSyndicate() {
     LoadSyndicate(program_.state, program_.folder);
     const std::string& name = View(program_.state).Members(0, 10);
@@ -184,7 +193,7 @@ void Quillon::Import(const QString& path) {
 
 void Quillon::Show(Form& form, const CatalogueEntry& entry) {
     form.exec();
-    if (entry.changesDatabases) ListDatabases();
+    if (entry.changesDatabases) RenewDatabases();
     if (entry.changesSyndicate) UpdateSyndicate();
     if (entry.changesSettings) {
         LoadSettings();

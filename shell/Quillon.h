@@ -48,6 +48,9 @@ class Quillon final : public QMainWindow {
     void LoadSettings();
     void Skinning();
     void ListDatabases();
+    /// As `ListDatabases`, behind something that changed them. What cannot be listed is no reason
+    /// to end the run: the next form that needs it says so.
+    void RenewDatabases();
     void UpdateSyndicate();
     void SaveNotes();
 

@@ -2,6 +2,7 @@
 #include "platform/forms/LotteryList.h"
 
 #include <QCoreApplication>
+#include <optional>
 
 #include "core/database_summary.h"
 #include "core/draw_database.h"
@@ -27,13 +28,24 @@ QString Period(Date oldest, Date newest) {
     return tr("%1 to %2").arg(ToQString(DrawDate(oldest)), end);
 }
 
+/// As far as it can be read: no file ends the run because somebody looks at its name.
+std::optional<DatabaseSummary> SummaryWhereReadable(const Program& program,
+                                                    const std::string& file) {
+    const Services& services = program.services;
+    try {
+        if (!program.folder.Exists(file)) return std::nullopt;
+        return SummaryOf(program.folder, file, services.region, services.today());
+    } catch (const Failure&) {
+        return std::nullopt;
+    }
+}
+
 }  // namespace
 
 QString DatabaseInWords(const Program& program, const std::string& file) {
-    if (!program.folder.Exists(file)) return ToQString(file);
-    const Services& services = program.services;
-    const DatabaseSummary summary =
-        SummaryOf(program.folder, file, services.region, services.today());
+    const std::optional<DatabaseSummary> found = SummaryWhereReadable(program, file);
+    if (!found) return ToQString(file);
+    const DatabaseSummary& summary = *found;
     QStringList words = {Readable(ToQString(summary.lottery)), ToQString(file),
                          DrawsInWords(summary.draws)};
     if (summary.oldest && summary.newest) words += Period(*summary.oldest, *summary.newest);

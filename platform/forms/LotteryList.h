@@ -6,7 +6,7 @@
 class ListBox;
 
 /// What the draw database of that name holds, as far as it can be read: "UK Lotto, dbase100.txt,
-/// 2,065 draws, 19 Nov 94 to 07 Oct 15".
+/// 2,065 draws, 19 Nov 94 to 07 Oct 15"; of a file that cannot be read its name alone.
 QString DatabaseInWords(const Program& program, const std::string& file);
 
 /// Fills the list with the names of the draw databases, in the order of `state.DbaseFiles`, and

@@ -180,6 +180,12 @@ TEST_F(DeletingADatabase, ADatabaseOfWhichLittleCanBeReadIsDeletedToo) {
     EXPECT_FALSE(test_.folder.Exists("dbase100.txt"));
 }
 
+TEST_F(DeletingADatabase, OfAFileThatCannotBeReadSaysItsName) {
+    test_.folder.Lock("dbase100.txt");
+    Lotteries().SetIndex(0);
+    EXPECT_EQ(Contents(), QStringLiteral("dbase100.txt"));
+}
+
 TEST_F(DeletingADatabase, EnterOnAChosenLotteryDeletesNothing) {
     QTest::keyClick(&Lotteries(), Qt::Key_Down);
     QTest::keyClick(&Lotteries(), Qt::Key_Return);

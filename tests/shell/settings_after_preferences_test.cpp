@@ -145,6 +145,32 @@ TEST_F(AfterPreferences, BackupListsTheDatabasesAnewWhenItCloses) {
     EXPECT_EQ(Find<ListBox>(*window, databasesList)->item(0)->text(), QStringLiteral("Restored"));
 }
 
+TEST_F(AfterPreferences, AFileThatIsNoDatabaseDoesNotEndTheRunWhenBackupCloses) {
+    program.folder.Write("dbase2.txt", "Mine\r\n\r\n6,49,0,0,1\r\n");
+    Start();
+    program.folder.Write("Backup/dbase1.txt", "");
+    InDialog([this] { Choose("FileBackup"); },
+             [](QDialog& form) {
+                 Click(form, "Command5");
+                 Click(form, "Command3");
+             });
+    EXPECT_TRUE(program.folder.Exists("dbase1.txt"));
+    const auto* list = Find<ListBox>(*window, databasesList);
+    ASSERT_EQ(list->count(), 1);
+    EXPECT_EQ(list->item(0)->text(), QStringLiteral("Mine"));
+    window->close();
+    EXPECT_EQ(timesEnded, 1);
+}
+
+TEST_F(AfterPreferences, ALockedDatabaseDoesNotEndTheRunForTheWelcome) {
+    program.folder.Write("dbase2.txt", "Mine\r\n\r\n6,49,0,0,1\r\n");
+    Start();
+    program.folder.Lock("dbase2.txt");
+    InPreferences([](QDialog& form) { Click(form, "Command1"); });
+    window->close();
+    EXPECT_EQ(timesEnded, 1);
+}
+
 TEST_F(AfterPreferences, FilesThatBackupRestoresAreWrittenOverAtTheNextQuit) {
     Start();
     program.folder.Write("Backup/quillon.ini", "&HFF\r\n");
