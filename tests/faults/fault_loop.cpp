@@ -153,6 +153,10 @@ std::string FaultLoop::Run(const Fault& fault, Tally& tally) {
     return wrong;
 }
 
+std::string FaultLoop::CallOf(const Fault& fault) const {
+    return calls_.at(static_cast<std::size_t>(fault.call)).name;
+}
+
 std::string FaultLoop::InWords(const Fault& fault) const {
     std::string words;
     switch (fault.kind) {

@@ -56,6 +56,9 @@ class FaultLoop {
     /// Every fault of every call.
     std::vector<system_calls::Fault> Faults() const;
 
+    /// The name of the call at which it happens, such as "write".
+    std::string CallOf(const system_calls::Fault& fault) const;
+
     /// Runs with that fault, counts what came of it, and returns what is wrong; nothing where all
     /// is as it is to be.
     std::string Run(const system_calls::Fault& fault, Tally& tally);

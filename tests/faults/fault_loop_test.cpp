@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every save of the program under errors of the calls that it makes to the system, and under a kill
 // at each. Without orders a sample of the faults is tried; `--all` tries all of them, `--step N`
-// each N-th, `--only NAME` those of one scenario.
+// each N-th, `--call NAME` those at the calls of that name, such as "write".
 #include <gtest/gtest.h>
 
 #include <QStandardPaths>
@@ -17,6 +17,7 @@ namespace {
 
 struct Orders {
     std::size_t step = 0;  // 0: a sample
+    std::string call;      // empty: all of them
 } orders;
 
 Tally total;
@@ -52,6 +53,7 @@ TEST_P(FaultLoopTest, LosesNothing) {
     Tally tally;
     for (std::size_t i = orders.step > 0 ? 0 : (++scenario * 13) % step; i < faults.size();
          i += step) {
+        if (!orders.call.empty() && loop.CallOf(faults[i]) != orders.call) continue;
         const std::string wrong = loop.Run(faults[i], tally);
         EXPECT_EQ(wrong, "") << loop.InWords(faults[i]);
     }
@@ -76,6 +78,7 @@ void TakeOrders(int argumentCount, char** arguments) {
     for (int i = 1; i < argumentCount; ++i) {
         const std::string order = arguments[i];
         if (order == "--all") orders.step = 1;
+        if (order == "--call" && i + 1 < argumentCount) orders.call = arguments[++i];
         if (order == "--step" && i + 1 < argumentCount)
             orders.step = static_cast<std::size_t>(std::atoi(arguments[++i]));
     }

@@ -7,12 +7,12 @@
 
 namespace {
 
-// The work file is nobody's, copies are not copied again, and of settings and of how tables are
-// read only the last state counts, as long as there is one.
+// Help pages are the program's, the work file is nobody's, copies are not copied again, and of
+// settings only the last state counts, as long as there is one.
 bool IsKept(const std::string& name, bool there) {
-    if (name == "temp.txt" || name == "Temp.txt" || name.find('/') != std::string::npos)
-        return false;
-    return !there || (name != "quillon.ini" && name != "ImportFormats.txt");
+    if (name == "temp.txt" || name == "Temp.txt" || name.ends_with(".html")) return false;
+    if (name.find('/') != std::string::npos) return false;
+    return !there || name != "quillon.ini";
 }
 
 std::vector<std::string> TellingLines(const std::string& text) {

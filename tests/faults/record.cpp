@@ -7,7 +7,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <new>
 #include <stdexcept>
 
@@ -29,8 +28,9 @@ fs::path PathOf(const std::string& folder, const std::string& name) {
 }
 
 std::string BytesOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::string bytes(fs::file_size(path), '\0');
+    std::ifstream(path, std::ios::binary).read(bytes.data(), std::ssize(bytes));
+    return bytes;
 }
 
 }  // namespace

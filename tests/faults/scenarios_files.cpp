@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "platform/forms/PrintPreview.h"
 #include "platform/system/FileDialogs.h"
+#include "platform/system/HelpPages.h"
 #include "platform/system/ProgramFolderPath.h"
 #include "platform/system/TextConversion.h"
 #include "shell/version_check.h"
@@ -116,8 +117,25 @@ void UsedFolderAndSupplied(Session& session) {
     UsedFolder(session);
     PutFiles(session.OtherFolder(), {{"bin/", ""},
                                      {"share/quillon/Lottery Info.txt", "News\r\n"},
-                                     {"share/quillon/MyLottery.txt", ""},
-                                     {"share/quillon/help/helpnews.html", "<html></html>"}});
+                                     {"share/quillon/MyLottery.txt", ""}});
+}
+
+// With help pages of before, which nobody has changed since.
+void UsedFolderAndHelpPages(Session& session) {
+    UsedFolder(session);
+    const QString shared = QString::fromStdString(session.OtherFolder() + "/share/quillon");
+    const std::string older = "<html>older</html>";
+    PutFiles(
+        session.OtherFolder(),
+        {{"bin/", ""}, {"share/quillon/help.html", older}, {"share/quillon/help/one.png", older}});
+    session.folder.Write("help.html", older);
+    session.folder.MakeFolder("help");
+    session.folder.Write("help/one.png", older);
+    RenewHelpPages(shared, session.folder.Path(), QStringLiteral("1"));
+    PutFiles(session.OtherFolder(), {{"bin/", ""},
+                                     {"share/quillon/help.html", "<html>newer</html>"},
+                                     {"share/quillon/help/one.png", "a newer picture"},
+                                     {"share/quillon/help/two.png", "another picture"}});
 }
 
 void TakeWhatIsSupplied(Session& session) {
@@ -133,6 +151,10 @@ std::vector<Scenario> FileScenarios() {
         {.name = "FirstStart", .act = Nothing, .starts = true},
         {.name = "Start", .prepare = UsedFolder, .act = Nothing, .starts = true},
         {.name = "TakeWhatIsSupplied", .prepare = UsedFolderAndSupplied, .act = TakeWhatIsSupplied},
+        {.name = "TakeNewHelpPages",
+         .prepare = UsedFolderAndHelpPages,
+         .act = TakeWhatIsSupplied,
+         .silent = true},
         {.name = "QuitSavesNotesAndSettings", .prepare = UsedFolder, .act = Quit},
         {.name = "SaveATemplate", .prepare = UsedFolder, .act = SaveATemplate},
         {.name = "UpdateATemplate", .prepare = UsedFolderWithTemplate, .act = SaveATemplate},
