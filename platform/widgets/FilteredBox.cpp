@@ -7,13 +7,15 @@
 
 #include "platform/widgets/OneLine.h"
 
-/// A box asks its validator about the whole text; only what is new in it is looked at.
+/// A box asks its validator about the whole text; only what is new in it is looked at, and nothing
+/// of a text that the program sets, which leaves nothing to undo.
 class FilteredBox::Rule final : public QValidator {
   public:
     explicit Rule(FilteredBox* box) : QValidator(box), box_(*box) {}
 
     State validate(QString& input, int& position) const override {
-        if (input != known_ && input != box_.told_) TakeNew(input, position);
+        const bool entered = box_.isUndoAvailable();
+        if (entered && input != known_ && input != box_.told_) TakeNew(input, position);
         known_ = input;
         return Acceptable;
     }

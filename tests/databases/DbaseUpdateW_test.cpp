@@ -300,10 +300,10 @@ TEST_F(UpdatingADatabase, EnterSaves) {
 
 TEST_F(UpdatingADatabase, WritesTheTextsAsTheyStand) {
     Open();
-    Save({QStringLiteral("007"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4"),
+    Save({QStringLiteral("007"), QStringLiteral(" 2 "), QStringLiteral("3"), QStringLiteral("4"),
           QStringLiteral("5"), QStringLiteral("06")},
          QDate(2005, 6, 1));
-    EXPECT_NE(test_.folder.Read("dbase100.txt").find("01 Jun 05,007,2,3,4,5,06,,\r\n"),
+    EXPECT_NE(test_.folder.Read("dbase100.txt").find("01 Jun 05,007, 2 ,3,4,5,06,,\r\n"),
               std::string::npos);
 }
 

@@ -51,6 +51,17 @@ TEST_F(AFilteredBox, ReplacesACharacterBeforeItLooksAtIt) {
     EXPECT_EQ(Text(), "'d' e");
 }
 
+TEST_F(AFilteredBox, HoldsNoTextOfTheProgramToItsRule) {
+    box_.setText(QStringLiteral(" 7 x"));
+    EXPECT_EQ(Text(), " 7 x");
+    QTest::keyClicks(&box_, QStringLiteral("8y"));
+    EXPECT_EQ(Text(), " 7 x8");
+    QTest::keyClick(&box_, Qt::Key_Backspace);
+    EXPECT_EQ(Text(), " 7 x");
+    Paste(box_, QStringLiteral("z9"));
+    EXPECT_EQ(Text(), " 7 x9");
+}
+
 TEST_F(AFilteredBox, KeepsWhatItWasToldToShow) {
     box_.Show(QStringLiteral("12,50"));
     EXPECT_EQ(Text(), "12,50");
