@@ -239,6 +239,21 @@ TEST_F(DrawsHistoryEdit, CtrlZLeavesADatabaseAloneThatWasChangedOutside) {
               QStringLiteral("There is nothing to take back"));
 }
 
+TEST_F(DrawsHistoryEdit, CtrlZKnowsNothingOfWhatCameBeforeAChangeFromOutside) {
+    Open();
+    ClickRow(2);
+    Click(*form_, deleteButton);
+    const std::string outside = test_.folder.Read("dbase100.txt") + "14 May 05,1,2,3,4,5,6,0,7\r\n";
+    test_.folder.Write("dbase100.txt", outside);
+    test_.messages.Expect(ChangedOutsideMessage());
+    ClickRow(2);
+    Click(*form_, deleteButton);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(test_.folder.Read("dbase100.txt"), outside);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(),
+              QStringLiteral("There is nothing to take back"));
+}
+
 TEST_F(DrawsHistoryEdit, CtrlZKnowsNothingOfTheLotteryBefore) {
     Open();
     ClickRow(2);

@@ -305,6 +305,36 @@ TEST_F(ShowingEntries, CtrlZTakesBackAllCommandsTheLastOneFirst) {
     EXPECT_FALSE(form_->isVisible());
 }
 
+TEST_F(ShowingEntries, CtrlZTakesBackEachCommandByItself) {
+    const std::vector<std::function<void()>> commands = {[this] { Enter(2, 10, "Zoe"); },
+                                                         [this] { Run(dateThisRow); },
+                                                         [this] { Run(dateAllRows); },
+                                                         [this] { Run(sortByDate); },
+                                                         [this] { Run(sortByName); },
+                                                         [this] { Run(sortByLottery); },
+                                                         [this] {
+                                                             test_.messages.Expect(deleteOld);
+                                                             Run(deleteOldRows);
+                                                         },
+                                                         [this] {
+                                                             test_.messages.Expect(deleteThis);
+                                                             Run(deleteThisRow);
+                                                         }};
+    // None of its commands leaves these as they are.
+    const std::string entries =
+        "31 May 05,3,17,22,9,41,40,,,UK Thunderball,Tom,dbase101.txt\r\n"
+        "28 May 05,4,9,15,27,30,1,,,UK Lotto,Bea,dbase100.txt\r\n"
+        "30 May 05,4,9,1,2,3,,,6,UK Lotto,Ann,dbase101.txt\r\n";
+    Open(entries);
+    const std::string before = Row(1) + Row(2) + Row(3);
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        commands[i]();
+        EXPECT_NE(Row(1) + Row(2) + Row(3), before) << i;
+        QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(Row(1) + Row(2) + Row(3), before) << i;
+    }
+}
+
 TEST_F(ShowingEntries, CtrlZInTheEditBoxTakesBackWhatWasTypedFirst) {
     Open();
     Enter(1, 1, "5");

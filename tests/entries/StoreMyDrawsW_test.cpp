@@ -137,6 +137,20 @@ TEST_F(StoringEntries, CtrlZTakesBackAddedMovedAndDeletedRows) {
     EXPECT_FALSE(Find<QPushButton>(*form_, deleteRowButton)->isEnabled());
 }
 
+TEST_F(StoringEntries, CtrlZTakesBackARowThatWasMovedDown) {
+    Open();
+    QApplication::processEvents();  // The window becomes the active one.
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    const std::string two = Row(1) + Row(2);
+    Click(*form_, upButton);
+    Click(*form_, downButton);
+    EXPECT_EQ(Row(1) + Row(2), two);
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(Row(1) + Row(2), two);
+    EXPECT_EQ(Find<QLabel>(*form_, "Said")->text(), QStringLiteral("Taken back: row moved"));
+}
+
 TEST_F(StoringEntries, BearsItsWords) {
     Open();
     EXPECT_EQ(form_->windowTitle(), QStringLiteral("Store Draws Entries"));

@@ -143,6 +143,17 @@ TEST_F(Managing, CtrlZInTheDiaryKeepsTheWarningOfTypedDetails) {
     EXPECT_TRUE(form_->isVisible());
 }
 
+TEST_F(Managing, CtrlZTakesBackADeletedRowByItself) {
+    OpenWith(twoRecords);
+    Enter(2, 5, "changed");
+    const std::string before = Row(1) + Row(2);
+    ClickCell(2, 1);
+    Run(deleteButton);
+    EXPECT_EQ(Row(2), "|||||");
+    QTest::keyClick(form_.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Row(1) + Row(2), before);
+}
+
 TEST_F(Managing, WhatWasRefusedIsNothingToTakeBack) {
     OpenWith(twoRecords);
     ClickCell(1, 1);

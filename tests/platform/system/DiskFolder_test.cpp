@@ -7,6 +7,7 @@
 #include <sys/fsuid.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <QCoreApplication>
@@ -484,6 +485,38 @@ TEST_F(OnDisk, LeavesAFolderWithFilesThatBearsSuchAName) {
     Put(path_ / ".quillon-1.tmp" / "mine.txt", "x");
     const DiskFolder reopened(place_.path());
     EXPECT_EQ(Snapshot(), (Files{{".quillon-1.tmp/mine.txt", "x"}}));
+}
+
+TEST_F(OnDisk, KeepsWhatIsJustBeingWrittenToItselfAndAsPrivateAsTheFile) {
+    folder_.Write("Notes.txt", "old");
+    fs::permissions(path_ / "Notes.txt", fs::perms(0600));
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+        // The system stops the process at the write that would make a file too large.
+        std::signal(SIGXFSZ, [](int) { ::raise(SIGSTOP); });
+        const rlimit size{.rlim_cur = 10, .rlim_max = 10};
+        ::setrlimit(RLIMIT_FSIZE, &size);
+        folder_.Write("Notes.txt", std::string(100, 'x'));
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(writer, &status, WUNTRACED), writer);
+    ASSERT_TRUE(WIFSTOPPED(status)) << "it wrote all";
+    const auto unfinished = [this] {
+        std::vector<fs::perms> found;
+        for (const auto& entry : fs::directory_iterator(path_)) {
+            if (entry.path().filename().string().starts_with(".quillon-"))
+                found.push_back(entry.status().permissions());
+        }
+        return found;
+    };
+    { const DiskFolder otherRun(place_.path()); }
+    EXPECT_EQ(unfinished(), std::vector{fs::perms(0600)});
+    ::kill(writer, SIGKILL);
+    ::waitpid(writer, &status, 0);
+    { const DiskFolder nextRun(place_.path()); }
+    EXPECT_TRUE(unfinished().empty());
+    EXPECT_EQ(BytesOf(path_ / "Notes.txt"), "old");
 }
 
 TEST_F(OnDisk, MakesANewFile) {

@@ -108,6 +108,7 @@ TEST_F(PageAddressOf, NoOtherKindOfAddressIsOpened) {
     for (const char* page : {"file:///etc/passwd",
                              "file:help.html",
                              "FILE:///etc/passwd",
+                             "file://server/share",
                              "smb://server/share",
                              "ftp://www.example.org",
                              "javascript:alert(1)",

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QToolTip>
 
+#include "platform/widgets/Readable.h"
 #include "platform/widgets/WindowShade.h"
 #include "tests/core/failures.h"
 #include "tests/support/form_test.h"
@@ -111,6 +112,17 @@ TEST_F(ABiochart, ShowsTheFigureUnderTheMouse) {
     QHelpEvent help(QEvent::ToolTip, place, plot->mapToGlobal(place));
     QApplication::sendEvent(plot, &help);
     EXPECT_EQ(QToolTip::text(), QStringLiteral("Emotional: -4.25"));
+}
+
+TEST_F(ABiochart, ShowsMarkupInANameAsItStands) {
+    chart.SetColumnLabel(2, QStringLiteral("<img src='x'/>"));
+    chart.Refresh();
+    QWidget* plot = chart.findChild<QWidget*>();
+    const QPoint place(plot->width() * 2 / 5, plot->height() / 2);
+    QHelpEvent help(QEvent::ToolTip, place, plot->mapToGlobal(place));
+    QApplication::sendEvent(plot, &help);
+    EXPECT_EQ(QToolTip::text(), PlainTip(QStringLiteral("<img src='x'/>: -4.25")));
+    EXPECT_NE(QToolTip::text(), QStringLiteral("<img src='x'/>: -4.25"));
 }
 
 TEST_F(ABiochart, DrawsBarsUpAndDownFromZero) {
