@@ -68,6 +68,14 @@ TEST_F(NumerologyForm, MakesAsManyLinesAsTheWheelHasStarts) {
     EXPECT_EQ(ShownLines(), 3);
 }
 
+TEST_F(NumerologyForm, GivesTheNumbersOfItsNameAndDate) {
+    Open();
+    EnterName(" a b");
+    Find<DatePicker>(*form_, birthDate)->SetValue(std::chrono::year(1985) / 7 / 23);
+    Generate();
+    EXPECT_EQ(ShownNumbers(), NumbersOf(2 * ('A' + 'B' + 23 + 7 + 1985) + 1));
+}
+
 TEST_F(NumerologyForm, ShowsFifteenNumbersWhateverTheLottery) {
     Open();
     EnterName("Ann");

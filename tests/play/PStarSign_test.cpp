@@ -116,6 +116,15 @@ TEST_F(AstrologyForm, GivesTheSameLinesForTheSameSignDayAndDate) {
     EXPECT_EQ(ShownNumbers(), numbers);
 }
 
+TEST_F(AstrologyForm, GivesTheNumbersOfItsSignDayAndDate) {
+    Open();
+    Sign().SetIndex(2);
+    BirthDay().SetIndex(5);
+    DrawDate().SetValue(Day(2005, 7, 9));
+    Generate();
+    EXPECT_EQ(ShownNumbers(), NumbersOf(2 * (2 * 19 + 5 * 13 + 9 + 7 + 2005) + 1));
+}
+
 TEST_F(AstrologyForm, GivesOtherNumbersForAnotherDate) {
     Open();
     Generate();

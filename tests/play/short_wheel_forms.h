@@ -5,7 +5,9 @@
 #include <QRadioButton>
 #include <set>
 
+#include "platform/system/TextConversion.h"
 #include "platform/widgets/Lists.h"
+#include "play/short_wheel.h"
 #include "tests/support/lines_form.h"
 #include "tests/support/sample_lotteries.h"
 
@@ -60,6 +62,13 @@ class ShortWheelFormTest : public LinesFormTest {
         const QString words = QStringLiteral(" Your lucky numbers:");
         EXPECT_TRUE(Text(luckyNumbers).startsWith(words));
         return Text(luckyNumbers).mid(words.size()).split(QStringLiteral(","));
+    }
+
+    /// The same of a seed value, worked out without a form.
+    static QStringList NumbersOf(std::int64_t seed) {
+        State state;
+        Random random([] { return std::uint64_t{0}; });
+        return ToQString(ShuffleLuckyNumbers(state, random, seed)).split(QStringLiteral(","));
     }
 
     /// With the second wheel each lottery of the list gets five lines of distinct numbers that it

@@ -140,6 +140,12 @@ TEST_F(InfoPanelsOfWindow, AreShownAfterARestartWhereTheyWereShown) {
     EXPECT_EQ(Setting(setting::InfoPanels), "1");
 }
 
+TEST_F(InfoPanelsOfWindow, StayHiddenForAnySettingButOne) {
+    WriteSettings(setting::InfoPanels, "10");
+    Start();
+    EXPECT_TRUE(Find<QWidget>(*window, biochartHeading)->isHidden());
+}
+
 TEST_F(InfoPanelsOfWindow, HideTheWelcomeWhileTheyAreShown) {
     Start();
     EXPECT_TRUE(Find<QWidget>(*window, "WelcomeTitle")->isVisible());
@@ -221,6 +227,15 @@ TEST_F(InfoPanelsOfWindow, AddTakesTheFirstFreeItemAndKeepsTheBox) {
     EXPECT_EQ(Item(3)->text(), QStringLiteral("Meet at six"));
     EXPECT_EQ(Item(6)->text(), QString());
     EXPECT_EQ(TextOf(newItemBox), QStringLiteral("Meet at six"));
+}
+
+TEST_F(InfoPanelsOfWindow, AnItemKeepsTheBlanksAroundIt) {
+    StartShown();
+    Type(*window, newItemBox, QStringLiteral("  Meet at six "));
+    Click(*window, addItemButton);
+    EXPECT_EQ(Item(6)->text(), QStringLiteral("  Meet at six "));
+    Quit();
+    EXPECT_NE(NotesFile().find("\r\n 0 ,  Meet at six \r\n"), std::string::npos);
 }
 
 TEST_F(InfoPanelsOfWindow, AnItemOfTwoPastedLinesStaysOneLineOfTheFile) {

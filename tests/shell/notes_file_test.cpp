@@ -57,6 +57,7 @@ TEST(NotesFile, KeepsTicksAndCaptionsOverARestart) {
     notes.checklist[0].ticked = true;
     notes.checklist[7] = {true, "\"Lotto\" on Friday"};
     notes.checklist[3].caption.clear();
+    notes.checklist[6] = {true, ""};
     EXPECT_EQ(Restarted(notes), notes);
 }
 

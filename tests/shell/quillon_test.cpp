@@ -364,6 +364,16 @@ TEST_F(QuillonForm, ExitSavesNotesAndSettingsAndEndsTheRunOnce) {
     EXPECT_NE(program.folder.Read("quillon.ini").find("01-Jan-1970"), std::string::npos);
 }
 
+TEST_F(QuillonForm, ExitLetsMessagesRunOnce) {
+    Start();
+    int runs = 0;
+    QTimer everyRun;
+    QObject::connect(&everyRun, &QTimer::timeout, &everyRun, [&runs] { ++runs; });
+    everyRun.start(0);
+    Choose("FileExit");
+    EXPECT_EQ(runs, 1);
+}
+
 TEST_F(QuillonForm, ExitLetsMessagesRunBeforeItSaves) {
     Start();
     QMetaObject::invokeMethod(
