@@ -124,6 +124,10 @@ bool StoreMyDrawsW::RowCanMoveDown() const {
 void StoreMyDrawsW::GoToRow(int row) {
     grid_->MarkRow(row);
     grid_->SetRowsInUse(EntryCount(*grid_));
+    OfferRowCommands();
+}
+
+void StoreMyDrawsW::OfferRowCommands() {
     Offer(*deleteRow_, EntryIsChosen());
     Offer(*moveUp_, RowCanMoveUp());
     Offer(*moveDown_, RowCanMoveDown());

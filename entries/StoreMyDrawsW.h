@@ -47,6 +47,7 @@ class StoreMyDrawsW final : public Form {
 
     /// Makes the row current and marks it; the row commands are offered where they do something.
     void GoToRow(int row);
+    void OfferRowCommands();
     void Offer(QPushButton& command, bool possible);
 
     bool EntryIsChosen() const;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The controls of StoreMyDrawsW and where they stand.
 #include <QHBoxLayout>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -37,6 +38,11 @@ StoreMyDrawsW::StoreMyDrawsW(Program& program, QWidget* parent)
     takeBack_ = new TakeBack(*this);
     SetOpeningSize({sizeHint().width(), 620});
     GoToRow(grid_->CurrentRow());
+    // A screen reader makes cells current without a click or a key.
+    connect(grid_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& now) {
+                if (now.isValid()) OfferRowCommands();
+            });
 }
 
 void StoreMyDrawsW::MakeGrid() {

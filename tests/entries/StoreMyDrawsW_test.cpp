@@ -520,6 +520,34 @@ TEST_F(StoringEntries, OffersRowCommandsWhereTheyDoSomething) {
     EXPECT_EQ(offered(), "---") << "no row is chosen";
 }
 
+TEST_F(StoringEntries, MovingARowLeavesTheFocusOnItsButton) {
+    Open();
+    QApplication::processEvents();  // The window becomes the active one.
+    for (int first = 1; first <= 4; ++first) Add({first, 12, 13, 14, 15, 16});
+    ClickRow(1);
+    auto* down = Find<QPushButton>(*form_, downButton);
+    down->setFocus();
+    QTest::keyClick(down, Qt::Key_Space);
+    EXPECT_TRUE(down->hasFocus());
+    QTest::keyClick(down, Qt::Key_Space);
+    EXPECT_EQ(Entries().CurrentRow(), 3);
+    EXPECT_EQ(Entries().Cell(3, 1), QStringLiteral("1"));
+}
+
+TEST_F(StoringEntries, OffersRowCommandsForARowThatNobodyClicked) {
+    Open();
+    Add({1, 2, 3, 4, 5, 6});
+    Add({7, 8, 9, 10, 11, 12});
+    const QAbstractItemModel& cells = *Entries().model();
+    Entries().setCurrentIndex(cells.index(0, 3));
+    EXPECT_FALSE(Find<QPushButton>(*form_, upButton)->isEnabled());
+    Click(*form_, downButton);
+    EXPECT_EQ(Entries().Cell(1, 1), QStringLiteral("7"));
+    EXPECT_EQ(Entries().CurrentRow(), 2);
+    Entries().setCurrentIndex(cells.index(5, 3));
+    EXPECT_FALSE(Find<QPushButton>(*form_, deleteRowButton)->isEnabled());
+}
+
 TEST_F(StoringEntries, OffersRowCommandsAsTheKeysMoveOn) {
     Open();
     Add({1, 2, 3, 4, 5, 6});
