@@ -10,14 +10,26 @@
 #include "platform/forms/Form.h"
 #include "platform/system/Services.h"
 
+namespace {
+
+/// Where one was open and the settings that name its file have been read anew.
+void KeepWithoutFile(Program& program, Form& form) {
+    const State& state = program.state;
+    const std::string text = SyndicateText(state);
+    if (state.MembersOnDisk.empty() || text == state.MembersOnDisk) return;
+    KeepUnsaved(program.folder, "SMembers", text);
+    form.Say(QCoreApplication::translate(
+        "SyndicateReadAnew", "No syndicate is open any more: all this is kept in Backup/Undo"));
+}
+
+}  // namespace
+
 bool SyndicateReadAnew(Program& program, Form* form) {
     const State& state = program.state;
     const ShownFile shown{.name = state.Settings(setting::SyndicateFile),
                           .bytes = state.MembersOnDisk};
     if (shown.name.empty()) {
-        KeepUnsaved(program.folder, "SMembers", SyndicateText(state));
-        form->Say(QCoreApplication::translate(
-            "SyndicateReadAnew", "No syndicate is open any more: all this is kept in Backup/Undo"));
+        KeepWithoutFile(program, *form);
         return false;
     }
     if (!ChangedOutside(program, form, shown, SyndicateText(state))) return false;

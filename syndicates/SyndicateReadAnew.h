@@ -9,5 +9,5 @@ struct Program;
 /// their place. The form, which writes nothing, shows them anew.
 ///
 /// Settings that were read anew may name no syndicate any more: nothing will be written then, so
-/// the members are kept in `Backup/Undo`, and the form says so in its quiet line.
+/// members that were changed are kept in `Backup/Undo`, and the form says so in its quiet line.
 bool SyndicateReadAnew(Program& program, Form* form);

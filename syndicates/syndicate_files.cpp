@@ -47,28 +47,6 @@ void PutDetails(State& state, const SyndicateDetails& details) {
     for (const std::string& text : details.manager) state.Members(0, column++) = text;
 }
 
-namespace {
-
-// Settings that were read anew may name the file of another syndicate than the one in memory, or
-// none. A file that cannot be looked at is left to the save, which says why.
-bool HasNoFile(const State& state, const ProgramFolder& folder) {
-    const std::string& file = state.Settings(setting::SyndicateFile);
-    if (file.empty()) return !state.MembersOnDisk.empty();
-    try {
-        return HoldsAnother(folder, file, state.MembersOnDisk);
-    } catch (const Failure&) {
-        return false;
-    }
-}
-
-void SaveOpenSyndicate(State& state, ProgramFolder& folder) {
-    if (!HasNoFile(View(state), folder)) return SaveSyndicate(state, folder);
-    const std::string text = SyndicateText(state);
-    if (text != state.MembersOnDisk) KeepUnsaved(folder, "SMembers", text);
-}
-
-}  // namespace
-
 void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails& trimmed) {
     const auto create = [&] {
         state.Members.Fill({});
@@ -78,7 +56,7 @@ void StartSyndicate(State& state, ProgramFolder& folder, const SyndicateDetails&
         state.Settings(setting::SyndicateFile) =
             CreateNumbered(folder, 0, name, state.MembersOnDisk);
     };
-    SaveAll({[&] { SaveOpenSyndicate(state, folder); }, create});
+    SaveAll({[&] { SaveSyndicate(state, folder); }, create});
 }
 
 std::vector<ListedSyndicate> ListSyndicates(const ProgramFolder& folder) {

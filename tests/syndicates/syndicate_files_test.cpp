@@ -67,40 +67,6 @@ TEST_F(Syndicates, AreMadeThoughTheOneThatWasOpenCannotBeSaved) {
     EXPECT_NE(folder_.Read("SMembers.001").find("\"Club\""), std::string::npos);
 }
 
-TEST_F(Syndicates, AreNotSavedOverAnotherThatTheSettingsNameAgain) {
-    Start("Winners");
-    const std::string winners = folder_.Read(File());
-    Start("Club");
-    state_.Members(1, 0) = "Bob";
-    File() = "SMembers.000";
-    Start("Team");
-    EXPECT_EQ(File(), "SMembers.002");
-    EXPECT_EQ(folder_.Read("SMembers.000"), winners);
-    ASSERT_EQ(folder_.OldFiles().size(), 1U);
-    EXPECT_NE(folder_.OldFiles().begin()->second.find("\"Bob\""), std::string::npos);
-}
-
-TEST_F(Syndicates, AreKeptWhereTheSettingsNameNoneAnyMore) {
-    Start("Winners");
-    const std::string winners = folder_.Read(File());
-    state_.Members(1, 0) = "Bob";
-    File().clear();
-    Start("Team");
-    EXPECT_EQ(folder_.Read("SMembers.000"), winners);
-    ASSERT_EQ(folder_.OldFiles().size(), 1U);
-    EXPECT_NE(folder_.OldFiles().begin()->second.find("\"Bob\""), std::string::npos);
-}
-
-TEST_F(Syndicates, AreNotKeptAgainWhereTheirOwnFileHoldsThem) {
-    Start("Winners");
-    Start("Club");
-    File() = "SMembers.000";
-    Start("Team");
-    File().clear();
-    Start("Crew");
-    EXPECT_TRUE(folder_.OldFiles().empty());
-}
-
 TEST_F(Syndicates, ThatCannotBeMadeAreRescued) {
     folder_.OfferRescue();
     Start("Winners");

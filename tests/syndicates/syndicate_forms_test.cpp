@@ -122,6 +122,33 @@ TEST_F(MakingASyndicate, ReadsTheOldOneAnewWhereItWasChangedOutsideAndMakesTheNe
     EXPECT_EQ(Member(0, 10), "Club");
 }
 
+TEST_F(MakingASyndicate, KeepsChangedMembersWhereTheSettingsNameNoSyndicateAnyMore) {
+    const std::string before = test_.folder.Read("SMembers.000");
+    test_.state.Members(1, 0) = "Bob";
+    test_.state.Settings(setting::SyndicateFile).clear();
+    Open();
+    Box("Text1(7)").setText(QStringLiteral("Club"));
+    Box("Text1(0)").setText(QStringLiteral("Eve"));
+    test_.messages.Expect(created);
+    Run("Command1");
+    EXPECT_EQ(test_.folder.Read("SMembers.000"), before);
+    ASSERT_EQ(test_.folder.OldFiles().size(), 1U);
+    EXPECT_NE(test_.folder.OldFiles().begin()->second.find("\"Bob\""), std::string::npos);
+}
+
+TEST_F(MakingASyndicate, LeavesNoCopyWhereNoneWasOpenOrNoneWasChanged) {
+    for (const bool open : {true, false}) {
+        test_.state.Settings(setting::SyndicateFile).clear();
+        if (!open) LoadSyndicate(test_.state, test_.folder);
+        Open();
+        Box("Text1(7)").setText(QStringLiteral("Club"));
+        Box("Text1(0)").setText(QStringLiteral("Eve"));
+        test_.messages.Expect(created);
+        Run("Command1");
+        EXPECT_TRUE(test_.folder.OldFiles().empty()) << open;
+    }
+}
+
 TEST_F(MakingASyndicate, SavesTheOldOneAndOpensTheNew) {
     test_.state.Members(1, 0) = "Bob";
     Open();
