@@ -66,8 +66,17 @@ void Application::ReportAndEnd(const QString& text) {
     // What else fails while the report is on screen belongs to a run that is over.
     if (reporting_) return;
     reporting_ = true;
-    ShowFailureReport(text);
+    ShowFailureReport(text % Rescued());
     End(EXIT_FAILURE);
+}
+
+QString Application::Rescued() const {
+    try {
+        return rescue_();
+    } catch (const std::exception&) {
+        // What ends the run is told, whatever else goes wrong.
+        return {};
+    }
 }
 
 void Application::End(int exitCode) {

@@ -26,13 +26,19 @@ class Application final : public QApplication {
     /// was being worked on. May be asked for long after the program's own function has ended.
     void TellWhatWasInUse(std::function<QString()> inUse) { inUse_ = std::move(inUse); }
 
+    /// What is done before a report is shown: something that the user has typed is put where it
+    /// outlives the run. The report ends with the text returned.
+    void RescueBeforeTheEnd(std::function<QString()> rescue) { rescue_ = std::move(rescue); }
+
     /// Ends the process at once, whatever is open.
     [[noreturn]] static void End(int exitCode);
 
   private:
     QString ReportOf(const std::exception& error) const;
     void ReportAndEnd(const QString& text);
+    QString Rescued() const;
 
     std::function<QString()> inUse_ = [] { return QString(); };
+    std::function<QString()> rescue_ = [] { return QString(); };
     bool reporting_ = false;
 };

@@ -109,6 +109,7 @@ void Quillon::Load() {
     Skinning();
     if (program_.state.Settings(setting::InfoPanels) == "1") ShowPanels();
     if (program_.folder.Exists(notesFile)) area_->Panels().ShowNotes(ReadNotes(program_.folder));
+    knownNotes_ = NotesText(area_->Panels().CurrentNotes());
     area_->Panels().Biochart().ShowBirthDate();
     area_->Panels().Biochart().DoBiorhythm();
     LoadSyndicate(program_.state, program_.folder);
@@ -163,7 +164,16 @@ void Quillon::ShowPanels() {
     program_.state.Settings(setting::InfoPanels).assign(1, shown ? '1' : '0');
 }
 
-void Quillon::SaveNotes() { ::SaveNotes(program_.folder, area_->Panels().CurrentNotes()); }
+void Quillon::SaveNotes() {
+    const Notes notes = area_->Panels().CurrentNotes();
+    knownNotes_ = NotesText(notes);
+    ::SaveNotes(program_.folder, notes);
+}
+
+std::string Quillon::UnsavedNotes() const {
+    std::string notes = NotesText(area_->Panels().CurrentNotes());
+    return notes == knownNotes_ ? std::string() : notes;
+}
 
 void Quillon::Open(const CatalogueEntry& entry, int lottery) {
     if (entry.needsSavedEntries && !program_.folder.Exists(savedEntriesFile)) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <string>
 
 #include "platform/system/Services.h"
 
@@ -28,6 +29,10 @@ class Quillon final : public QMainWindow {
 
     /// Opens the import with that file.
     void Import(const QString& path);
+
+    /// What `Notes.txt` would hold, where the notes have been changed since they were read and no
+    /// save of them has been tried; else nothing.
+    std::string UnsavedNotes() const;
 
   Q_SIGNALS:
     /// The window has been closed and notes and settings are on disk: the run is over.
@@ -60,6 +65,7 @@ class Quillon final : public QMainWindow {
     void Quit();
 
     Program& program_;
+    std::string knownNotes_;  // as they were read, or were to be saved
     MainMenu* menu_;
     MainArea* area_;
     HelpCommands* help_;

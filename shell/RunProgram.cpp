@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QLocale>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QTimer>
 #include <cstdio>
@@ -31,6 +32,7 @@
 #include "shell/Application.h"
 #include "shell/Quillon.h"
 #include "shell/RescueNotice.h"
+#include "shell/notes_file.h"
 #include "shell/own_addresses.h"
 
 namespace {
@@ -105,11 +107,25 @@ void TellOfRescues(const Services& services, QWidget& window) {
     TellOfRescuedFiles(services.messages, &window, FirstTold(ours, record));
 }
 
+QString RescueNotes(const Quillon& window, ProgramFolder& folder) {
+    const std::string notes = window.UnsavedNotes();
+    const std::string path = notes.empty() ? notes : folder.Rescue(notesFile, notes);
+    if (path.empty()) return {};
+    return QStringLiteral("\n\n") %
+           QCoreApplication::translate("RunProgram",
+                                       "Your notes, which were not saved yet, are kept in %1.")
+               .arg(ToQString(path));
+}
+
 int ShowWindow(Program& program, OneRun& run) {
     Quillon window(program);
     QObject::connect(&window, &Quillon::ended, &window, [] { Application::End(EXIT_SUCCESS); });
     run.AnswerBy([&window] { BringToFront(window); });
     window.Load();
+    static_cast<Application*>(qApp)->RescueBeforeTheEnd(
+        [open = QPointer<Quillon>(&window), &program] {
+            return open ? RescueNotes(*open, program.folder) : QString();
+        });
     window.show();
     QTimer::singleShot(0, &window, [&] { TellOfRescues(program.services, window); });
     return QApplication::exec();

@@ -185,6 +185,25 @@ TEST_F(Process, WhatCannotBeSavedAtQuitIsReported) {
         << "the settings are saved all the same";
 }
 
+TEST_F(Process, NotesThatWereTypedOutliveAReport) {
+    Write("dbase1.txt", "Huge\r\n\r\n6,1000000000,0,0,0\r\n28 May 05,1,2,3,4,5,6,0,0\r\n");
+    ExpectReport({"counts of main numbers", "Your notes, which were not saved yet, are kept in "},
+                 {QStringLiteral("note=typed"), QStringLiteral("trigger=AnalyseColdNums")});
+    const QDir rescued(home.path() % QStringLiteral("/data/quillon/Rescued"));
+    const QStringList files = rescued.entryList(QDir::Files);
+    ASSERT_EQ(files.size(), 1);
+    EXPECT_TRUE(files.first().endsWith(QStringLiteral(" Notes.txt")));
+    QFile file(rescued.filePath(files.first()));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().endsWith("typed"));
+}
+
+TEST_F(Process, NotesThatNobodyTypedNeedNoRescue) {
+    Write("dbase1.txt", "Huge\r\n\r\n6,1000000000,0,0,0\r\n28 May 05,1,2,3,4,5,6,0,0\r\n");
+    ExpectReport({"counts of main numbers"}, {QStringLiteral("trigger=AnalyseColdNums")});
+    EXPECT_FALSE(QDir(home.path() % QStringLiteral("/data/quillon/Rescued")).exists());
+}
+
 TEST_F(Process, WhatWasRescuedFromAnotherFolderIsNotToldHere) {
     QDir(folderPath).mkdir(QStringLiteral("Notes.txt"));
     RunToItsEnd({QStringLiteral("quit")});

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Runs the program on a folder for tests that need a whole process: it prints the report of a
 // failure or any other message and presses its first button. Where it is asked to, it stores an
-// entry for a player ("player=Ann") in the way a user does, chooses a menu entry
-// ("trigger=HelpAbout"), or closes the main window ("quit").
+// entry for a player ("player=Ann") in the way a user does, types into the note pad ("note=text"),
+// chooses a menu entry ("trigger=HelpAbout"), or closes the main window ("quit").
 #include <QAction>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <iostream>
@@ -49,12 +50,15 @@ class Hand {
             const QString value = order.section(QLatin1Char('='), 1);
             if (order.startsWith(QStringLiteral("player="))) player_ = value;
             if (order.startsWith(QStringLiteral("trigger="))) entry_ = value;
+            if (order.startsWith(QStringLiteral("note="))) note_ = value;
         }
     }
 
     void Move() {
         if (auto* report = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
             CloseReport(*report);
+        } else if (!note_.isEmpty()) {
+            TypeNote();
         } else if (!player_.isEmpty()) {
             StoreEntry();
         } else if (!entry_.isEmpty()) {
@@ -65,6 +69,13 @@ class Hand {
     }
 
   private:
+    void TypeNote() {
+        QWidget* const window = Window("Quillon");
+        if (window == nullptr) return;
+        window->findChild<QPlainTextEdit*>(QStringLiteral("Text1"))->setPlainText(note_);
+        note_.clear();
+    }
+
     void StoreEntry() {
         QWidget* const form = Window("StoreMyDrawsW");
         if (form == nullptr) return Trigger(QStringLiteral("DatabaseStoreDrawsW"));
@@ -93,6 +104,7 @@ class Hand {
     bool quits_;
     QString player_;
     QString entry_;
+    QString note_;
     bool triggered_ = false;
     bool entered_ = false;
 };
