@@ -148,6 +148,20 @@ class ShowingEntries : public testing::Test {
         EXPECT_FALSE(form_->isVisible());
     }
 
+    /// Every command that changes the entries.
+    std::vector<std::function<void()>> Edits() {
+        const auto confirmed = [this](const Message& question, const char* command) {
+            return [this, &question, command] {
+                test_.messages.Expect(question);
+                Run(command);
+            };
+        };
+        return {[this] { Enter(1, 1, "33"); },       [this] { Run(dateThisRow); },
+                [this] { Run(dateAllRows); },        [this] { Run(sortByDate); },
+                [this] { Run(sortByName); },         [this] { Run(sortByLottery); },
+                confirmed(deleteOld, deleteOldRows), confirmed(deleteThis, deleteThisRow)};
+    }
+
     TestProgram test_;
     std::unique_ptr<ShowMyDrawsW> form_;
 };
@@ -306,20 +320,7 @@ TEST_F(ShowingEntries, CtrlZTakesBackAllCommandsTheLastOneFirst) {
 }
 
 TEST_F(ShowingEntries, CtrlZTakesBackEachCommandByItself) {
-    const std::vector<std::function<void()>> commands = {[this] { Enter(2, 10, "Zoe"); },
-                                                         [this] { Run(dateThisRow); },
-                                                         [this] { Run(dateAllRows); },
-                                                         [this] { Run(sortByDate); },
-                                                         [this] { Run(sortByName); },
-                                                         [this] { Run(sortByLottery); },
-                                                         [this] {
-                                                             test_.messages.Expect(deleteOld);
-                                                             Run(deleteOldRows);
-                                                         },
-                                                         [this] {
-                                                             test_.messages.Expect(deleteThis);
-                                                             Run(deleteThisRow);
-                                                         }};
+    const std::vector<std::function<void()>> commands = Edits();
     // None of its commands leaves these as they are.
     const std::string entries =
         "31 May 05,3,17,22,9,41,40,,,UK Thunderball,Tom,dbase101.txt\r\n"
@@ -768,19 +769,7 @@ TEST_F(ShowingEntries, TheCheckSumsUpWhatItDidNotCheck) {
 
 TEST_F(ShowingEntries, EveryEditOutdatesTheCheck) {
     Open();
-    const std::vector<std::function<void()>> edits = {[this] { Enter(1, 1, "33"); },
-                                                      [this] { Run(dateThisRow); },
-                                                      [this] { Run(dateAllRows); },
-                                                      [this] { Run(sortByDate); },
-                                                      [this] {
-                                                          test_.messages.Expect(deleteOld);
-                                                          Run(deleteOldRows);
-                                                      },
-                                                      [this] {
-                                                          test_.messages.Expect(deleteThis);
-                                                          Run(deleteThisRow);
-                                                      }};
-    for (const auto& edit : edits) {
+    for (const auto& edit : Edits()) {
         Run(checkButton);
         EXPECT_NE(CheckSummary(), QStringLiteral("Changed since the check"));
         edit();
