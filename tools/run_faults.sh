@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Runs every save of the program under every fault of every call that it makes to the system, then
-# every file that is read in every damage, and prints a line for each and the sums. Takes some twenty
-# minutes; `tools/run_faults.sh --step 5` tries each fifth fault, `--gtest_filter=*StoreEntries*` one
-# of the saves.
+# every file that is read in every damage, and prints a line for each and the sums. Takes some forty
+# minutes; `tools/run_faults.sh --step 5` tries each fifth fault, `--call write` those at the calls of
+# that name, `--gtest_filter=*StoreEntries*` one of the saves.
 set -uo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.." || exit 1
 . tools/setup.sh
