@@ -129,9 +129,12 @@ std::string FaultLoop::WhatIsNotRescued() const {
 // Where the write was to change nothing, there is nothing to rescue.
 bool FaultLoop::IsRescued(const std::string& file, const std::set<std::string>& kept) const {
     std::set<std::string> wanted = contents_.at(file);
-    if (const auto before = before_.find(file); before != before_.end()) {
-        wanted.erase(before->second);
-    }
+    const auto before = before_.find(file);
+    const auto after = after_.find(file);
+    // What is taken back is written as it was before.
+    const bool comesBack = before != before_.end() && after != after_.end() &&
+                           before->second == after->second && wanted.size() > 1;
+    if (before != before_.end() && !comesBack) wanted.erase(before->second);
     return wanted.empty() || std::ranges::any_of(wanted, [&kept](const std::string& content) {
                return std::ranges::any_of(kept, [&content](const std::string& bytes) {
                    return !bytes.empty() && content.ends_with(bytes);
