@@ -24,12 +24,16 @@ done
 
 InstallPackages "${packages[@]}" clang libclang-rt-dev
 build=build/fuzz
+mkdir -p $build
 if [[ ! -f $build/build.ninja ]]; then
     cmake -B $build -G Ninja -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-g1 \
         -DCMAKE_CXX_COMPILER=clang++ -DQUILLON_FUZZERS=ON -DQUILLON_BENCHMARKS=OFF \
         -DQUILLON_PRECOMPILE=OFF >build/configure-fuzz.log 2>&1 || Fail 'clang could not be configured'
 fi
-ninja -C $build --quiet fuzzers || Fail 'the fuzz targets could not be built'
+ninja -C $build --quiet fuzzers >$build/fuzzers.log 2>&1 || {
+    cat $build/fuzzers.log >&2
+    Fail 'the fuzz targets could not be built'
+}
 
 # Copies the files that a target may read into its corpus, each under the name of its bytes.
 Seed() {
